@@ -1,0 +1,41 @@
+#pragma once
+
+#include "store/Files.h"
+
+#include <filesystem>
+#include <set>
+
+namespace iceline {
+
+/// The files of the disk, beneath one folder.
+///
+/// A file is replaced by writing a temporary file beside it, checking every write, syncing it (Durability::Now),
+/// renaming it over the old one and syncing the folder, so that neither a full disk nor a power cut leaves a part.
+class DiskFiles : public Files {
+public:
+    /// `root` is the league folder.
+    explicit DiskFiles(std::filesystem::path root);
+
+    std::string read(const std::string& path) override;
+    std::string readFirst(const std::string& path, std::size_t limit) override;
+    void write(const std::string& path, std::string_view content, Durability durability) override;
+    void extend(const std::string& path, std::uintmax_t length, std::string_view content,
+                Durability durability) override;
+    void remove(const std::string& path) override;
+    void makeFolder(const std::string& path) override;
+    void removeFolder(const std::string& path) override;
+    bool isFile(const std::string& path) override;
+    bool isFolder(const std::string& path) override;
+    std::uintmax_t size(const std::string& path) override;
+    std::vector<std::string> filesIn(const std::string& folder) override;
+    std::vector<std::string> foldersIn(const std::string& folder) override;
+    void sync() override;
+
+    const std::filesystem::path& root() const { return root_; }
+
+private:
+    std::filesystem::path root_;
+    std::set<std::string> unsynced_; ///< files and folders changed with Durability::Later
+};
+
+} // namespace iceline

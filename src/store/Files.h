@@ -1,0 +1,74 @@
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace iceline {
+
+/// When a change has to be on the disk: before the call returns, at the next Files::sync(), or whenever the
+/// operating system sees fit (pages, which can be made again).
+enum class Durability { Now, Later, Unsynced };
+
+/// All file access of the program. A path is relative to the league folder and written with '/'; an
+/// absolute path (a save state that the user chose) is taken as it stands. Names are bytes.
+///
+/// Every operation throws FileError when it cannot do what it says; its message names the file.
+class Files {
+public:
+    virtual ~Files() = default;
+
+    /// The whole content of a file.
+    virtual std::string read(const std::string& path) = 0;
+
+    /// The first `limit` bytes of a file, or all of it when it is shorter.
+    virtual std::string readFirst(const std::string& path, std::size_t limit) = 0;
+
+    /// Makes `content` the content of the file, new or not. A reader sees the old content or the new one,
+    /// never a part. The folder must exist.
+    virtual void write(const std::string& path, std::string_view content,
+                       Durability durability = Durability::Now) = 0;
+
+    /// Cuts the file to its first `length` bytes (all of it when it is shorter) and adds `content` behind
+    /// them; a missing file counts as empty. On an error the file is cut back to `length`, where the disk
+    /// allows it.
+    virtual void extend(const std::string& path, std::uintmax_t length, std::string_view content,
+                        Durability durability = Durability::Now) = 0;
+
+    /// Removes a file; nothing happens when there is none.
+    virtual void remove(const std::string& path) = 0;
+
+    /// Creates a folder and what is missing above it; nothing happens when it exists.
+    virtual void makeFolder(const std::string& path) = 0;
+
+    /// Removes an empty folder; nothing happens when there is none.
+    virtual void removeFolder(const std::string& path) = 0;
+
+    virtual bool isFile(const std::string& path) = 0;
+    virtual bool isFolder(const std::string& path) = 0;
+
+    /// Size of a file in bytes, 0 for a missing one.
+    virtual std::uintmax_t size(const std::string& path) = 0;
+
+    /// Names of the regular files in a folder, in the order of their names, case left aside.
+    virtual std::vector<std::string> filesIn(const std::string& folder) = 0;
+
+    /// Names of the sub-folders of a folder, in the same order.
+    virtual std::vector<std::string> foldersIn(const std::string& folder) = 0;
+
+    /// Brings everything to the disk that was changed with Durability::Later.
+    virtual void sync() = 0;
+
+    /// Adds `content` at the end of a file, which is created when missing.
+    void append(const std::string& path, std::string_view content) { extend(path, size(path), content); }
+};
+
+/// The order in which files and folders are listed and coaches compared: by name, case left aside (ASCII),
+/// then by bytes.
+bool nameBefore(std::string_view a, std::string_view b);
+
+/// True when two names differ at most in case (ASCII).
+bool sameName(std::string_view a, std::string_view b);
+
+} // namespace iceline

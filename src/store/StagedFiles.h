@@ -1,0 +1,61 @@
+#pragma once
+
+#include "store/Files.h"
+
+#include <cstdint>
+#include <map>
+#include <set>
+#include <string>
+#include <vector>
+
+namespace iceline {
+
+/// One step of what an operation does to the disk.
+struct Change {
+    enum class Kind { MakeFolder, Write, Extend, Remove, RemoveFolder };
+
+    Kind kind = Kind::Write;
+    std::string path;
+    std::uintmax_t length = 0; ///< Extend: the file's length before the content
+    std::string content;       ///< Write, Extend
+
+    friend bool operator==(const Change&, const Change&) = default;
+};
+
+/// The files as one operation sees them: reads see what the operation has written, and nothing reaches the
+/// files beneath. However often an operation touches a file, the file beneath is read at most once and
+/// stands at most once in changes().
+class StagedFiles : public Files {
+public:
+    explicit StagedFiles(Files& beneath) : beneath_(beneath) {}
+
+    std::string read(const std::string& path) override;
+    std::string readFirst(const std::string& path, std::size_t limit) override;
+    void write(const std::string& path, std::string_view content, Durability durability) override;
+    void extend(const std::string& path, std::uintmax_t length, std::string_view content,
+                Durability durability) override;
+    void remove(const std::string& path) override;
+    void makeFolder(const std::string& path) override;
+    void removeFolder(const std::string& path) override;
+    bool isFile(const std::string& path) override;
+    bool isFolder(const std::string& path) override;
+    std::uintmax_t size(const std::string& path) override;
+    std::vector<std::string> filesIn(const std::string& folder) override;
+    std::vector<std::string> foldersIn(const std::string& folder) override;
+    void sync() override {}
+
+    /// What brings the files beneath to the state seen here, in the order in which it must be done. A file
+    /// whose content is what it was is left out.
+    std::vector<Change> changes();
+
+    /// Forgets everything that was written here.
+    void discard();
+
+private:
+    struct Staged;
+
+    Files& beneath_;
+    // The private state is the implementer's; see StagedFiles.cpp.
+};
+
+} // namespace iceline
