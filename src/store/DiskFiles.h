@@ -9,8 +9,9 @@ namespace iceline {
 
 /// The files of the disk, beneath one folder.
 ///
-/// A file is replaced by writing a temporary file beside it, checking every write, syncing it (Durability::Now),
-/// renaming it over the old one and syncing the folder, so that neither a full disk nor a power cut leaves a part.
+/// A file is replaced by writing a temporary file beside it, checking every write, syncing it
+/// (Durability::Now), renaming it over the old one and syncing the folder, so that neither a full disk nor a
+/// power cut leaves a part.
 class DiskFiles : public Files {
 public:
     /// `root` is the league folder.

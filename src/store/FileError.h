@@ -15,8 +15,8 @@ public:
 
     /// "<file>, line <line>, item <item> (<field>): <what is wrong>"; line and item count from 1.
     FileError(const std::string& file, int line, int item, const std::string& field, const std::string& wrong)
-        : std::runtime_error(file + ", line " + std::to_string(line) + ", item " + std::to_string(item) + " (" +
-                             field + "): " + wrong) {}
+        : std::runtime_error(file + ", line " + std::to_string(line) + ", item " + std::to_string(item) +
+                             " (" + field + "): " + wrong) {}
 };
 
 } // namespace iceline

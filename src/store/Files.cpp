@@ -6,7 +6,9 @@ namespace iceline {
 
 namespace {
 
-char lowerCase(char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c; }
+char lowerCase(char c) {
+    return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c;
+}
 
 int compareWithoutCase(std::string_view a, std::string_view b) {
     for (std::size_t i = 0; i < std::min(a.size(), b.size()); ++i) {
@@ -25,6 +27,8 @@ bool nameBefore(std::string_view a, std::string_view b) {
     return order != 0 ? order < 0 : a < b;
 }
 
-bool sameName(std::string_view a, std::string_view b) { return compareWithoutCase(a, b) == 0; }
+bool sameName(std::string_view a, std::string_view b) {
+    return compareWithoutCase(a, b) == 0;
+}
 
 } // namespace iceline

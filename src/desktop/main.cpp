@@ -1,0 +1,5 @@
+#include "desktop/Desktop.h"
+
+int main(int argc, char** argv) {
+    return iceline::desktop::run(argc, argv);
+}
