@@ -1,0 +1,82 @@
+#pragma once
+
+#include "shell/ApplicationState.h"
+#include "shell/Platform.h"
+#include "shell/Windows.h"
+#include "store/Files.h"
+#include "store/Journal.h"
+#include "store/StagedFiles.h"
+
+#include <vector>
+
+namespace iceline {
+
+/// One run of the program on one league: its files, its platform, the shared state and the windows.
+class Application {
+public:
+    /// `disk` is the league folder; `siteTemplate` the site as delivered with the program. All must outlive
+    /// the application.
+    Application(Files& disk, Files& siteTemplate, Platform& platform);
+
+    /// The files as they stand for whoever asks now: those of the operation in hand, or the disk.
+    Files& files() { return *inForce_.back(); }
+
+    Files& siteTemplate() { return siteTemplate_; }
+    Platform& platform() { return platform_; }
+    Journal& journal() { return journal_; }
+    Windows& windows() { return windows_; }
+
+    /// True while an Operation lives.
+    bool operationInHand() const { return operations_ > 0; }
+
+    ApplicationState state;
+
+private:
+    friend class FilesInForce;
+    friend class Operation;
+
+    std::vector<Files*> inForce_;
+    Files& siteTemplate_;
+    Platform& platform_;
+    Journal journal_;
+    Windows windows_;
+    int operations_ = 0;
+};
+
+/// Puts other files in force while it lives.
+class FilesInForce {
+public:
+    FilesInForce(Application& application, Files& files) : app_(application) {
+        app_.inForce_.push_back(&files);
+    }
+    ~FilesInForce() { app_.inForce_.pop_back(); }
+    FilesInForce(const FilesInForce&) = delete;
+    FilesInForce& operator=(const FilesInForce&) = delete;
+
+private:
+    Application& app_;
+};
+
+/// An operation that changes the league. While it lives everything works on staged files; commit() brings
+/// them to the disk whole or not at all, and an operation that ends without leaves the disk as it was. An
+/// operation begun within another is staged on top of that one's files, and its commit goes into them.
+class Operation {
+public:
+    explicit Operation(Application& application);
+    ~Operation() { --app_.operations_; }
+    Operation(const Operation&) = delete;
+    Operation& operator=(const Operation&) = delete;
+
+    /// Throws FileError when the changes cannot reach the disk. Afterwards the operation goes on from what it
+    /// has committed.
+    void commit();
+
+private:
+    Application& app_;
+    bool outermost_;
+    Files& beneath_;
+    StagedFiles staged_;
+    FilesInForce inForce_;
+};
+
+} // namespace iceline

@@ -1,0 +1,86 @@
+#pragma once
+
+#include "shell/TeamTable.h"
+#include "store/LeagueFiles.h"
+#include "store/LeaguePaths.h"
+
+#include <array>
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace iceline {
+
+/// A star of the game.
+struct StarOfGame {
+    TeamIndex Team = 0;
+    std::string Name;
+};
+
+/// A row of a league table of players: whole numbers, fractions scaled, so that one comparison serves all
+/// columns.
+template <std::size_t Columns>
+struct LeaderRow {
+    TeamIndex Team = 0;
+    std::string Name;
+    std::array<int, Columns> values{};
+};
+
+/// What the windows share between one piece of work and the next. Everything else is read from the league's
+/// files each time, and nothing here is stored: start-up works PlayoffMode and SeasonFolder out anew.
+struct ApplicationState {
+    /// True while the windows work on the screen, False while Generate Webpages drives them to write pages.
+    bool ShowWindows = false;
+    bool PlayoffMode = false; ///< the regular season is over
+    bool StartupDone = false; ///< start-up has run
+    bool SplashDone = false;  ///< the credits have rolled to their end
+
+    /// Games that a team plays in the regular season; -1 when it was ended by hand.
+    int SeasonLength = 0;
+
+    /// "" in the regular season, "/Post Season" in the play-offs.
+    std::string SeasonFolder;
+
+    /// The game in hand.
+    std::string SaveStatePath;
+    int LastTeamByte = 0;
+    std::string HomeName; ///< abbreviation once the teams are read, full name once the stars are chosen
+    std::string AwayName;
+    int GameLastPeriod = 0; ///< highest period seen, 4 for overtime; 0 after an import
+    std::array<StarOfGame, 3> Star;
+    std::array<int, 3> StarSlot{}; ///< roster rows of the stars, 0 to 24
+
+    /// Standings: wins, losses, ties, points, games played, goals for, goals against, goal difference a game
+    /// as a whole number, power ranking in hundredths; a row for each team.
+    std::array<std::array<int, 9>, 26> StandingsTable{};
+    std::array<TeamIndex, 6> AdamsOrder{};
+    std::array<TeamIndex, 6> PatrickOrder{};
+    std::array<TeamIndex, 6> NorrisOrder{};
+    std::array<TeamIndex, 6> SmytheOrder{};
+    std::array<std::string, 26> ClinchMark; ///< "", "x", "y" or "z"
+    std::array<TeamIndex, 12> WalesSeeds{};
+    std::array<TeamIndex, 12> CampbellSeeds{};
+
+    /// Wins, losses, ties, winning percentage in thousandths, games played; and the order of the 24 teams.
+    std::array<std::array<int, 5>, LeagueTeams> HomeAwayTable{};
+    std::array<TeamIndex, LeagueTeams> HomeAwayOrder{};
+
+    /// Team, then wins, losses, ties and percentage in thousandths against Wales, then against Campbell.
+    std::array<std::array<int, 9>, 12> WalesVersus{};
+    std::array<std::array<int, 9>, 12> CampbellVersus{};
+
+    PlayoffSeriesTable PlayoffSeries;
+
+    /// Leader tables as they were last filled, by the season's window or by the play-offs'. The import's
+    /// season test reads games played from column 0 of TeamLeaderTable.
+    std::array<std::array<int, 12>, LeagueTeams> TeamLeaderTable{};
+    std::vector<LeaderRow<11>> PlayerLeaderTable;
+    std::vector<LeaderRow<11>> GoalieLeaderTable;
+    std::vector<LeaderRow<1>> StarLeaderTable;
+    std::vector<std::array<int, 12>> CoachLeaderTable;
+
+    /// The part of the year whose files the league works on.
+    PartOfYear partOfYear() const { return SeasonFolder.empty() ? PartOfYear::Season : PartOfYear::Playoffs; }
+};
+
+} // namespace iceline

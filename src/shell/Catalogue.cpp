@@ -1,0 +1,34 @@
+#include "shell/Windows.h"
+
+namespace iceline {
+
+namespace {
+
+/// A row whose window is not built yet.
+constexpr std::unique_ptr<Window> (*None)(Application&) = nullptr;
+
+constexpr std::array<CatalogueRow, WindowCount> Catalogue{{
+    {WindowId::StatExtractor, "Stat Extractor", "StatExtractor", None},
+    {WindowId::PlayerStats, "Player Stats", "PlayerStats", None},
+    {WindowId::TeamStats, "Team Stats", "TeamStats", None},
+    {WindowId::Standings, "Standings", "Standings", None},
+    {WindowId::Rankings, "Rankings", "Rankings", None},
+    {WindowId::PlayerProfiles, "Player Profiles", "PlayerProfiles", None},
+    {WindowId::Playoffs, "Playoff Tree", "Playoffs", None},
+    {WindowId::PlayoffPlayerStats, "Playoff Player Stats", "PlayoffPlayerStats", None},
+    {WindowId::PlayoffTeamStats, "Playoff Team Stats", "PlayoffTeamStats", None},
+    {WindowId::PlayoffRankings, "Playoff Rankings", "PlayoffRankings", None},
+    {WindowId::PlayoffPlayerProfiles, "Playoff Player Profiles", "PlayoffPlayerProfiles", None},
+    {WindowId::CoachStats, "Coaches Stats", "CoachStats", None},
+    {WindowId::AllTimeRecords, "All-Time Records", "AllTimeRecords", None},
+    {WindowId::PlayoffAllTimeRecords, "Playoff All-Time Records", "PlayoffAllTimeRecords", None},
+    {WindowId::Options, "Options", "Options", None},
+}};
+
+} // namespace
+
+std::span<const CatalogueRow> windowCatalogue() {
+    return Catalogue;
+}
+
+} // namespace iceline

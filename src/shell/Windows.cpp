@@ -1,0 +1,48 @@
+#include "shell/Windows.h"
+
+#include "shell/Application.h"
+
+#include <algorithm>
+
+namespace iceline {
+
+Window& Windows::use(WindowId id) {
+    std::unique_ptr<Window>& window = slot(id);
+    if (!window) {
+        window = catalogueRow(id).make(app_);
+        try {
+            window->Form_Load();
+        } catch (...) {
+            window.reset();
+            throw;
+        }
+    }
+    return *window;
+}
+
+void Windows::unload(WindowId id) {
+    if (!isLoaded(id))
+        return;
+    if (onUnload)
+        onUnload(id);
+    slot(id).reset();
+}
+
+void Windows::unloadAll() {
+    for (const CatalogueRow& row : windowCatalogue())
+        unload(row.id);
+}
+
+const CatalogueRow& catalogueRow(WindowId id) {
+    return windowCatalogue()[static_cast<std::size_t>(id)];
+}
+
+std::optional<WindowId> windowByName(std::string_view name) {
+    const auto rows = windowCatalogue();
+    const auto row = std::ranges::find(rows, name, &CatalogueRow::name);
+    if (row == rows.end())
+        return std::nullopt;
+    return row->id;
+}
+
+} // namespace iceline

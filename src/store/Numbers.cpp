@@ -1,0 +1,74 @@
+#include "store/Numbers.h"
+
+#include <array>
+#include <charconv>
+#include <cmath>
+
+namespace iceline {
+
+namespace {
+
+constexpr int SignificantDigits = 15;
+
+/// Decimals that leave `value` its significant digits, 0 for values of that many digits or more.
+int decimalsFor(double value) {
+    const double size = std::fabs(value);
+    const int wholeDigits = size == 0 ? 1 : static_cast<int>(std::floor(std::log10(size))) + 1;
+    return std::max(0, SignificantDigits - wholeDigits);
+}
+
+void dropTrailingZeros(std::string& text) {
+    if (text.find('.') == std::string::npos)
+        return;
+    text.erase(text.find_last_not_of('0') + 1);
+    if (text.back() == '.')
+        text.pop_back();
+}
+
+} // namespace
+
+double rounded(double value, int decimals) {
+    double scale = 1;
+    for (int i = 0; i < decimals; ++i)
+        scale *= 10;
+    return std::nearbyint(value * scale) / scale;
+}
+
+int wholeNumber(double value) {
+    return static_cast<int>(std::nearbyint(value));
+}
+
+double pct(double made, double attempted) {
+    return attempted == 0 ? 0 : r3(made / attempted) * 100;
+}
+
+std::string minutesText(double seconds) {
+    const int minutes = static_cast<int>(seconds / 60);
+    const int rest = wholeNumber(seconds) % 60;
+    return std::to_string(minutes) + (rest < 10 ? ":0" : ":") + std::to_string(rest);
+}
+
+std::string clockText(int seconds) {
+    return minutesText(seconds);
+}
+
+std::string numberText(double value) {
+    if (value == 0)
+        return "0";
+    std::array<char, 400> buffer{};
+    const auto end = std::to_chars(buffer.data(), buffer.data() + buffer.size(), value,
+                                   std::chars_format::fixed, decimalsFor(value));
+    std::string text(buffer.data(), end.ptr);
+    dropTrailingZeros(text);
+    return text == "-0" ? "0" : text;
+}
+
+std::string itemText(double value) {
+    std::string text = numberText(value);
+    const std::size_t digits = text.front() == '-' ? 1 : 0;
+    if (text.compare(digits, 2, "0.") == 0)
+        text.erase(digits, 1);
+    return " " + text + " ";
+}
+
+} // namespace iceline

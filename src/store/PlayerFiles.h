@@ -1,0 +1,106 @@
+#pragma once
+
+#include "store/Fields.h"
+#include "store/Files.h"
+
+#include <array>
+#include <string>
+#include <string_view>
+#include <variant>
+
+namespace iceline {
+
+/// Rows of a roster: the places in which the game holds a team's players.
+inline constexpr int RosterRows = 25;
+
+/// The name that marks an empty roster row.
+inline constexpr std::string_view EmptyRowName = "-----------";
+
+/// A line of `Players List.txt`; nothing in it is quoted. The default is the empty row.
+struct RosterRow {
+    std::string Name{EmptyRowName};
+    int Number = 0;             ///< sweater number
+    int Rating = 0;             ///< the game's rating of the player, 0 to 99
+    std::string Position = "D"; ///< "G", "F" or "D"
+
+    bool isEmpty() const { return Name == EmptyRowName; }
+    bool isGoalie() const { return Position == "G"; }
+};
+
+template <>
+std::span<const Field<RosterRow>> fieldsOf<RosterRow>();
+
+using Roster = std::array<RosterRow, RosterRows>;
+
+/// Reads the 25 rows of a `Players List.txt`. A name that holds a double quote is an error: the league's
+/// files could not hold it.
+Roster readRoster(Files& files, const std::string& path);
+
+/// A skater's line of `Player Stats.txt`. Figures a game are rounded to 2 decimals.
+struct SkaterStats {
+    int GP = 0;
+    int G = 0;
+    double GPG = 0;
+    int A = 0;
+    double APG = 0;
+    int Pts = 0;
+    double PtsPG = 0;
+    int SOG = 0;
+    double SOGPG = 0;
+    double ShotPct = 0; ///< goals per shot in percent, r1
+    int PIM = 0;
+    int PPG = 0; ///< power-play goals
+    int SHG = 0; ///< shorthanded goals
+    double PIMPG = 0;
+    double Rating = 0; ///< r3
+    int StarPoints = 0;
+
+    friend bool operator==(const SkaterStats&, const SkaterStats&) = default;
+};
+
+template <>
+std::span<const Field<SkaterStats>> fieldsOf<SkaterStats>();
+
+/// A goalie's line of `Player Stats.txt`.
+struct GoalieStats {
+    int GP = 0;
+    int GA = 0; ///< goals allowed
+    int SO = 0; ///< shutouts
+    int A = 0;
+    int GW = 0;
+    int GL = 0;
+    int GT = 0;
+    int SA = 0;          ///< shots faced
+    double GAA = 0;      ///< goals allowed a game, r2
+    double SvPct = 0;    ///< saves per shot, a fraction, r3
+    double Unused11 = 0; ///< always written as 0: a goalie's penalty minutes are not kept
+    int PPG = 0;
+    int SHG = 0;
+    double Unused14 = 0; ///< always written as 0
+    double Rating = 0;   ///< r3
+    int StarPoints = 0;
+
+    friend bool operator==(const GoalieStats&, const GoalieStats&) = default;
+};
+
+template <>
+std::span<const Field<GoalieStats>> fieldsOf<GoalieStats>();
+
+/// The stat line of a roster row; the position in the same row of the roster decides which it is.
+using PlayerStats = std::variant<SkaterStats, GoalieStats>;
+using TeamPlayerStats = std::array<PlayerStats, RosterRows>;
+
+int gamesPlayed(const PlayerStats& line);
+int starPoints(const PlayerStats& line);
+void addStarPoints(PlayerStats& line, int points);
+
+/// Reads the 25 lines of a `Player Stats.txt` in step with the team's roster.
+TeamPlayerStats readPlayerStats(Files& files, const std::string& path, const Roster& roster);
+
+/// The text of a `Player Stats.txt`. Throws FileError naming the field when a figure does not fit.
+std::string playerStatsText(const TeamPlayerStats& stats);
+
+/// The text of a new `Player Stats.txt`: 25 lines of sixteen zeros.
+std::string initialPlayerStatsText();
+
+} // namespace iceline

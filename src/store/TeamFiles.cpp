@@ -1,0 +1,68 @@
+#include "store/TeamFiles.h"
+
+#include "store/LeaguePaths.h"
+
+#include <algorithm>
+
+namespace iceline {
+
+namespace {
+
+template <class Record>
+Record readLine(Files& files, const std::string& path, std::size_t fieldCount) {
+    const std::string content = files.read(path);
+    ItemReader reader(path, content);
+    Record record;
+    readFields(reader, record, fieldCount);
+    return record;
+}
+
+} // namespace
+
+TeamRecord readTeamRecord(Files& files, const RecordFolder& folder) {
+    return readLine<TeamRecord>(files, folder + "/" + paths::Records, AllFields);
+}
+
+TeamRecord readTopOfTeamRecord(Files& files, const RecordFolder& folder) {
+    return readLine<TeamRecord>(files, folder + "/" + paths::Records, 6);
+}
+
+Streak readStreak(Files& files, const RecordFolder& folder) {
+    return readLine<Streak>(files, folder + "/" + paths::Streak, AllFields);
+}
+
+void writeTeamRecord(Files& files, const RecordFolder& folder, const TeamRecord& record) {
+    files.write(folder + "/" + paths::Records, lineOf(record));
+}
+
+void writeStreak(Files& files, const RecordFolder& folder, const Streak& streak) {
+    files.write(folder + "/" + paths::Streak, lineOf(streak));
+}
+
+void appendResult(Files& files, const RecordFolder& folder, const std::string& letter) {
+    files.append(folder + "/" + paths::Last10Games, LineWriter().text(letter).endLine().content());
+}
+
+LastTen readLastTen(Files& files, const RecordFolder& folder, int gameCount) {
+    const std::string path = folder + "/" + paths::Last10Games;
+    const std::string content = files.read(path);
+    ItemReader reader(path, content);
+    for (int i = 0; i < gameCount - 10; ++i)
+        reader.text("result");
+    LastTen lastTen;
+    for (int i = 0; i < std::min(gameCount, 10); ++i) {
+        const std::string letter = reader.text("result");
+        lastTen.wins += letter == "W";
+        lastTen.losses += letter == "L";
+        lastTen.ties += letter == "T";
+    }
+    return lastTen;
+}
+
+void writeInitialTeamFiles(Files& files, const RecordFolder& folder) {
+    files.write(folder + "/" + paths::Last10Games, "");
+    writeTeamRecord(files, folder, {});
+    writeStreak(files, folder, {});
+}
+
+} // namespace iceline
