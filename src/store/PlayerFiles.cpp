@@ -56,8 +56,11 @@ std::span<const Field<GoalieStats>> fieldsOf<GoalieStats>() {
 }
 
 Roster readRoster(Files& files, const std::string& path) {
-    const std::string content = files.read(path);
-    ItemReader reader(path, content, LastLine::MayLackEnd);
+    return rosterFromText(path, files.read(path));
+}
+
+Roster rosterFromText(const std::string& file, std::string_view content) {
+    ItemReader reader(file, content, LastLine::MayLackEnd);
     Roster roster;
     for (RosterRow& row : roster) {
         readFields(reader, row);

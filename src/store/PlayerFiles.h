@@ -36,6 +36,9 @@ using Roster = std::array<RosterRow, RosterRows>;
 /// files could not hold it.
 Roster readRoster(Files& files, const std::string& path);
 
+/// The same from the text of such a file; `file` is the name used in messages.
+Roster rosterFromText(const std::string& file, std::string_view content);
+
 /// A skater's line of `Player Stats.txt`. Figures a game are rounded to 2 decimals.
 struct SkaterStats {
     int GP = 0;
