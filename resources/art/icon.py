@@ -8,19 +8,20 @@ BLUE = "#2f7fc1"
 
 
 def _bar(colour, top):
-    return "poly", colour, ((10, top), (54, top), (54, top + 4), (10, top + 4))
+    return "poly", colour, ((8, top), (56, top), (56, top + 4), (8, top + 4))
 
 
+# Straight edges lie on multiples of 4, which are whole pixels in the icon of 16 pixels.
 SHAPES = (
     ("poly", NAVY, cut_corners(0, 0, SIZE, SIZE, 10, 10)),
-    ("poly", WHITE, ((10, 6), (44, 6), (54, 16), (54, 58), (10, 58))),
-    ("poly", ICE, ((44, 6), (54, 16), (44, 16))),
-    _bar(BLUE, 18),
-    _bar(BLUE, 46),
-    ("disc", BLUE, (32, 34, 10)),
-    ("disc", WHITE, (32, 34, 6.8)),
+    ("poly", WHITE, ((8, 4), (46, 4), (56, 14), (56, 60), (8, 60))),
+    ("poly", ICE, ((46, 4), (56, 14), (46, 14))),
+    _bar(BLUE, 16),
+    _bar(BLUE, 48),
+    ("disc", BLUE, (32, 34, 11)),
+    ("disc", WHITE, (32, 34, 7.4)),
     _bar(RED, 32),
-    ("disc", RED, (32, 34, 4)),
+    ("disc", RED, (32, 34, 4.4)),
 )
 
 
