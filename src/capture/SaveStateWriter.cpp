@@ -1,5 +1,7 @@
 #include "capture/SaveStateWriter.h"
 
+#include "capture/TeamSheetFields.h"
+
 #include <cstddef>
 #include <stdexcept>
 
@@ -46,32 +48,12 @@ private:
 };
 
 void putTeam(Image& image, const TeamSheet& team, int block, int secondBlock) {
-    using namespace SaveStateMap;
-    image.word(block + Shots, team.Shots);
-    image.word(block + PPG, team.PPG);
-    image.word(block + PPA, team.PPA);
-    image.word(block + Penalties, team.Penalties);
-    image.word(block + PenM, team.PenM);
-    image.word(block + AttackZoneLow, team.AttackZone);
-    image.word(block + Goals, team.Goals);
-    image.word(block + FaceoffsWon, team.FaceoffsWon);
-    image.word(block + BodyChecks, team.BodyChecks);
-    image.word(block + PassAtt, team.PassAtt);
-    image.word(block + PassComp, team.PassComp);
-
-    image.rows(block + PlayerGoals, team.G);
-    image.rows(block + PlayerAssists, team.A);
-    image.rows(block + PlayerShots, team.SOG);
-    image.rows(block + PlayerPenM, team.PIM);
-
-    image.word(secondBlock + PPAux, team.PPAux);
-    image.word(secondBlock + AuxFor, team.AuxFor);
-    image.word(secondBlock + PairAAtt, team.PairAAtt);
-    image.word(secondBlock + PairAMade, team.PairAMade);
-    image.word(secondBlock + PairBAtt, team.PairBAtt);
-    image.word(secondBlock + PairBMade, team.PairBMade);
-    image.word(secondBlock + PairCAtt, team.PairCAtt);
-    image.word(secondBlock + PairCMade, team.PairCMade);
+    for (const TeamSheetField& field : FirstBlockFields)
+        image.word(block + field.lowByte, team.*field.figure);
+    for (const PlayerArray& array : PlayerArrays)
+        image.rows(block + array.firstRow, team.*array.figures);
+    for (const TeamSheetField& field : SecondBlockFields)
+        image.word(secondBlock + field.lowByte, team.*field.figure);
 }
 
 void putGoals(Image& image, const GameSheet& game) {
@@ -100,47 +82,7 @@ void putPenalties(Image& image, const GameSheet& game) {
     image.word(PenaltyLength, game.penaltyLength.value_or(offset - PenaltyTable));
 }
 
-int& at(TeamSheet::RowFigures& figures, int row) {
-    return figures.at(static_cast<std::size_t>(row));
-}
-
 } // namespace
-
-GameSheet::GameSheet(TeamIndex homeTeam, TeamIndex awayTeam) {
-    home.team = homeTeam;
-    away.team = awayTeam;
-}
-
-void GameSheet::addShot(Side side, int shooter) {
-    TeamSheet& other = of(otherSide(side));
-    ++of(side).Shots;
-    ++at(of(side).SOG, shooter);
-    ++at(other.SOG, other.goalie);
-}
-
-void GameSheet::addGoal(int period, int seconds, Side side, Strength strength, int scorer, int assist1,
-                        int assist2) {
-    addShot(side, scorer);
-    goals.push_back({period, seconds, typeByte(side, static_cast<int>(strength)), scorer, assist1, assist2});
-    TeamSheet& team = of(side);
-    TeamSheet& other = of(otherSide(side));
-    ++team.Goals;
-    if (strength == Strength::PowerPlay || strength == Strength::TwoManPowerPlay)
-        ++team.PPG;
-    ++at(team.G, scorer);
-    for (const int assistant : {assist1, assist2})
-        if (assistant != SaveStateMap::NoAssist)
-            ++at(team.A, assistant);
-    ++at(other.G, other.goalie);
-}
-
-void GameSheet::addPenalty(int period, int seconds, Side side, Infraction infraction, int player) {
-    penalties.push_back({period, seconds, typeByte(side, static_cast<int>(infraction)), player});
-    TeamSheet& team = of(side);
-    ++team.Penalties;
-    team.PenM += minutesOf(infraction);
-    at(team.PIM, player) += minutesOf(infraction);
-}
 
 std::string saveStateBytes(const GameSheet& game) {
     if (game.goals.size() > GameSheet::MaxGoals || game.penalties.size() > GameSheet::MaxPenalties)
