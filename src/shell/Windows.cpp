@@ -20,12 +20,21 @@ Window& Windows::use(WindowId id) {
     return *window;
 }
 
+Window& Windows::open(WindowId id) {
+    if (!isOpen(id))
+        unload(id);
+    Window& window = use(id);
+    open_[static_cast<std::size_t>(id)] = true;
+    return window;
+}
+
 void Windows::unload(WindowId id) {
     if (!isLoaded(id))
         return;
     if (onUnload)
         onUnload(id);
     slot(id).reset();
+    open_[static_cast<std::size_t>(id)] = false;
 }
 
 void Windows::unloadAll() {

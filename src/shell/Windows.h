@@ -61,7 +61,12 @@ public:
     /// The window, loaded. When its load throws, the window is not loaded.
     Window& use(WindowId id);
 
+    /// The window as the user opens it. One that other windows have loaded and nobody sees is loaded anew, so
+    /// that it shows the files as they are now; one that is open stays as it is.
+    Window& open(WindowId id);
+
     bool isLoaded(WindowId id) const { return slot(id) != nullptr; }
+    bool isOpen(WindowId id) const { return isLoaded(id) && open_[static_cast<std::size_t>(id)]; }
 
     /// Unloads the window; nothing happens when it is not loaded.
     void unload(WindowId id);
@@ -80,6 +85,7 @@ private:
 
     Application& app_;
     std::array<std::unique_ptr<Window>, WindowCount> windows_;
+    std::array<bool, WindowCount> open_{};
 };
 
 } // namespace iceline

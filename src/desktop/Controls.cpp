@@ -1,0 +1,83 @@
+#include "desktop/Controls.h"
+
+#include "desktop/QtPlatform.h"
+
+#include <QGroupBox>
+#include <QStyle>
+
+namespace iceline::desktop {
+
+namespace {
+
+QLabel* label(const QString& objectName, const char* role, Qt::Alignment alignment, QWidget* parent) {
+    auto* made = new QLabel(parent);
+    made->setObjectName(objectName);
+    made->setTextFormat(Qt::PlainText);
+    made->setProperty("role", QLatin1String(role));
+    made->setAlignment(alignment);
+    return made;
+}
+
+} // namespace
+
+QString element(const char* name, int index) {
+    return QStringLiteral("%1(%2)").arg(QLatin1String(name)).arg(index);
+}
+
+QLabel* headLabel(const QString& text, QWidget* parent, Qt::Alignment alignment) {
+    QLabel* made = label({}, "head", alignment, parent);
+    made->setText(text);
+    return made;
+}
+
+QLabel* figureLabel(const QString& objectName, QWidget* parent) {
+    return label(objectName, "figure", Qt::AlignRight | Qt::AlignVCenter, parent);
+}
+
+QLabel* textLabel(const QString& objectName, QWidget* parent) {
+    return label(objectName, "figure", Qt::AlignLeft | Qt::AlignVCenter, parent);
+}
+
+QLabel* pictureLabel(const QString& objectName, QWidget* parent) {
+    return label(objectName, "picture", Qt::AlignCenter, parent);
+}
+
+QGroupBox* frame(const char* objectName, const QString& caption, QWidget* parent) {
+    auto* made = new QGroupBox(caption, parent);
+    made->setObjectName(QLatin1String(objectName));
+    return made;
+}
+
+QPushButton* exitButton(const char* objectName, QWidget* window) {
+    auto* button = new QPushButton(QStringLiteral("Exit"), window);
+    button->setObjectName(QLatin1String(objectName));
+    QObject::connect(button, &QPushButton::clicked, window, &QWidget::close);
+    return button;
+}
+
+SortHead::SortHead(const QString& objectName, const QString& caption, QWidget* parent)
+    : QPushButton(caption, parent), caption_(caption) {
+    setObjectName(objectName);
+    setProperty("role", QStringLiteral("sortHead"));
+    setCursor(Qt::PointingHandCursor);
+}
+
+void SortHead::mark(SortMark mark) {
+    static const QString Words[] = {QString(), QStringLiteral("descending"), QStringLiteral("ascending")};
+    static const QString Arrows[] = {QString(), QStringLiteral(" \u25be"), QStringLiteral(" \u25b4")};
+    const auto index = static_cast<std::size_t>(mark);
+    setText(caption_ + Arrows[index]);
+    setProperty("sort", Words[index]);
+    style()->unpolish(this);
+    style()->polish(this);
+}
+
+void setText(const std::vector<QLabel*>& labels, std::size_t row, std::string_view text) {
+    labels.at(row)->setText(toQt(text));
+}
+
+void setText(QWidget* window, const char* objectName, std::string_view text) {
+    window->findChild<QLabel*>(QLatin1String(objectName))->setText(toQt(text));
+}
+
+} // namespace iceline::desktop

@@ -1,0 +1,62 @@
+#pragma once
+
+#include "shell/TeamTable.h"
+
+#include <QLabel>
+#include <QPushButton>
+#include <QString>
+
+#include <string_view>
+#include <vector>
+
+class QGridLayout;
+class QGroupBox;
+
+/// The controls that the windows share. A control's object name is its given name.
+namespace iceline::desktop {
+
+/// Object name of an element of a control array: "Team1Goals(3)".
+QString element(const char* name, int index);
+
+/// A fixed caption over a column or before a figure.
+QLabel* headLabel(const QString& text, QWidget* parent,
+                  Qt::Alignment alignment = Qt::AlignRight | Qt::AlignVCenter);
+
+/// A label that shows a figure.
+QLabel* figureLabel(const QString& objectName, QWidget* parent);
+
+/// A label that shows text, from the left.
+QLabel* textLabel(const QString& objectName, QWidget* parent);
+
+/// A label that shows a picture.
+QLabel* pictureLabel(const QString& objectName, QWidget* parent);
+
+QGroupBox* frame(const char* objectName, const QString& caption, QWidget* parent);
+
+/// The button that closes a window.
+QPushButton* exitButton(const char* objectName, QWidget* window);
+
+/// How a table's head is marked: the column that a table is sorted by is red from the highest value down and
+/// blue from the lowest up.
+enum class SortMark { None, Descending, Ascending };
+
+/// A clickable column head.
+class SortHead : public QPushButton {
+    Q_OBJECT
+
+public:
+    SortHead(const QString& objectName, const QString& caption, QWidget* parent);
+
+    void mark(SortMark mark);
+
+private:
+    QString caption_;
+};
+
+/// The element of a control array that shows text in a row of a table.
+void setText(const std::vector<QLabel*>& labels, std::size_t row, std::string_view text);
+
+/// Shows text in a label found by its object name within `window`.
+void setText(QWidget* window, const char* objectName, std::string_view text);
+
+} // namespace iceline::desktop

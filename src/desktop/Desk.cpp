@@ -1,0 +1,57 @@
+#include "desktop/Desk.h"
+
+#include "desktop/WindowMakers.h"
+#include "shell/WelcomeWindow.h"
+
+#include <QGuiApplication>
+#include <QScreen>
+
+namespace iceline::desktop {
+
+namespace {
+
+void centreOnScreen(QWidget& window) {
+    const QRect screen = QGuiApplication::primaryScreen()->availableGeometry();
+    window.resize(window.size().boundedTo(screen.size()));
+    window.move(screen.center() - window.rect().center());
+}
+
+} // namespace
+
+Desk::Desk(Application& application) : app_(application) {
+    app_.windows().onUnload = [this](WindowId id) { close(id); };
+}
+
+Desk::~Desk() {
+    app_.windows().onUnload = nullptr;
+    for (const QPointer<LeagueWindow>& window : windows_)
+        delete window;
+}
+
+bool Desk::hasWindow(WindowId id) {
+    return windowMaker(id) != nullptr;
+}
+
+void Desk::open(WindowId id) {
+    Window& object = WelcomeWindow(app_).List1_Click(id);
+    QPointer<LeagueWindow>& window = windows_[static_cast<std::size_t>(id)];
+    if (!window) {
+        window = windowMaker(id)(app_, id, object);
+        window->adjustSize();
+        centreOnScreen(*window);
+    }
+    window->show();
+    window->raise();
+    window->activateWindow();
+}
+
+void Desk::close(WindowId id) {
+    QPointer<LeagueWindow>& window = windows_[static_cast<std::size_t>(id)];
+    if (!window)
+        return;
+    window->hide();
+    window->deleteLater();
+    window.clear();
+}
+
+} // namespace iceline::desktop

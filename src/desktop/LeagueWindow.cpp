@@ -1,0 +1,28 @@
+#include "desktop/LeagueWindow.h"
+
+#include "desktop/Pictures.h"
+#include "desktop/QtPlatform.h"
+
+#include <QCloseEvent>
+#include <QIcon>
+
+namespace iceline::desktop {
+
+LeagueWindow::LeagueWindow(Application& application, WindowId id) : app_(application), id_(id) {
+    const CatalogueRow& row = catalogueRow(id);
+    setObjectName(toQt(row.name));
+    setWindowTitle(toQt(row.entry));
+    setWindowIcon(QIcon(pictures::named("iceline")));
+}
+
+void LeagueWindow::follow(Window& object) {
+    refresh();
+    object.onChange = [this] { refresh(); };
+}
+
+void LeagueWindow::closeEvent(QCloseEvent* event) {
+    event->accept();
+    app_.windows().unload(id_);
+}
+
+} // namespace iceline::desktop

@@ -1,0 +1,19 @@
+#pragma once
+
+#include "shell/TeamTable.h"
+
+#include <QPixmap>
+
+/// The picture store: what the windows show of teams and players, by TeamIndex. Each picture is drawn twice
+/// as fine for screens that can show it.
+namespace iceline::desktop::pictures {
+
+QPixmap teamNameBig(TeamIndex team);  ///< large name banner; AllTeams has one, too
+QPixmap teamNameMini(TeamIndex team); ///< small name banner; BlankTeam is an empty slot
+QPixmap teamLogo(TeamIndex team);     ///< AllTeams has one, too
+QPixmap teamLogoBig(TeamIndex team);
+
+/// The picture of that name under the store's root, for instance "league-logo".
+QPixmap named(const char* name);
+
+} // namespace iceline::desktop::pictures

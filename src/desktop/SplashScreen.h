@@ -1,0 +1,38 @@
+#pragma once
+
+#include "shell/SplashScreen.h"
+
+#include <QTimer>
+#include <QWidget>
+
+#include <functional>
+
+class QFrame;
+
+namespace iceline::desktop {
+
+/// The splash window with its rolling credits. Timer1 fires once and loads the main window behind it.
+class SplashScreen : public QWidget {
+    Q_OBJECT
+
+public:
+    /// `load` loads the main window.
+    SplashScreen(ApplicationState& state, std::function<void()> load);
+
+protected:
+    /// A click takes the credits to their end.
+    void mousePressEvent(QMouseEvent* event) override;
+
+private:
+    void layOut();
+    void moveCredits();
+
+    ApplicationState& state_;
+    iceline::SplashScreen credits_;
+    QFrame* frame1_ = nullptr;
+    QFrame* frame2_ = nullptr;
+    QTimer timer1_;
+    QTimer timer2_;
+};
+
+} // namespace iceline::desktop

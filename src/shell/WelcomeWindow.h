@@ -1,0 +1,21 @@
+#pragma once
+
+#include "shell/Windows.h"
+
+namespace iceline {
+
+class Application;
+
+/// The main window: the catalogue of the other windows, and the button that publishes the site.
+class WelcomeWindow {
+public:
+    explicit WelcomeWindow(Application& application) : app_(application) {}
+
+    /// A click on a row of the catalogue: the window, loaded anew unless it is open already.
+    Window& List1_Click(WindowId id);
+
+private:
+    Application& app_;
+};
+
+} // namespace iceline
