@@ -1,12 +1,28 @@
 #pragma once
 
+#include "capture/SaveState.h"
 #include "shell/ApplicationState.h"
 #include "store/PlayerFiles.h"
 
 #include <array>
 #include <string>
+#include <vector>
 
 namespace iceline {
+
+/// The kinds of game, by what a game touches.
+enum class GameKind { Season, Exhibition, Playoff };
+
+/// The rosters of the two teams of a game.
+struct GameRosters {
+    Roster home;
+    Roster away;
+
+    const Roster& of(Side side) const { return side == Side::Home ? home : away; }
+};
+
+/// Reads the rosters of a game's teams; the game must be one that the league can take (SaveState::refusal).
+GameRosters readRosters(Files& files, const SaveState& save);
 
 /// A team's figures in one game, with the texts that the window and the page show.
 struct TeamGameStats {
@@ -53,6 +69,22 @@ struct GameReport {
     int GameLastPeriod = 0;
     std::string FinalMark; ///< "F" or "F/OT"
     std::array<StarOfGame, 3> Star;
+    std::vector<ScoringEntry> goals;
+    std::vector<PenaltyEntry> penalties;
+
+    const GameSide& of(Side side) const { return side == Side::Home ? home : away; }
 };
+
+/// The period from which a game counts as having gone to overtime.
+inline constexpr int OvertimePeriod = 4;
+
+/// The last period that the summaries show: that of the last goal, or a later one of a penalty. A game
+/// without goals begins from `former`, and with neither goals nor penalties stays there.
+int lastPeriod(const std::vector<ScoringEntry>& goals, const std::vector<PenaltyEntry>& penalties,
+               int former);
+
+/// The report of a game that the league can take, but for its stars, which are not chosen yet. `formerPeriod`
+/// is the last period of the game read before.
+GameReport gameReport(const SaveState& save, const GameRosters& rosters, int formerPeriod);
 
 } // namespace iceline

@@ -12,9 +12,6 @@
 
 namespace iceline {
 
-/// The kinds of game, by what a game touches.
-enum class GameKind { Season, Exhibition, Playoff };
-
 /// The game window: through it every game enters the league.
 class StatExtractor : public Window {
 public:
@@ -34,6 +31,10 @@ public:
     /// "Select Game" while FillWindow is True: file dialog, read, show. Called by the import with FillWindow
     /// False: reads the file at SaveStatePath, writes page, list row and recent games, shows nothing.
     void LoadStats_Click();
+
+    /// What LoadStats_Click does once it has read its files, for callers that hold them already. The game
+    /// must be one that the league can take (SaveState::refusal).
+    void loadGame(const SaveState& save, const GameRosters& rosters);
 
     /// "Import Game".
     void ImportStats_Click();

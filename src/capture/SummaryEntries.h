@@ -2,6 +2,8 @@
 
 #include "capture/SaveStateMap.h"
 
+#include <optional>
+
 namespace iceline {
 
 /// The two teams of a game.
@@ -38,6 +40,23 @@ inline constexpr int minutesOf(Infraction infraction) {
 /// The byte that says the side and the kind of a goal or penalty in one.
 inline constexpr int typeByte(Side side, int kind) {
     return kind + (side == Side::Away ? SaveStateMap::AwaySide : 0);
+}
+
+/// The side that a type byte says.
+inline constexpr Side sideOf(int typeByte) {
+    return typeByte < SaveStateMap::AwaySide ? Side::Home : Side::Away;
+}
+
+/// What is left of a type byte without its side.
+inline constexpr int kindOf(int typeByte) {
+    return typeByte % SaveStateMap::AwaySide;
+}
+
+/// The strength that a goal's type byte says; none for a byte that is no goal type.
+inline constexpr std::optional<Strength> strengthOf(int typeByte) {
+    const int kind = kindOf(typeByte);
+    return kind <= static_cast<int>(Strength::TwoManPowerPlay) ? std::optional(static_cast<Strength>(kind))
+                                                               : std::nullopt;
 }
 
 /// A goal as the scoring summary holds it.
