@@ -57,29 +57,27 @@ void putTeam(Image& image, const TeamSheet& team, int block, int secondBlock) {
 }
 
 void putGoals(Image& image, const GameSheet& game) {
-    using namespace SaveStateMap;
-    int offset = ScoringTable;
+    int offset = SaveStateMap::ScoringTable;
     for (const ScoringEntry& goal : game.goals) {
         image.timeStamp(offset, goal.period, goal.seconds);
         image.byte(offset + 2, goal.type);
         image.byte(offset + 3, goal.scorer);
         image.byte(offset + 4, goal.assist1);
         image.byte(offset + 5, goal.assist2);
-        offset += ScoringEntryBytes;
+        offset += SaveStateMap::ScoringEntryBytes;
     }
-    image.word(ScoringLength, game.scoringLength.value_or(offset - ScoringTable));
+    image.word(SaveStateMap::ScoringLength, game.scoringLength.value_or(offset - SaveStateMap::ScoringTable));
 }
 
 void putPenalties(Image& image, const GameSheet& game) {
-    using namespace SaveStateMap;
-    int offset = PenaltyTable;
+    int offset = SaveStateMap::PenaltyTable;
     for (const PenaltyEntry& penalty : game.penalties) {
         image.timeStamp(offset, penalty.period, penalty.seconds);
         image.byte(offset + 2, penalty.type);
         image.byte(offset + 3, penalty.player);
-        offset += PenaltyEntryBytes;
+        offset += SaveStateMap::PenaltyEntryBytes;
     }
-    image.word(PenaltyLength, game.penaltyLength.value_or(offset - PenaltyTable));
+    image.word(SaveStateMap::PenaltyLength, game.penaltyLength.value_or(offset - SaveStateMap::PenaltyTable));
 }
 
 } // namespace
