@@ -3,7 +3,7 @@
 #include "store/Files.h"
 
 #include <filesystem>
-#include <set>
+#include <unordered_set>
 
 namespace iceline {
 
@@ -11,9 +11,13 @@ namespace iceline {
 ///
 /// A file is replaced by writing a temporary file beside it, checking every write, syncing it
 /// (Durability::Now), renaming it over the old one and syncing the folder, so that neither a full disk nor a
-/// power cut leaves a part.
+/// power cut leaves a part. The file keeps its permissions, and one that may not be written is not replaced.
+/// A temporary file that a crash left behind is overwritten by the next try and never listed.
 class DiskFiles : public Files {
 public:
+    /// What the name of a temporary file ends in.
+    static constexpr const char* TemporarySuffix = ".new~";
+
     /// `root` is the league folder.
     explicit DiskFiles(std::filesystem::path root);
 
@@ -35,8 +39,11 @@ public:
     const std::filesystem::path& root() const { return root_; }
 
 private:
+    using NativePath = std::filesystem::path::string_type;
+
     std::filesystem::path root_;
-    std::set<std::string> unsynced_; ///< files and folders changed with Durability::Later
+    std::unordered_set<NativePath> unsyncedFiles_;   ///< files changed with Durability::Later
+    std::unordered_set<NativePath> unsyncedFolders_; ///< folders in which a name has come or gone since
 };
 
 } // namespace iceline

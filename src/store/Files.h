@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <filesystem>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -12,9 +13,11 @@ namespace iceline {
 enum class Durability { Now, Later, Unsynced };
 
 /// All file access of the program. A path is relative to the league folder and written with '/'; an
-/// absolute path (a save state that the user chose) is taken as it stands. Names are bytes.
+/// absolute path (a save state that the user chose) is taken as it stands; "" is the league folder itself.
+/// Names are bytes (UTF-8 on Windows).
 ///
-/// Every operation throws FileError when it cannot do what it says; its message names the file.
+/// Every operation throws FileError when it cannot do what it says; its message names the file. A relative
+/// path that leads out of the league folder is refused by all of them.
 class Files {
 public:
     virtual ~Files() = default;
@@ -36,7 +39,8 @@ public:
     virtual void extend(const std::string& path, std::uintmax_t length, std::string_view content,
                         Durability durability = Durability::Now) = 0;
 
-    /// Removes a file; nothing happens when there is none.
+    /// Removes a file; nothing happens when there is none. That names have come or gone is brought to the
+    /// disk by sync(), here as for folders.
     virtual void remove(const std::string& path) = 0;
 
     /// Creates a folder and what is missing above it; nothing happens when it exists.
@@ -51,7 +55,7 @@ public:
     /// Size of a file in bytes, 0 for a missing one.
     virtual std::uintmax_t size(const std::string& path) = 0;
 
-    /// Names of the regular files in a folder, in the order of their names, case left aside.
+    /// Names of the regular files in a folder, in the order of nameBefore(). The folder must exist.
     virtual std::vector<std::string> filesIn(const std::string& folder) = 0;
 
     /// Names of the sub-folders of a folder, in the same order.
@@ -63,6 +67,18 @@ public:
     /// Adds `content` at the end of a file, which is created when missing.
     void append(const std::string& path, std::string_view content) { extend(path, size(path), content); }
 };
+
+/// True for a path that names something in the league folder: relative, without an element "..".
+bool isInLeague(const std::string& path);
+
+/// Throws FileError for a path that is relative and yet leads out of the league folder.
+void refuseOutsideLeague(const std::string& path);
+
+/// The path as the platform has it: bytes on Unix, from UTF-8 on Windows.
+std::filesystem::path toNative(const std::string& path);
+
+/// The folder that a file or folder stands in, "" for the league folder.
+std::string folderOf(const std::string& path);
 
 /// The order in which files and folders are listed and coaches compared: by name, case left aside (ASCII),
 /// then by bytes.

@@ -8,11 +8,6 @@ namespace iceline::test {
 
 namespace {
 
-std::string parentOf(const std::string& path) {
-    const auto slash = path.rfind('/');
-    return slash == std::string::npos ? "" : path.substr(0, slash);
-}
-
 std::string nameOf(const std::string& path) {
     return path.substr(path.rfind('/') + 1);
 }
@@ -21,7 +16,7 @@ template <class Paths>
 std::vector<std::string> namesIn(const Paths& paths, const std::string& folder) {
     std::vector<std::string> names;
     for (const std::string& path : paths)
-        if (parentOf(path) == folder)
+        if (!path.empty() && folderOf(path) == folder)
             names.push_back(nameOf(path));
     std::ranges::sort(names, nameBefore);
     return names;
@@ -29,8 +24,22 @@ std::vector<std::string> namesIn(const Paths& paths, const std::string& folder) 
 
 } // namespace
 
+void MemoryFiles::requirePlaceForFile(const std::string& path) {
+    refuseOutsideLeague(path);
+    if (isFolder(path))
+        throw FileError(path, "is a folder, not a file");
+    if (!isFolder(folderOf(path)))
+        throw FileError(path, "cannot be written: its folder is missing");
+}
+
+void MemoryFiles::requireFolder(const std::string& path) {
+    if (!isFolder(path))
+        throw FileError(path, isFile(path) ? "is a file, not a folder" : "the folder is missing");
+}
+
 std::string MemoryFiles::read(const std::string& path) {
     ++reads;
+    refuseOutsideLeague(path);
     const auto file = files.find(path);
     if (file == files.end())
         throw FileError(path, isFolder(path) ? "is a folder, not a file" : "the file is missing");
@@ -43,50 +52,64 @@ std::string MemoryFiles::readFirst(const std::string& path, std::size_t limit) {
 
 void MemoryFiles::write(const std::string& path, std::string_view content, Durability) {
     ++writes;
-    if (const std::string folder = parentOf(path); !folder.empty() && !isFolder(folder))
-        throw FileError(path, "cannot be written: its folder is missing");
+    requirePlaceForFile(path);
     files[path] = content;
 }
 
 void MemoryFiles::extend(const std::string& path, std::uintmax_t length, std::string_view content,
                          Durability) {
     ++writes;
+    requirePlaceForFile(path);
     std::string& file = files[path];
     file.resize(std::min<std::uintmax_t>(length, file.size()));
     file += content;
 }
 
 void MemoryFiles::remove(const std::string& path) {
+    refuseOutsideLeague(path);
+    if (isFolder(path))
+        throw FileError(path, "is a folder, not a file");
     files.erase(path);
 }
 
 void MemoryFiles::makeFolder(const std::string& path) {
-    if (path.empty())
+    refuseOutsideLeague(path);
+    if (isFolder(path))
         return;
-    makeFolder(parentOf(path));
+    if (isFile(path))
+        throw FileError(path, "is a file, not a folder");
+    makeFolder(folderOf(path));
     folders.insert(path);
 }
 
 void MemoryFiles::removeFolder(const std::string& path) {
+    if (isFile(path))
+        throw FileError(path, "is a file, not a folder");
+    if (!isFolder(path))
+        return;
     if (!filesIn(path).empty() || !foldersIn(path).empty())
         throw FileError(path, "cannot be removed: the folder is not empty");
     folders.erase(path);
 }
 
 bool MemoryFiles::isFile(const std::string& path) {
+    refuseOutsideLeague(path);
     return files.contains(path);
 }
 
 bool MemoryFiles::isFolder(const std::string& path) {
-    return folders.contains(path);
+    refuseOutsideLeague(path);
+    return path.empty() || folders.contains(path);
 }
 
 std::uintmax_t MemoryFiles::size(const std::string& path) {
+    refuseOutsideLeague(path);
     const auto file = files.find(path);
     return file == files.end() ? 0 : file->second.size();
 }
 
 std::vector<std::string> MemoryFiles::filesIn(const std::string& folder) {
+    requireFolder(folder);
     std::vector<std::string> paths;
     for (const auto& [path, content] : files)
         paths.push_back(path);
@@ -94,6 +117,7 @@ std::vector<std::string> MemoryFiles::filesIn(const std::string& folder) {
 }
 
 std::vector<std::string> MemoryFiles::foldersIn(const std::string& folder) {
+    requireFolder(folder);
     return namesIn(folders, folder);
 }
 

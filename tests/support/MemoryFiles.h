@@ -30,6 +30,10 @@ public:
     std::set<std::string> folders;
     int reads = 0;  ///< calls of read() and readFirst()
     int writes = 0; ///< calls of write() and extend()
+
+private:
+    void requirePlaceForFile(const std::string& path);
+    void requireFolder(const std::string& path);
 };
 
 } // namespace iceline::test
