@@ -4,7 +4,6 @@
 
 #include <cstdint>
 #include <map>
-#include <set>
 #include <string>
 #include <vector>
 
@@ -24,7 +23,8 @@ struct Change {
 
 /// The files as one operation sees them: reads see what the operation has written, and nothing reaches the
 /// files beneath. However often an operation touches a file, the file beneath is read at most once and
-/// stands at most once in changes().
+/// stands at most once in changes(). Files outside the league folder can be read and not written, and what is
+/// a file beneath cannot become a folder in the same operation, nor a folder a file.
 class StagedFiles : public Files {
 public:
     explicit StagedFiles(Files& beneath) : beneath_(beneath) {}
@@ -48,14 +48,39 @@ public:
     /// whose content is what it was is left out.
     std::vector<Change> changes();
 
-    /// Forgets everything that was written here.
+    /// Forgets everything that was written here, and what was read beneath.
     void discard();
 
 private:
-    struct Staged;
+    enum class State { Whole, Extended, Removed };
+
+    /// What the operation has made of a file.
+    struct Staged {
+        State state = State::Whole;
+        std::uintmax_t length = 0; ///< Extended: bytes kept of the file beneath
+        std::string content;       ///< Whole: the file. Extended: what stands behind the kept bytes
+    };
+
+    /// What has been read of a file beneath.
+    struct Read {
+        std::string content;
+        bool whole = false;
+    };
+
+    const Staged* staged(const std::string& path) const;
+
+    /// The entry of a file that is to be written, which must be able to stand at that path.
+    Staged& stage(const std::string& path);
+
+    const std::string& beneath(const std::string& path);
+    const std::string& firstBeneath(const std::string& path, std::size_t limit);
+    bool isUnchanged(const std::string& path, const Staged& file);
+    void requireFolder(const std::string& path);
 
     Files& beneath_;
-    // The private state is the implementer's; see StagedFiles.cpp.
+    std::map<std::string, Staged> staged_;
+    std::map<std::string, bool> folders_; ///< made (true) or removed (false) by the operation
+    std::map<std::string, Read> read_;
 };
 
 } // namespace iceline
