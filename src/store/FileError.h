@@ -10,6 +10,9 @@ namespace iceline {
 /// wrong. It is caught at the edge of an operation (a click, a command), nowhere between.
 class FileError : public std::runtime_error {
 public:
+    /// A message that names the file already.
+    explicit FileError(const std::string& message) : std::runtime_error(message) {}
+
     /// "<file>: <what is wrong>".
     FileError(const std::string& file, const std::string& wrong) : std::runtime_error(file + ": " + wrong) {}
 

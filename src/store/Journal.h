@@ -28,8 +28,10 @@ public:
     explicit Journal(Files& files) : files_(files) {}
 
     /// Makes the changes, all or none. Throws FileError: when the journal could not be written the files are
-    /// as before; when a file could not be changed although the journal was whole, the journal stays and the
-    /// next commit() or recover() finishes it first.
+    /// as before; when a file could not be changed although the journal was whole, the journal stays and is
+    /// finished by the next recover() or commit(). A commit that had to finish an earlier one does no more
+    /// than that and says so, since its own changes were worked out on files that have changed since; an
+    /// operation that calls recover() before it reads is never refused for that reason.
     void commit(const std::vector<Change>& changes);
 
     /// Until endRun(), files changed by commits are synced together.
@@ -41,9 +43,18 @@ public:
     Recovery recover();
 
 private:
+    void append(const std::vector<Change>& changes);
+    void dropScraps();
+    void make(const Change& change);
+    void checkpoint();
+
+    template <class Steps>
+    void finish(Steps steps);
+
     Files& files_;
     bool inRun_ = false;
-    bool unfinished_ = false; ///< a whole journal stands on the disk whose changes were not all made
+    std::uintmax_t length_ = 0; ///< bytes of the whole commits that stand in the journal
+    bool unfinished_ = true;    ///< a journal may stand on the disk whose changes were not all made
 };
 
 } // namespace iceline
