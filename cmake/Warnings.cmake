@@ -1,6 +1,6 @@
 # What every target of ours is compiled with.
 add_library(iceline_warnings INTERFACE)
-target_compile_options(iceline_warnings INTERFACE -Wall -Wextra -Wpedantic -Wshadow -Wconversion
+target_compile_options(iceline_warnings INTERFACE -Wall -Wextra -Wpedantic -Wshadow=local -Wconversion
     -Wno-sign-conversion -Wnon-virtual-dtor -Woverloaded-virtual -Wold-style-cast)
 if(ICELINE_WERROR)
     target_compile_options(iceline_warnings INTERFACE -Werror)
