@@ -1,6 +1,6 @@
 #include "desktop/WindowMakers.h"
 
-#include "desktop/StatExtractorWindow.h"
+#include "desktop/LeagueWindow.h"
 
 namespace iceline::desktop {
 
@@ -16,8 +16,6 @@ LeagueWindow* make(Application& app, WindowId id, Window& object) {
 
 WindowMaker windowMaker(WindowId id) {
     switch (id) {
-    case WindowId::StatExtractor:
-        return make<StatExtractorWindow, StatExtractor>;
     default:
         return nullptr;
     }

@@ -121,6 +121,21 @@ void writeFields(LineWriter& writer, const Record& record) {
         std::visit(detail::FieldWriter<Record>{writer, field, record}, field.member);
 }
 
+/// Adds to a 32-bit counter of a record. Throws FileError naming the field when the sum does not fit the
+/// file.
+template <class Record>
+void addTo(Record& record, int Record::*counter, int amount) {
+    const std::int64_t sum = std::int64_t{record.*counter} + amount;
+    if (sum > std::numeric_limits<std::int32_t>::max()) {
+        const auto fields = fieldsOf<Record>();
+        const auto field =
+            std::ranges::find(fields, typename Field<Record>::Member(counter), &Field<Record>::member);
+        throw FileError(std::string(field->name),
+                        std::to_string(sum) + " is more than the league's files can hold");
+    }
+    record.*counter = static_cast<int>(sum);
+}
+
 /// The text of a file that holds one record on one line.
 template <class Record>
 std::string lineOf(const Record& record) {
