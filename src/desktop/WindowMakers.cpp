@@ -1,6 +1,6 @@
 #include "desktop/WindowMakers.h"
 
-#include "desktop/LeagueWindow.h"
+#include "desktop/StatExtractorWindow.h"
 
 namespace iceline::desktop {
 
@@ -16,6 +16,8 @@ LeagueWindow* make(Application& app, WindowId id, Window& object) {
 
 WindowMaker windowMaker(WindowId id) {
     switch (id) {
+    case WindowId::StatExtractor:
+        return make<StatExtractorWindow, StatExtractor>;
     default:
         return nullptr;
     }

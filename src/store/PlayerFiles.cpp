@@ -70,15 +70,15 @@ Roster rosterFromText(const std::string& file, std::string_view content) {
     return roster;
 }
 
-int gamesPlayed(const PlayerStats& line) {
+int gamesPlayed(const PlayerStatsLine& line) {
     return std::visit([](const auto& stats) { return stats.GP; }, line);
 }
 
-int starPoints(const PlayerStats& line) {
+int starPoints(const PlayerStatsLine& line) {
     return std::visit([](const auto& stats) { return stats.StarPoints; }, line);
 }
 
-void addStarPoints(PlayerStats& line, int points) {
+void addStarPoints(PlayerStatsLine& line, int points) {
     std::visit([points](auto& stats) { stats.StarPoints += points; }, line);
 }
 
@@ -96,7 +96,7 @@ TeamPlayerStats readPlayerStats(Files& files, const std::string& path, const Ros
 
 std::string playerStatsText(const TeamPlayerStats& stats) {
     LineWriter writer;
-    for (const PlayerStats& line : stats) {
+    for (const PlayerStatsLine& line : stats) {
         std::visit([&writer](const auto& fields) { writeFields(writer, fields); }, line);
         writer.endLine();
     }

@@ -90,12 +90,12 @@ template <>
 std::span<const Field<GoalieStats>> fieldsOf<GoalieStats>();
 
 /// The stat line of a roster row; the position in the same row of the roster decides which it is.
-using PlayerStats = std::variant<SkaterStats, GoalieStats>;
-using TeamPlayerStats = std::array<PlayerStats, RosterRows>;
+using PlayerStatsLine = std::variant<SkaterStats, GoalieStats>;
+using TeamPlayerStats = std::array<PlayerStatsLine, RosterRows>;
 
-int gamesPlayed(const PlayerStats& line);
-int starPoints(const PlayerStats& line);
-void addStarPoints(PlayerStats& line, int points);
+int gamesPlayed(const PlayerStatsLine& line);
+int starPoints(const PlayerStatsLine& line);
+void addStarPoints(PlayerStatsLine& line, int points);
 
 /// Reads the 25 lines of a `Player Stats.txt` in step with the team's roster.
 TeamPlayerStats readPlayerStats(Files& files, const std::string& path, const Roster& roster);

@@ -1,0 +1,56 @@
+#pragma once
+
+#include "capture/StatExtractor.h"
+#include "desktop/LeagueWindow.h"
+
+class QComboBox;
+class QLabel;
+class QPlainTextEdit;
+class QRadioButton;
+class QVBoxLayout;
+
+namespace iceline::desktop {
+
+class GameFiguresPanel;
+class GameRosterPanel;
+
+/// The game window: reads a game, shows it whole, and imports it.
+class StatExtractorWindow : public LeagueWindow {
+    Q_OBJECT
+
+public:
+    StatExtractorWindow(Application& application, WindowId id, StatExtractor& object);
+
+protected:
+    void refresh() override;
+
+private:
+    QLayout* makeCommands();
+    QLayout* makeChoices();
+    QComboBox* makeCoachList(const char* name, void (StatExtractor::*choose)(int));
+    QWidget* makeRoster(const char* frameName, const QString& caption, const QString& team,
+                        const char* banner, GameRosterPanel*& panel);
+    QLayout* makeCentre();
+    QLayout* makeScore();
+    QLayout* makeFigures();
+    QWidget* makeStars();
+    QWidget* makeSummary(const char* frameName, const QString& caption, const char* textName,
+                         QPlainTextEdit*& text);
+    void showChoices();
+    void showReport(const GameReport& report);
+
+    StatExtractor& object_;
+    GameRosterPanel* homeRoster_ = nullptr;
+    GameRosterPanel* awayRoster_ = nullptr;
+    GameFiguresPanel* homeFigures_ = nullptr;
+    GameFiguresPanel* awayFigures_ = nullptr;
+    QLabel* fileName_ = nullptr;
+    QComboBox* homeCoaches_ = nullptr;
+    QComboBox* awayCoaches_ = nullptr;
+    QRadioButton* season_ = nullptr;
+    QRadioButton* exhibition_ = nullptr;
+    QPlainTextEdit* scoring_ = nullptr;
+    QPlainTextEdit* penalties_ = nullptr;
+};
+
+} // namespace iceline::desktop
