@@ -1,4 +1,5 @@
 #include "shell/Windows.h"
+#include "standings/Standings.h"
 
 namespace iceline {
 
@@ -7,11 +8,16 @@ namespace {
 /// A row whose window is not built yet.
 constexpr std::unique_ptr<Window> (*None)(Application&) = nullptr;
 
+template <class Object>
+std::unique_ptr<Window> make(Application& app) {
+    return std::make_unique<Object>(app);
+}
+
 constexpr std::array<CatalogueRow, WindowCount> Catalogue{{
     {WindowId::StatExtractor, "Stat Extractor", "StatExtractor", None},
     {WindowId::PlayerStats, "Player Stats", "PlayerStats", None},
     {WindowId::TeamStats, "Team Stats", "TeamStats", None},
-    {WindowId::Standings, "Standings", "Standings", None},
+    {WindowId::Standings, "Standings", "Standings", make<Standings>},
     {WindowId::Rankings, "Rankings", "Rankings", None},
     {WindowId::PlayerProfiles, "Player Profiles", "PlayerProfiles", None},
     {WindowId::Playoffs, "Playoff Tree", "Playoffs", None},
@@ -29,6 +35,10 @@ constexpr std::array<CatalogueRow, WindowCount> Catalogue{{
 
 std::span<const CatalogueRow> windowCatalogue() {
     return Catalogue;
+}
+
+Standings& Windows::standings() {
+    return static_cast<Standings&>(use(WindowId::Standings));
 }
 
 } // namespace iceline

@@ -12,6 +12,7 @@ public:
     explicit WelcomeWindow(Application& application) : app_(application) {}
 
     /// A click on a row of the catalogue: the window, loaded anew unless it is open already.
+    /// The standings are brought up to date in either case.
     Window& List1_Click(WindowId id);
 
 private:

@@ -23,8 +23,8 @@ TeamRecord readTeamRecord(Files& files, const RecordFolder& folder) {
     return readLine<TeamRecord>(files, folder + "/" + paths::Records, AllFields);
 }
 
-TeamRecord readTopOfTeamRecord(Files& files, const RecordFolder& folder) {
-    return readLine<TeamRecord>(files, folder + "/" + paths::Records, 6);
+TeamRecord readTopOfTeamRecord(Files& files, const RecordFolder& folder, std::size_t fieldCount) {
+    return readLine<TeamRecord>(files, folder + "/" + paths::Records, fieldCount);
 }
 
 Streak readStreak(Files& files, const RecordFolder& folder) {

@@ -13,8 +13,8 @@ using RecordFolder = std::string;
 
 TeamRecord readTeamRecord(Files& files, const RecordFolder& folder);
 
-/// The first six fields of `Records.txt`, up to GP; the others keep their initial values.
-TeamRecord readTopOfTeamRecord(Files& files, const RecordFolder& folder);
+/// The first fields of `Records.txt`, by default up to GP; the others keep their initial values.
+TeamRecord readTopOfTeamRecord(Files& files, const RecordFolder& folder, std::size_t fieldCount = 6);
 
 Streak readStreak(Files& files, const RecordFolder& folder);
 

@@ -1,0 +1,57 @@
+#pragma once
+
+#include "shell/TeamTable.h"
+#include "standings/StandingsTable.h"
+
+#include <initializer_list>
+#include <sstream>
+#include <string>
+#include <string_view>
+#include <utility>
+#include <vector>
+
+namespace iceline::test {
+
+inline TeamIndex team(std::string_view abbr) {
+    return teamByAbbr(abbr).value();
+}
+
+/// The abbreviations of teams, separated by blanks.
+template <class Teams>
+std::string abbrs(const Teams& teams) {
+    std::string text;
+    for (const TeamIndex team : teams)
+        text.append(text.empty() ? "" : " ").append(TeamAbbr[team]);
+    return text;
+}
+
+/// The abbreviations of the teams of rows.
+template <class Rows>
+std::string teamsOfRows(const Rows& rows) {
+    std::vector<TeamIndex> teams;
+    for (const auto& row : rows)
+        teams.push_back(row.team);
+    return abbrs(teams);
+}
+
+/// The lines of a page; each must end in CR LF.
+inline std::vector<std::string> linesOf(const std::string& page) {
+    std::vector<std::string> lines;
+    std::istringstream stream(page);
+    for (std::string line; std::getline(stream, line);) {
+        if (line.empty() || line.back() != '\r')
+            line += " [no CR]";
+        lines.push_back(line.substr(0, line.size() - 1));
+    }
+    return lines;
+}
+
+/// A team's figures in the standings, all others 0.
+using Figures = std::initializer_list<std::pair<StandingsFigure, int>>;
+
+inline void setFigures(StandingsTable& table, std::string_view abbr, Figures figures) {
+    for (const auto& [figure, value] : figures)
+        table[team(abbr)][static_cast<std::size_t>(figure)] = value;
+}
+
+} // namespace iceline::test
