@@ -1,4 +1,5 @@
 #include "shell/Windows.h"
+#include "standings/Playoffs.h"
 #include "standings/Standings.h"
 
 namespace iceline {
@@ -20,7 +21,7 @@ constexpr std::array<CatalogueRow, WindowCount> Catalogue{{
     {WindowId::Standings, "Standings", "Standings", make<Standings>},
     {WindowId::Rankings, "Rankings", "Rankings", None},
     {WindowId::PlayerProfiles, "Player Profiles", "PlayerProfiles", None},
-    {WindowId::Playoffs, "Playoff Tree", "Playoffs", None},
+    {WindowId::Playoffs, "Playoff Tree", "Playoffs", make<Playoffs>},
     {WindowId::PlayoffPlayerStats, "Playoff Player Stats", "PlayoffPlayerStats", None},
     {WindowId::PlayoffTeamStats, "Playoff Team Stats", "PlayoffTeamStats", None},
     {WindowId::PlayoffRankings, "Playoff Rankings", "PlayoffRankings", None},

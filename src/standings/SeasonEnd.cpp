@@ -1,6 +1,8 @@
 #include "standings/SeasonEnd.h"
 
 #include "shell/Application.h"
+#include "standings/Bracket.h"
+#include "standings/Standings.h"
 #include "store/TeamFiles.h"
 
 namespace iceline {
@@ -14,19 +16,12 @@ bool allTeamsAreDone(Application& app) {
     return true;
 }
 
-/// Places in a conference's seeds that meet in its first round, in the order of the series.
-constexpr std::array<std::array<int, 2>, 4> FirstRound{{{0, 7}, {3, 4}, {2, 5}, {1, 6}}};
-
-void seedFirstRound(ApplicationState& state) {
-    for (std::size_t i = 0; i < FirstRound.size(); ++i) {
-        const auto [better, worse] = FirstRound[i];
-        PlayoffSeriesRecord& wales = state.PlayoffSeries[i];
-        wales.TeamA = state.WalesSeeds[better];
-        wales.TeamB = state.WalesSeeds[worse];
-        PlayoffSeriesRecord& campbell = state.PlayoffSeries[i + FirstRound.size()];
-        campbell.TeamA = state.CampbellSeeds[better];
-        campbell.TeamB = state.CampbellSeeds[worse];
-    }
+/// The caption of the game window says that the play-offs are on.
+void redrawGameWindow(Windows& windows) {
+    if (!windows.isLoaded(WindowId::StatExtractor))
+        return;
+    if (const auto& redraw = windows.use(WindowId::StatExtractor).onChange)
+        redraw();
 }
 
 } // namespace
@@ -34,11 +29,14 @@ void seedFirstRound(ApplicationState& state) {
 void checkSeason(Application& app) {
     if (app.state.PlayoffMode || !allTeamsAreDone(app))
         return;
+    // First of all, since it reads files and can fail: the season then goes on as before.
+    app.windows().standings().DivisionStandingsUpdate();
     if (app.state.StartupDone)
         app.platform().say("Regular Season COMPLETE, Playoff Mode now active for the Postseason.");
     app.state.PlayoffMode = true;
     app.state.SeasonFolder = seasonFolder(PartOfYear::Playoffs);
-    seedFirstRound(app.state);
+    seedFirstRound(app.state.PlayoffSeries, app.state.WalesSeeds, app.state.CampbellSeeds);
+    redrawGameWindow(app.windows());
 }
 
 } // namespace iceline

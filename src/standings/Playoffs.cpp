@@ -1,0 +1,64 @@
+#include "standings/Playoffs.h"
+
+#include "shell/Application.h"
+#include "site/PageFrame.h"
+#include "standings/PlayoffTreePage.h"
+#include "standings/SeasonEnd.h"
+#include "standings/Standings.h"
+
+namespace iceline {
+
+Playoffs::Content::Content() {
+    for (auto* teams : {&EastFirstRound, &WestFirstRound})
+        teams->fill(BlankTeam);
+    for (auto* teams : {&T1, &T2})
+        teams->fill(BlankTeam);
+}
+
+TeamIndex Playoffs::Content::team(Conference conference, const BracketSlot& slot) const {
+    if (slot.round == 0)
+        return (conference == Conference::Wales ? EastFirstRound : WestFirstRound)[slot.place];
+    return (slot.side == Side::A ? T1 : T2)[slot.series - FirstRoundSeries];
+}
+
+const std::string& Playoffs::Content::wins(const BracketSlot& slot) const {
+    return (slot.side == Side::A ? W1 : W2)[slot.series];
+}
+
+void Playoffs::Form_Load() {
+    checkSeason(app_);
+    readPlayoffRecords(app_.files(), app_.state.PlayoffSeries);
+    PlayoffTreeUpdate();
+}
+
+void Playoffs::PlayoffTreeUpdate() {
+    if (!app_.state.PlayoffMode)
+        app_.windows().standings().DivisionStandingsUpdate();
+    content_ = {};
+    content_.PlayoffMode = app_.state.PlayoffMode;
+    std::copy_n(app_.state.WalesSeeds.begin(), content_.EastFirstRound.size(),
+                content_.EastFirstRound.begin());
+    std::copy_n(app_.state.CampbellSeeds.begin(), content_.WestFirstRound.size(),
+                content_.WestFirstRound.begin());
+    if (content_.PlayoffMode) {
+        for (int number = 0; number < SeriesCount; ++number)
+            showSeries(number);
+        content_.StanleyCup = champion(app_.state.PlayoffSeries);
+    }
+    writePage(app_.files(), paths::page("PlayoffTree.htm"), playoffTreePage(content_));
+    changed();
+}
+
+void Playoffs::showSeries(int number) {
+    const PlayoffSeriesRecord& series = app_.state.PlayoffSeries[number];
+    if (number >= FirstRoundSeries) {
+        content_.T1[number - FirstRoundSeries] = series.TeamA;
+        content_.T2[number - FirstRoundSeries] = series.TeamB;
+        if (series.TeamA == BlankTeam || series.TeamB == BlankTeam)
+            return;
+    }
+    content_.W1[number] = std::to_string(series.WinsA);
+    content_.W2[number] = std::to_string(series.WinsB);
+}
+
+} // namespace iceline
