@@ -78,6 +78,10 @@ bool GameSimulation::Bench::hasInBox(int row) const {
     return holds(shorthanded) || holds(evenedOut);
 }
 
+bool GameSimulation::Bench::isBoxEmpty() const {
+    return shorthanded.empty() && evenedOut.empty();
+}
+
 bool GameSimulation::Bench::isBoxFull() const {
     return shorthanded.size() + evenedOut.size() >= MostInBox;
 }
@@ -115,7 +119,8 @@ void GameSimulation::playPeriod(int length) {
 
 void GameSimulation::playSecond() {
     for (Bench& bench : benches_)
-        servePenalties(bench);
+        if (!bench.isBoxEmpty())
+            servePenalties(bench);
     if (advantage(Side::Away) > 0)
         ++game_.awayPPTime;
     movePuck();
@@ -164,14 +169,17 @@ void GameSimulation::faceOff() {
 }
 
 void GameSimulation::playThePuck(Side side) {
+    constexpr int Passes = 125;
+    constexpr int Checks = 31;
     TeamSheet& team = game_.of(side);
-    if (random_.chance(1, 32)) {
+    const int event = random_.below(4000);
+    if (event < Passes) {
         ++team.PassAtt;
         if (random_.chance(bench(side).skill, 105))
             ++team.PassComp;
-    }
-    if (random_.chance(1, 130))
+    } else if (event < Passes + Checks) {
         ++team.BodyChecks;
+    }
 }
 
 void GameSimulation::attack(Side side) {
@@ -233,20 +241,25 @@ void GameSimulation::changeGoalie(Side side) {
 }
 
 void GameSimulation::judge() {
-    if (game_.penalties.size() + 3 > GameSheet::MaxPenalties)
+    constexpr int Minor = 1280;
+    constexpr int Fight = 140;
+    constexpr int Scuffle = 220;
+    const int event = random_.below(1'000'000);
+    if (event >= 2 * Minor + Fight + Scuffle || game_.penalties.size() + 3 > GameSheet::MaxPenalties ||
+        std::ranges::any_of(benches_, &Bench::isBoxFull))
         return;
-    for (const Side side : BothSides)
-        if (random_.chance(1, 780) && !bench(side).isBoxFull()) {
-            const Infraction infraction = Minors[random_.below(Minors.size())];
-            callMinor(side, infraction, pickSkater(side, Role::Offender));
-            faceOff();
-        }
-    if (std::ranges::any_of(benches_, &Bench::isBoxFull))
-        return;
-    if (random_.chance(1, 7000))
+    if (event < 2 * Minor)
+        callInfraction(event < Minor ? Side::Home : Side::Away);
+    else if (event < 2 * Minor + Fight)
         fight();
-    else if (random_.chance(1, 4500))
+    else
         scuffle();
+    faceOff();
+}
+
+void GameSimulation::callInfraction(Side side) {
+    const Infraction infraction = Minors[random_.below(Minors.size())];
+    callMinor(side, infraction, pickSkater(side, Role::Offender));
 }
 
 void GameSimulation::callMinor(Side side, Infraction infraction, int row) {
@@ -266,7 +279,6 @@ void GameSimulation::fight() {
         if (side != winner && random_.chance(1, 4))
             callMinor(side, Infraction::FightInstigator, row);
     }
-    faceOff();
 }
 
 void GameSimulation::scuffle() {
@@ -275,7 +287,6 @@ void GameSimulation::scuffle() {
         game_.addPenalty(period_, second_, side, Infraction::Roughing, row);
         bench(side).evenedOut.push_back({row, MinorSeconds});
     }
-    faceOff();
 }
 
 int GameSimulation::advantage(Side side) {

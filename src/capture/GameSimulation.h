@@ -43,6 +43,7 @@ private:
 
         int menShort() const;
         bool hasInBox(int row) const;
+        bool isBoxEmpty() const;
         bool isBoxFull() const;
     };
 
@@ -63,6 +64,7 @@ private:
     void score(Side side, int shooter);
     void changeGoalie(Side side);
     void judge();
+    void callInfraction(Side side);
     void callMinor(Side side, Infraction infraction, int row);
     void fight();
     void scuffle();
