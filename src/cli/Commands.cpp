@@ -1,20 +1,111 @@
 #include "cli/Commands.h"
 
-#include <CLI/CLI.hpp>
+#include "cli/Command.h"
+#include "store/FileError.h"
 
-#include <iostream>
+#include <algorithm>
 
 namespace iceline::cli {
 
-int run(int argc, char** argv) {
-    CLI::App program("The books of a hobby hockey league", "iceline");
-    program.set_version_flag("--version", ICELINE_VERSION);
-    try {
-        program.parse(argc, argv);
-    } catch (const CLI::ParseError& error) {
-        return program.exit(error) == 0 ? 0 : 2;
+namespace {
+
+constexpr const char* Description = "Keeps the books of a hockey league whose games come from save states.";
+
+std::string noCommand(const std::string& word) {
+    return "there is no command '" + word + "'; 'iceline help' lists them";
+}
+
+std::string usageError(const CLI::App& program, const CLI::ParseError& error) {
+    if (!program.get_subcommands().empty())
+        return error.what();
+    const std::vector<std::string> unknown = program.remaining();
+    if (unknown.empty())
+        return "a command is needed; 'iceline help' lists them";
+    return noCommand(unknown.front());
+}
+
+/// Everything that can be typed behind the program's name.
+void addAll(CLI::App& program, Call& call, LeagueChoice& choice) {
+    program.add_option("--league", choice.folder, "the league folder (default: the current folder)")
+        ->type_name("DIR");
+    program.add_flag("--yes", choice.yes, "answer the start-up question with OK");
+    program.set_version_flag("--version", "iceline " ICELINE_VERSION);
+    addScriptableCommands(program, call);
+    addScriptCommand(program, call);
+}
+
+Status printHelp(Session& session, const std::vector<std::string>& words) {
+    CLI::App program(Description, "iceline");
+    Call call;
+    LeagueChoice choice;
+    addAll(program, call, choice);
+    const CLI::App* command = &program;
+    for (const std::string& word : words) {
+        const auto known =
+            command->get_subcommands([&word](const CLI::App* one) { return one->get_name() == word; });
+        if (known.empty())
+            throw UsageError(noCommand(word));
+        command = known.front();
     }
-    return 0;
+    session.out() << command->help();
+    return Status::Done;
+}
+
+Status carryOut(const Call& call, Session& session) {
+    if (!call.action)
+        return Status::Done;
+    if (call.onLeague && !session.start())
+        return Status::Refused;
+    return call.action(session);
+}
+
+} // namespace
+
+void addHelpCommand(CLI::App& program, Call& call) {
+    const auto [command, words] = addCommand<std::vector<std::string>>(
+        program, call, "help", "Describe the program, or one of its commands", printHelp);
+    command->add_option("COMMAND", *words);
+    command->parse_complete_callback([&call] { call.onLeague = false; });
+}
+
+void addScriptableCommands(CLI::App& program, Call& call) {
+    program.require_subcommand(1);
+    addLeagueCommands(program, call);
+    addWindowCommands(program, call);
+    addCoachCommands(program, call);
+    addHelpCommand(program, call);
+}
+
+void parseWords(CLI::App& program, std::vector<std::string> words, Console& console) {
+    std::ranges::reverse(words);
+    try {
+        program.parse(std::move(words));
+    } catch (const CLI::Success& success) {
+        program.exit(success, console.out, console.err);
+    } catch (const CLI::ParseError& error) {
+        throw UsageError(usageError(program, error));
+    }
+}
+
+int run(const std::vector<std::string>& arguments, Console console) {
+    Status status = Status::Done;
+    try {
+        CLI::App program(Description, "iceline");
+        Call call;
+        LeagueChoice choice;
+        addAll(program, call, choice);
+        parseWords(program, arguments, console);
+        Session session(console, choice);
+        status = carryOut(call, session);
+    } catch (const UsageError& error) {
+        report(console, error.what());
+        status = Status::Misused;
+    } catch (const std::exception& error) {
+        report(console, error.what());
+        status = Status::Refused;
+    }
+    console.out.flush();
+    return static_cast<int>(status);
 }
 
 } // namespace iceline::cli

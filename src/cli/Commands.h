@@ -1,9 +1,14 @@
 #pragma once
 
+#include "cli/Console.h"
+
+#include <string>
+#include <vector>
+
 namespace iceline::cli {
 
-/// Runs one call of the companion program and returns its exit status: 0 done, 1 refused or failed, 2 the
-/// arguments are off.
-int run(int argc, char** argv);
+/// Runs one call of the companion program, whose arguments stand without the program's name, and returns its
+/// exit status: 0 done, 1 refused or failed, 2 the arguments are off.
+int run(const std::vector<std::string>& arguments, Console console);
 
 } // namespace iceline::cli

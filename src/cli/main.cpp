@@ -1,5 +1,5 @@
 #include "cli/Commands.h"
 
 int main(int argc, char** argv) {
-    return iceline::cli::run(argc, argv);
+    return iceline::cli::run({argv + 1, argv + argc}, iceline::cli::standardConsole());
 }

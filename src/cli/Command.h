@@ -1,0 +1,50 @@
+#pragma once
+
+#include "cli/Session.h"
+
+#include <CLI/CLI.hpp>
+
+#include <functional>
+#include <memory>
+#include <string>
+#include <utility>
+
+namespace iceline::cli {
+
+/// What the words of a call have chosen.
+struct Call {
+    std::function<Status(Session&)> action;
+    bool onLeague = true; ///< the session must have been started
+};
+
+struct NoArguments {};
+
+/// Adds a command to the program, or to a command that groups others. The words of a call fill `Arguments`,
+/// whose options the caller adds to what is returned; `action` then takes them.
+template <class Arguments>
+std::pair<CLI::App*, std::shared_ptr<Arguments>>
+addCommand(CLI::App& parent, Call& call, const std::string& name, const std::string& description,
+           Status (*action)(Session&, const Arguments&)) {
+    CLI::App* command = parent.add_subcommand(name, description);
+    auto arguments = std::make_shared<Arguments>();
+    command->callback([&call, arguments, action] {
+        call.action = [arguments, action](Session& session) { return action(session, *arguments); };
+    });
+    return {command, arguments};
+}
+
+/// The commands by topic.
+void addLeagueCommands(CLI::App& program, Call& call);
+void addWindowCommands(CLI::App& program, Call& call);
+void addCoachCommands(CLI::App& program, Call& call);
+void addScriptCommand(CLI::App& program, Call& call);
+void addHelpCommand(CLI::App& program, Call& call);
+
+/// Every command that a line of a script can hold: all but `script` itself.
+void addScriptableCommands(CLI::App& program, Call& call);
+
+/// Parses the words of a call. The call has no action when the words asked for help or the version, which is
+/// then printed. Throws UsageError.
+void parseWords(CLI::App& program, std::vector<std::string> words, Console& console);
+
+} // namespace iceline::cli

@@ -1,0 +1,23 @@
+#pragma once
+
+#include <istream>
+#include <ostream>
+
+namespace iceline::cli {
+
+/// The streams that a call of the program talks through.
+struct Console {
+    std::istream& in;
+    std::ostream& out;
+    std::ostream& err;
+    bool inIsTerminal = false;
+    bool errIsTerminal = false;
+};
+
+/// Standard input, output and error.
+Console standardConsole();
+
+/// Writes an error of use or of files: one line on standard error, behind everything said before.
+void report(Console& console, const std::string& error);
+
+} // namespace iceline::cli

@@ -1,0 +1,22 @@
+#include "cli/Command.h"
+#include "site/SiteTemplate.h"
+
+namespace iceline::cli {
+
+namespace {
+
+Status init(Session& session, const NoArguments&) {
+    Operation operation(session.app());
+    copyMissingOfTemplate(session.app().siteTemplate(), session.app().files());
+    operation.commit();
+    return Status::Done;
+}
+
+} // namespace
+
+void addLeagueCommands(CLI::App& program, Call& call) {
+    addCommand(program, call, "init",
+               "Create what the league lacks, the files of the site's template included", init);
+}
+
+} // namespace iceline::cli

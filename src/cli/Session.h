@@ -1,0 +1,64 @@
+#pragma once
+
+#include "cli/ConsolePlatform.h"
+#include "shell/Application.h"
+#include "store/DiskFiles.h"
+#include "store/LeagueLock.h"
+
+#include <filesystem>
+#include <optional>
+#include <stdexcept>
+#include <string>
+
+namespace iceline::cli {
+
+/// How a command ended; the value is the exit status.
+enum class Status { Done = 0, Refused = 1, Misused = 2 };
+
+/// An argument is off. what() is one line for the user that names it.
+class UsageError : public std::runtime_error {
+    using std::runtime_error::runtime_error;
+};
+
+/// What a call has chosen before its command.
+struct LeagueChoice {
+    std::string folder = "."; ///< relative to the current folder
+    bool yes = false;         ///< the start-up question is answered with OK
+};
+
+/// One run of the program: the console that it talks through and, from start() on, its league.
+class Session {
+public:
+    Session(Console& console, LeagueChoice choice);
+
+    /// Takes the league for this run and starts up on it. False when the start-up question was answered with
+    /// Cancel. Throws UsageError when the league folder does not exist, and FileError.
+    bool start();
+
+    Console& console() { return console_; }
+    std::ostream& out() { return console_.out; }
+    ConsolePlatform& platform() { return platform_; }
+
+    /// The league. Only after start().
+    Application& app() { return league_->app; }
+
+private:
+    struct League {
+        League(const std::filesystem::path& folder, Platform& platform);
+
+        LeagueLock lock;
+        DiskFiles disk;
+        DiskFiles siteTemplate;
+        Application app;
+    };
+
+    Console& console_;
+    LeagueChoice choice_;
+    ConsolePlatform platform_;
+    std::optional<League> league_;
+};
+
+/// A path that the user has given, relative to the current folder, as Files takes it.
+std::string absolutePath(const std::string& given);
+
+} // namespace iceline::cli

@@ -1,0 +1,75 @@
+#include "cli/TextTable.h"
+
+#include <algorithm>
+#include <functional>
+#include <iterator>
+
+namespace iceline::cli {
+
+namespace {
+
+constexpr std::size_t Gap = 2;
+
+bool continuesCharacter(char c) {
+    return (static_cast<unsigned char>(c) & 0xC0U) == 0x80U;
+}
+
+void cutBlanksBehind(std::string& line) {
+    line.erase(line.find_last_not_of(' ') + 1);
+}
+
+} // namespace
+
+std::size_t displayWidth(const std::string& text) {
+    return static_cast<std::size_t>(std::ranges::count_if(text, std::not_fn(continuesCharacter)));
+}
+
+std::string padded(const std::string& text, std::size_t width, TextTable::Align align) {
+    const std::size_t used = displayWidth(text);
+    const std::string blanks(width > used ? width - used : 0, ' ');
+    return align == TextTable::Align::Left ? text + blanks : blanks + text;
+}
+
+void TextTable::addRow(std::vector<std::string> cells) {
+    cells.resize(columns_.size());
+    rows_.push_back(std::move(cells));
+}
+
+std::vector<std::string> TextTable::lines() const {
+    std::vector<std::string> heads;
+    std::ranges::transform(columns_, std::back_inserter(heads), &Column::head);
+    std::vector<std::vector<std::string>> rows = rows_;
+    if (std::ranges::any_of(heads, [](const std::string& head) { return !head.empty(); }))
+        rows.insert(rows.begin(), heads);
+
+    std::vector<std::string> lines(rows.size());
+    for (std::size_t column = 0; column < columns_.size(); ++column) {
+        std::size_t width = 0;
+        for (const auto& row : rows)
+            width = std::max(width, displayWidth(row[column]));
+        for (std::size_t i = 0; i < rows.size(); ++i)
+            lines[i] += std::string(column == 0 ? 0 : Gap, ' ') +
+                        padded(rows[i][column], width, columns_[column].align);
+    }
+    std::ranges::for_each(lines, cutBlanksBehind);
+    return lines;
+}
+
+std::ostream& operator<<(std::ostream& out, const TextTable& table) {
+    for (const std::string& line : table.lines())
+        out << line << '\n';
+    return out;
+}
+
+std::vector<std::string> sideBySide(std::vector<std::string> left, const std::vector<std::string>& right,
+                                    std::size_t gap) {
+    std::size_t width = 0;
+    for (const std::string& line : left)
+        width = std::max(width, displayWidth(line));
+    left.resize(std::max(left.size(), right.size()));
+    for (std::size_t i = 0; i < right.size(); ++i)
+        left[i] = padded(left[i], width + gap, TextTable::Align::Left) + right[i];
+    return left;
+}
+
+} // namespace iceline::cli

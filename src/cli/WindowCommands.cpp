@@ -1,0 +1,41 @@
+#include "cli/Command.h"
+#include "cli/WindowPrinters.h"
+
+namespace iceline::cli {
+
+namespace {
+
+WindowId windowNamed(const std::string& name) {
+    if (const auto id = windowByName(name))
+        return *id;
+    std::string names;
+    for (const CatalogueRow& row : windowCatalogue())
+        names += (names.empty() ? "" : ", ") + std::string(row.name);
+    throw UsageError("there is no window '" + name + "'; there are " + names);
+}
+
+Status openWindow(Session& session, const std::string& name) {
+    const WindowId id = windowNamed(name);
+    if (!catalogueRow(id).make || !windowPrinter(id))
+        throw UsageError(name + " is not built yet");
+    windowPrinter(id)(session.app().windows().use(id), session.out());
+    return Status::Done;
+}
+
+Status closeWindow(Session& session, const std::string& name) {
+    session.app().windows().unload(windowNamed(name));
+    return Status::Done;
+}
+
+} // namespace
+
+void addWindowCommands(CLI::App& program, Call& call) {
+    const auto [open, opened] =
+        addCommand<std::string>(program, call, "open", "Open a window and print what it shows", openWindow);
+    open->add_option("WINDOW", *opened, "its name in the catalogue, for instance Standings")->required();
+    const auto [close, closed] =
+        addCommand<std::string>(program, call, "close", "Close a window", closeWindow);
+    close->add_option("WINDOW", *closed)->required();
+}
+
+} // namespace iceline::cli

@@ -1,0 +1,33 @@
+#include "cli/WindowPrinters.h"
+
+#include "capture/StatExtractor.h"
+
+#include <algorithm>
+
+namespace iceline::cli {
+
+namespace {
+
+/// A function for one kind of window as one for all of them.
+template <class Kind, void (*print)(const Kind&, std::ostream&)>
+void printAs(const Window& window, std::ostream& out) {
+    print(static_cast<const Kind&>(window), out);
+}
+
+struct Row {
+    WindowId id;
+    WindowPrinter print;
+};
+
+constexpr Row Printers[] = {
+    {WindowId::StatExtractor, printAs<StatExtractor, printStatExtractor>},
+};
+
+} // namespace
+
+WindowPrinter windowPrinter(WindowId id) {
+    const auto row = std::ranges::find(Printers, id, &Row::id);
+    return row == std::end(Printers) ? nullptr : row->print;
+}
+
+} // namespace iceline::cli
