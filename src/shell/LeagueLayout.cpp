@@ -1,75 +1,13 @@
 #include "shell/LeagueLayout.h"
 
 #include "shell/DefaultRosters.h"
-#include "store/LeagueFiles.h"
+#include "store/InitialFiles.h"
 #include "store/LeaguePaths.h"
-#include "store/PlayerFiles.h"
-#include "store/TeamFiles.h"
+#include "store/TextFormat.h"
 
 namespace iceline {
 
 namespace {
-
-constexpr int SeasonLengthAtStart = 82;
-constexpr int CrowdMeterAtStart = 80;
-
-/// A file and what it begins with.
-struct NewFile {
-    std::string name;
-    std::string (*initialContent)();
-};
-
-std::string nothing() {
-    return "";
-}
-
-std::string initialRecordsText() {
-    return lineOf(TeamRecord());
-}
-
-std::string initialStreakText() {
-    return lineOf(Streak());
-}
-
-std::string initialCrowdMeterText() {
-    return numberLine(CrowdMeterAtStart);
-}
-
-std::string initialLeagueRecordsText() {
-    return textOf(initialLeagueRecords());
-}
-
-template <class Records>
-std::string initialTextOf() {
-    return textOf(Records());
-}
-
-const NewFile LastTenFile{paths::Last10Games, nothing};
-const NewFile PlayerStatsFile{paths::PlayerStats, initialPlayerStatsText};
-const NewFile RecordsFile{paths::Records, initialRecordsText};
-const NewFile StreakFile{paths::Streak, initialStreakText};
-
-const std::vector<NewFile>& leagueFiles() {
-    static const std::vector<NewFile> files{
-        {paths::Last10Box, nothing},
-        {paths::GamesUntilPlayoffs, [] { return numberLine(SeasonLengthAtStart); }},
-        {paths::CrowdMeter, initialCrowdMeterText},
-        {paths::twin(PartOfYear::Playoffs, paths::CrowdMeter), initialCrowdMeterText},
-        {"League Records.txt", initialUnusedLeagueRecordsText},
-        {"Playoff League Records.txt", initialUnusedLeagueRecordsText},
-        {paths::PlayoffRecords, initialTextOf<PlayoffSeriesTable>},
-        {paths::OverallGameNumber, [] { return numberLine(0); }},
-        {paths::allTimeGoalieRecords(PartOfYear::Season), initialTextOf<AllTimeGoalieRecords>},
-        {paths::allTimeGoalieRecords(PartOfYear::Playoffs), initialTextOf<AllTimeGoalieRecords>},
-        {paths::allTimePlayerRecords(PartOfYear::Season), initialTextOf<AllTimePlayerRecords>},
-        {paths::allTimePlayerRecords(PartOfYear::Playoffs), initialTextOf<AllTimePlayerRecords>},
-        {paths::allTimeLeagueRecords(PartOfYear::Season), initialLeagueRecordsText},
-        {paths::allTimeLeagueRecords(PartOfYear::Playoffs), initialLeagueRecordsText},
-        {paths::coachesLeagueRecords(PartOfYear::Season), initialTextOf<CoachesLeagueRecords>},
-        {paths::coachesLeagueRecords(PartOfYear::Playoffs), initialTextOf<CoachesLeagueRecords>},
-    };
-    return files;
-}
 
 class Layout {
 public:
@@ -78,8 +16,8 @@ public:
     void file(std::string path, std::function<std::string()> content) {
         entries_.push_back({LeagueEntry::Kind::File, std::move(path), std::move(content)});
     }
-    void file(const std::string& folder, const NewFile& file) {
-        this->file(folder + "/" + file.name, file.initialContent);
+    void file(const std::string& folder, const InitialFile& file) {
+        this->file(folder + "/" + file.name, file.content);
     }
 
     std::vector<LeagueEntry> take() { return std::move(entries_); }
@@ -98,19 +36,20 @@ void addTeam(Layout& layout, TeamIndex team) {
         layout.folder(paths::page(profiles + std::string(TeamAbbr[team])));
     layout.folder(postSeason);
 
-    layout.file(folder, LastTenFile);
-    layout.file(folder, PlayerStatsFile);
+    const auto files = initialTeamFiles();
+    for (const InitialFile& file : files.first(2))
+        layout.file(folder, file);
     layout.file(paths::playersList(team),
                 [team] { return std::string(defaultRoster(team)) + std::string(LineEnd); });
-    layout.file(folder, RecordsFile);
-    layout.file(folder, StreakFile);
-    for (const NewFile* file : {&LastTenFile, &PlayerStatsFile, &RecordsFile, &StreakFile})
-        layout.file(postSeason, *file);
+    for (const InitialFile& file : files.subspan(2))
+        layout.file(folder, file);
+    for (const InitialFile& file : files)
+        layout.file(postSeason, file);
 }
 
 void addCoach(Layout& layout, const std::string& coach) {
-    for (const NewFile* file : {&LastTenFile, &RecordsFile, &StreakFile})
-        layout.file(paths::coachFolder(coach), *file);
+    for (const InitialFile& file : initialCoachFiles())
+        layout.file(paths::coachFolder(coach), file);
 }
 
 } // namespace
@@ -120,8 +59,8 @@ std::vector<LeagueEntry> leagueLayout(Files& files) {
     layout.site();
     for (TeamIndex team = 0; team < LeagueTeams; ++team)
         addTeam(layout, team);
-    for (const NewFile& file : leagueFiles())
-        layout.file(file.name, file.initialContent);
+    for (const InitialFile& file : initialLeagueFiles())
+        layout.file(file.name, file.content);
     layout.folder(paths::Coaches);
     if (files.isFolder(paths::Coaches))
         for (const std::string& coach : files.foldersIn(paths::Coaches))

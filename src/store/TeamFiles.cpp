@@ -59,10 +59,4 @@ LastTen readLastTen(Files& files, const RecordFolder& folder, int gameCount) {
     return lastTen;
 }
 
-void writeInitialTeamFiles(Files& files, const RecordFolder& folder) {
-    files.write(folder + "/" + paths::Last10Games, "");
-    writeTeamRecord(files, folder, {});
-    writeStreak(files, folder, {});
-}
-
 } // namespace iceline

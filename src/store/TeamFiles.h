@@ -34,7 +34,4 @@ struct LastTen {
 /// Counts the last ten of the `gameCount` lines of `Last 10 Games.txt`.
 LastTen readLastTen(Files& files, const RecordFolder& folder, int gameCount);
 
-/// Writes the initial content of the three files: a team or coach that has played nothing.
-void writeInitialTeamFiles(Files& files, const RecordFolder& folder);
-
 } // namespace iceline

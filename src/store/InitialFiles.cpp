@@ -1,0 +1,80 @@
+#include "store/InitialFiles.h"
+
+#include "store/LeagueFiles.h"
+#include "store/LeaguePaths.h"
+#include "store/PlayerFiles.h"
+#include "store/TeamRecord.h"
+
+#include <array>
+
+namespace iceline {
+
+namespace {
+
+constexpr int SeasonLengthAtStart = 82;
+constexpr int CrowdMeterAtStart = 80;
+
+template <int Value>
+std::string number() {
+    return numberLine(Value);
+}
+
+template <class Records>
+std::string initialTextOf() {
+    return textOf(Records());
+}
+
+template <class Record>
+std::string initialLineOf() {
+    return lineOf(Record());
+}
+
+std::string nothing() {
+    return "";
+}
+
+std::string initialLeagueRecordsText() {
+    return textOf(initialLeagueRecords());
+}
+
+const InitialFile Last10Games{paths::Last10Games, nothing};
+const InitialFile PlayerStatsFile{paths::PlayerStats, initialPlayerStatsText};
+const InitialFile Records{paths::Records, initialLineOf<TeamRecord>};
+const InitialFile StreakFile{paths::Streak, initialLineOf<Streak>};
+
+} // namespace
+
+std::span<const InitialFile> initialLeagueFiles() {
+    using enum PartOfYear;
+    static const std::array files{
+        InitialFile{paths::Last10Box, nothing},
+        InitialFile{paths::GamesUntilPlayoffs, number<SeasonLengthAtStart>},
+        InitialFile{paths::CrowdMeter, number<CrowdMeterAtStart>},
+        InitialFile{paths::twin(Playoffs, paths::CrowdMeter), number<CrowdMeterAtStart>, false},
+        InitialFile{"League Records.txt", initialUnusedLeagueRecordsText, false},
+        InitialFile{"Playoff League Records.txt", initialUnusedLeagueRecordsText, false},
+        InitialFile{paths::PlayoffRecords, initialTextOf<PlayoffSeriesTable>},
+        InitialFile{paths::OverallGameNumber, number<0>},
+        InitialFile{paths::allTimeGoalieRecords(Season), initialTextOf<AllTimeGoalieRecords>},
+        InitialFile{paths::allTimeGoalieRecords(Playoffs), initialTextOf<AllTimeGoalieRecords>},
+        InitialFile{paths::allTimePlayerRecords(Season), initialTextOf<AllTimePlayerRecords>},
+        InitialFile{paths::allTimePlayerRecords(Playoffs), initialTextOf<AllTimePlayerRecords>},
+        InitialFile{paths::allTimeLeagueRecords(Season), initialLeagueRecordsText},
+        InitialFile{paths::allTimeLeagueRecords(Playoffs), initialLeagueRecordsText},
+        InitialFile{paths::coachesLeagueRecords(Season), initialTextOf<CoachesLeagueRecords>},
+        InitialFile{paths::coachesLeagueRecords(Playoffs), initialTextOf<CoachesLeagueRecords>},
+    };
+    return files;
+}
+
+std::span<const InitialFile> initialTeamFiles() {
+    static const std::array files{Last10Games, PlayerStatsFile, Records, StreakFile};
+    return files;
+}
+
+std::span<const InitialFile> initialCoachFiles() {
+    static const std::array files{Last10Games, Records, StreakFile};
+    return files;
+}
+
+} // namespace iceline
