@@ -80,7 +80,8 @@ bool takePermissions(int handle, const std::filesystem::path& replaced) {
     struct stat status = {};
     if (::stat(replaced.c_str(), &status) != 0)
         return true;
-    return ::access(replaced.c_str(), W_OK) == 0 && ::fchmod(handle, status.st_mode & 0777) == 0;
+    return ::faccessat(AT_FDCWD, replaced.c_str(), W_OK, AT_EACCESS) == 0 &&
+           ::fchmod(handle, status.st_mode & 0777) == 0;
 }
 
 bool lock(int handle) {

@@ -26,7 +26,7 @@ bool mustStandAlone(const std::vector<Change>& changes) {
 } // namespace
 
 void Journal::commit(const std::vector<Change>& changes) {
-    if (unfinished_ && recover() == Recovery::Finished)
+    if (recover() == Recovery::Finished)
         throw FileError(FileName,
                         "an earlier change noted here has only now been finished. What was asked for "
                         "now was not done; please do it again");
@@ -51,13 +51,13 @@ void Journal::beginRun() {
 
 void Journal::endRun() {
     inRun_ = false;
-    if (unfinished_)
-        recover();
-    else if (length_ > 0)
+    if (recover() == Recovery::Nothing && length_ > 0)
         finish([&] { checkpoint(); });
 }
 
 Recovery Journal::recover() {
+    if (!unfinished_)
+        return Recovery::Nothing;
     if (!files_.isFile(FileName)) {
         length_ = 0;
         unfinished_ = false;

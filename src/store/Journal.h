@@ -39,7 +39,8 @@ public:
     void endRun();
 
     /// Finishes the whole commits of a journal that was left behind, drops a torn one, and removes the
-    /// journal. Doing so twice, or after a part of it was done, gives the same files.
+    /// journal. Doing so twice, or after a part of it was done, gives the same files. Costs nothing when
+    /// every commit of this object was finished; in a run, what is due at its end is left to that.
     Recovery recover();
 
 private:
