@@ -96,8 +96,7 @@ void TestLeague::setPlayerStats(TeamIndex team, PartOfYear part, int row, const 
 }
 
 void TestLeague::addCoach(const std::string& name, const TeamRecord& record, const Streak& streak) {
-    files.makeFolder(paths::coachFolder(name));
-    writeInitialTeamFiles(files, paths::coachFolder(name));
+    createCoach(files, name);
     writeTeamRecord(files, paths::coachFolder(name), record);
     writeStreak(files, paths::coachFolder(name), streak);
 }
