@@ -1,6 +1,7 @@
 #include "support/TestLeague.h"
 
 #include "shell/Startup.h"
+#include "views/Coaches.h"
 
 #include <stdexcept>
 
