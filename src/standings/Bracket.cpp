@@ -18,8 +18,8 @@ BracketSlot slotOnLine(Conference conference, int line) {
     const int slot = line >> (round + 1);
     const int series = firstSeriesOf(conference, round) + slot / 2;
     if (series == Final)
-        return {round, series, conference == Conference::Wales ? Side::A : Side::B, 0};
-    return {round, series, slot % 2 == 0 ? Side::A : Side::B,
+        return {round, series, conference == Conference::Wales ? SeriesTeam::A : SeriesTeam::B, 0};
+    return {round, series, slot % 2 == 0 ? SeriesTeam::A : SeriesTeam::B,
             round == 0 ? FirstRoundPairings[slot / 2][slot % 2] : 0};
 }
 

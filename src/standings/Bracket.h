@@ -15,13 +15,13 @@ inline constexpr int BracketLines = 15;
 inline constexpr int BracketRounds = 4;
 
 /// The first or the second team of a series.
-enum class Side { A, B };
+enum class SeriesTeam { A, B };
 
 /// Where a team stands in the bracket.
 struct BracketSlot {
     int round = 0; ///< 0 to 3
     int series = 0;
-    Side side = Side::A;
+    SeriesTeam team = SeriesTeam::A;
     int place = 0; ///< first round: place among the conference's seeds, from 0
 };
 

@@ -18,11 +18,11 @@ Playoffs::Content::Content() {
 TeamIndex Playoffs::Content::team(Conference conference, const BracketSlot& slot) const {
     if (slot.round == 0)
         return (conference == Conference::Wales ? EastFirstRound : WestFirstRound)[slot.place];
-    return (slot.side == Side::A ? T1 : T2)[slot.series - FirstRoundSeries];
+    return (slot.team == SeriesTeam::A ? T1 : T2)[slot.series - FirstRoundSeries];
 }
 
 const std::string& Playoffs::Content::wins(const BracketSlot& slot) const {
-    return (slot.side == Side::A ? W1 : W2)[slot.series];
+    return (slot.team == SeriesTeam::A ? W1 : W2)[slot.series];
 }
 
 void Playoffs::Form_Load() {

@@ -14,7 +14,7 @@ std::vector<std::string> lines(Conference conference) {
     std::vector<std::string> lines;
     for (const BracketSlot& slot : bracketSlots(conference)) {
         std::string line = std::to_string(slot.round) + ":" + std::to_string(slot.series) +
-                           (slot.side == Side::A ? "A" : "B");
+                           (slot.team == SeriesTeam::A ? "A" : "B");
         if (slot.round == 0)
             line += " seed " + std::to_string(slot.place + 1);
         lines.push_back(line);
