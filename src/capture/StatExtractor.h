@@ -81,6 +81,9 @@ public:
     std::array<std::string, RosterRows> AwayNames;
 
 private:
+    std::optional<std::string> chooseSaveState();
+    void show(const GameReport& report);
+    void publish(const GameReport& report);
     std::optional<std::string> coachAt(int position) const;
 
     Content content_;

@@ -1,3 +1,4 @@
+#include "capture/StatExtractor.h"
 #include "shell/Windows.h"
 #include "standings/Playoffs.h"
 #include "standings/Standings.h"
@@ -15,7 +16,7 @@ std::unique_ptr<Window> make(Application& app) {
 }
 
 constexpr std::array<CatalogueRow, WindowCount> Catalogue{{
-    {WindowId::StatExtractor, "Stat Extractor", "StatExtractor", None},
+    {WindowId::StatExtractor, "Stat Extractor", "StatExtractor", make<StatExtractor>},
     {WindowId::PlayerStats, "Player Stats", "PlayerStats", None},
     {WindowId::TeamStats, "Team Stats", "TeamStats", None},
     {WindowId::Standings, "Standings", "Standings", make<Standings>},
@@ -36,6 +37,10 @@ constexpr std::array<CatalogueRow, WindowCount> Catalogue{{
 
 std::span<const CatalogueRow> windowCatalogue() {
     return Catalogue;
+}
+
+StatExtractor& Windows::statExtractor() {
+    return static_cast<StatExtractor&>(use(WindowId::StatExtractor));
 }
 
 Standings& Windows::standings() {
