@@ -2,6 +2,10 @@
 #include "shell/Windows.h"
 #include "standings/Playoffs.h"
 #include "standings/Standings.h"
+#include "views/AllTimeRecords.h"
+#include "views/PlayerProfiles.h"
+#include "views/PlayerStats.h"
+#include "views/TeamStats.h"
 
 namespace iceline {
 
@@ -15,21 +19,32 @@ std::unique_ptr<Window> make(Application& app) {
     return std::make_unique<Object>(app);
 }
 
+/// Twin windows are one class that works on the one part of the year or the other.
+template <class Object, PartOfYear Part>
+std::unique_ptr<Window> make(Application& app) {
+    return std::make_unique<Object>(app, Part);
+}
+
 constexpr std::array<CatalogueRow, WindowCount> Catalogue{{
     {WindowId::StatExtractor, "Stat Extractor", "StatExtractor", make<StatExtractor>},
-    {WindowId::PlayerStats, "Player Stats", "PlayerStats", None},
-    {WindowId::TeamStats, "Team Stats", "TeamStats", None},
+    {WindowId::PlayerStats, "Player Stats", "PlayerStats", make<PlayerStats, PartOfYear::Season>},
+    {WindowId::TeamStats, "Team Stats", "TeamStats", make<TeamStats, PartOfYear::Season>},
     {WindowId::Standings, "Standings", "Standings", make<Standings>},
     {WindowId::Rankings, "Rankings", "Rankings", None},
-    {WindowId::PlayerProfiles, "Player Profiles", "PlayerProfiles", None},
+    {WindowId::PlayerProfiles, "Player Profiles", "PlayerProfiles", make<PlayerProfiles, PartOfYear::Season>},
     {WindowId::Playoffs, "Playoff Tree", "Playoffs", make<Playoffs>},
-    {WindowId::PlayoffPlayerStats, "Playoff Player Stats", "PlayoffPlayerStats", None},
-    {WindowId::PlayoffTeamStats, "Playoff Team Stats", "PlayoffTeamStats", None},
+    {WindowId::PlayoffPlayerStats, "Playoff Player Stats", "PlayoffPlayerStats",
+     make<PlayerStats, PartOfYear::Playoffs>},
+    {WindowId::PlayoffTeamStats, "Playoff Team Stats", "PlayoffTeamStats",
+     make<TeamStats, PartOfYear::Playoffs>},
     {WindowId::PlayoffRankings, "Playoff Rankings", "PlayoffRankings", None},
-    {WindowId::PlayoffPlayerProfiles, "Playoff Player Profiles", "PlayoffPlayerProfiles", None},
+    {WindowId::PlayoffPlayerProfiles, "Playoff Player Profiles", "PlayoffPlayerProfiles",
+     make<PlayerProfiles, PartOfYear::Playoffs>},
     {WindowId::CoachStats, "Coaches Stats", "CoachStats", None},
-    {WindowId::AllTimeRecords, "All-Time Records", "AllTimeRecords", None},
-    {WindowId::PlayoffAllTimeRecords, "Playoff All-Time Records", "PlayoffAllTimeRecords", None},
+    {WindowId::AllTimeRecords, "All-Time Records", "AllTimeRecords",
+     make<AllTimeRecords, PartOfYear::Season>},
+    {WindowId::PlayoffAllTimeRecords, "Playoff All-Time Records", "PlayoffAllTimeRecords",
+     make<AllTimeRecords, PartOfYear::Playoffs>},
     {WindowId::Options, "Options", "Options", None},
 }};
 

@@ -1,0 +1,55 @@
+#pragma once
+
+#include "shell/Window.h"
+#include "store/LeagueFiles.h"
+#include "store/LeaguePaths.h"
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace iceline {
+
+/// The best single-game figures ever set in a part of the year, by players, goalies, teams and coaches. Every
+/// load also writes the page.
+class AllTimeRecords : public Window {
+public:
+    AllTimeRecords(Application& application, PartOfYear part) : Window(application), part_(part) {}
+
+    struct Content {
+        AllTimePlayerRecords players;
+        AllTimeGoalieRecords goalies;
+        AllTimeLeagueRecords teams;
+        CoachesLeagueRecords coaches;
+    };
+
+    void Form_Load() override;
+
+    const Content& content() const { return content_; }
+
+private:
+    PartOfYear part_;
+    Content content_;
+};
+
+/// A record as the window shows it. A control that the section does not have is "".
+struct ShownRecord {
+    std::string_view caption;
+    std::string_view teamControl;
+    std::string_view nameControl;
+    std::string_view valueControl;
+    int team = -1; ///< TeamIndex, -1 for a coach's record
+    std::string name;
+    std::string value;
+};
+
+/// The four sections of the window, in its order.
+std::vector<ShownRecord> shownPlayerRecords(const AllTimeRecords::Content& content);
+std::vector<ShownRecord> shownGoalieRecords(const AllTimeRecords::Content& content);
+std::vector<ShownRecord> shownTeamRecords(const AllTimeRecords::Content& content);
+std::vector<ShownRecord> shownCoachRecords(const AllTimeRecords::Content& content);
+
+/// The text of the page, the same for both parts of the year but for the figures.
+std::string allTimeRecordsPage(const AllTimeRecords::Content& content);
+
+} // namespace iceline
