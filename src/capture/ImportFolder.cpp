@@ -1,0 +1,99 @@
+#include "capture/SaveState.h"
+#include "capture/StatExtractor.h"
+#include "capture/ThreeStars.h"
+#include "shell/Application.h"
+#include "standings/Standings.h"
+#include "store/FileError.h"
+
+#include <exception>
+
+namespace iceline {
+
+namespace {
+
+/// Takes a step; the file error that it ends with, none when it goes well.
+template <class Step>
+std::exception_ptr failureOf(Step step) {
+    try {
+        step();
+    } catch (const FileError&) {
+        return std::current_exception();
+    }
+    return nullptr;
+}
+
+/// The import of the files of a folder, one after the other.
+class FolderRun {
+public:
+    FolderRun(Application& app, StatExtractor& window, const std::string& folder)
+        : app_(app), window_(window), folder_(folder) {
+        window_.ImportMode = 1;
+        window_.ImportCount = 0;
+        window_.ImportAnswer = Answer::Ok;
+    }
+    ~FolderRun() { window_.ImportMode = 0; }
+    FolderRun(const FolderRun&) = delete;
+    FolderRun& operator=(const FolderRun&) = delete;
+
+    /// The file error that ended the run, none when it went through. What was imported until then stays.
+    std::exception_ptr run() {
+        const BusyPointer busy(app_.platform());
+        app_.journal().beginRun();
+        const auto failure = failureOf([this] { importFiles(); });
+        const auto failureAtEnd = failureOf([this] { app_.journal().endRun(); });
+        return failure ? failure : failureAtEnd;
+    }
+
+private:
+    void importFiles() {
+        const std::vector<std::string> names = app_.files().filesIn(folder_);
+        ProgressRun progress(app_.platform(), "Importing games", static_cast<int>(names.size()), true);
+        for (const std::string& name : names) {
+            if (window_.ImportAnswer == Answer::Cancel || !progress.next(name))
+                return;
+            importFile(name);
+            window_.checkSeason();
+        }
+    }
+
+    void importFile(const std::string& name) {
+        app_.state.SaveStatePath = folder_ + "/" + name;
+        window_.SaveStateFileName = name;
+        window_.GameLoaded = true;
+        chooseStars();
+        window_.ImportStats_Click();
+    }
+
+    void chooseStars() {
+        const SaveState save = SaveState::read(app_.files(), app_.state.SaveStatePath);
+        if (!save.refusal())
+            selectStars(app_.state, save, readRosters(app_.files(), save));
+    }
+
+    Application& app_;
+    StatExtractor& window_;
+    std::string folder_;
+};
+
+} // namespace
+
+void StatExtractor::ImportFolder_Click() {
+    if (Exhibition && T1Coach < 1 && T2Coach < 1) {
+        app_.platform().say("Please select at least one coach first to import exhibition game to");
+        return;
+    }
+    const auto folder = app_.platform().chooseFolder("Select folder to import");
+    if (!folder)
+        return;
+    const std::string question = "Are you sure you want import all files in " + *folder + "?";
+    if (app_.platform().ask({question, Buttons::YesNo, "Import"}) != Answer::Yes)
+        return;
+    const std::exception_ptr failure = FolderRun(app_, *this, *folder).run();
+    app_.platform().say(std::to_string(ImportCount) + " Files imported");
+    if (failure)
+        std::rethrow_exception(failure);
+    app_.windows().standings().DivisionStandingsUpdate();
+    updateStandings();
+}
+
+} // namespace iceline
