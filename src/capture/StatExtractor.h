@@ -81,6 +81,9 @@ public:
     std::array<std::string, RosterRows> AwayNames;
 
 private:
+    /// Renews the tables of home and away games and of the versus records, as every import does.
+    void updateStandings();
+
     std::optional<std::string> chooseSaveState();
     void show(const GameReport& report);
     void publish(const GameReport& report);
