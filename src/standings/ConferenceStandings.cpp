@@ -1,6 +1,5 @@
 #include "standings/ConferenceStandings.h"
 
-#include "standings/DivisionStandings.h"
 #include "standings/Elimination.h"
 
 namespace iceline {
@@ -33,8 +32,7 @@ void seedConferences(ApplicationState& state) {
 std::array<ConferenceRows, 2> conferenceRows(const ApplicationState& state) {
     std::array<ConferenceRows, 2> rows;
     for (std::size_t conference = 0; conference < rows.size(); ++conference)
-        std::ranges::transform(state.*Conferences[conference].seeds, rows[conference].begin(),
-                               [&state](TeamIndex team) { return standingsRow(state, team); });
+        rows[conference] = standingsRows(state, state.*Conferences[conference].seeds);
     return rows;
 }
 

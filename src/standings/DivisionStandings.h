@@ -10,9 +10,6 @@ using DivisionRows = std::array<StandingsRow, DivisionTeams>;
 /// Orders the four divisions by StandingsTable.
 void orderDivisions(ApplicationState& state);
 
-/// A team's row from StandingsTable, with the mark that it bears now.
-StandingsRow standingsRow(const ApplicationState& state, TeamIndex team);
-
 /// The rows of the four divisions, by Division.
 std::array<DivisionRows, 4> divisionRows(const ApplicationState& state);
 

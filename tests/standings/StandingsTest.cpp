@@ -1,0 +1,269 @@
+#include "standings/Standings.h"
+
+#include "shell/WelcomeWindow.h"
+#include "standings/StandingsSupport.h"
+#include "store/FileError.h"
+#include "support/TestLeague.h"
+
+#include <gmock/gmock.h>
+
+namespace iceline::test {
+namespace {
+
+using testing::HasSubstr;
+using testing::StartsWith;
+
+constexpr std::size_t Wales = 0;
+constexpr std::size_t Campbell = 1;
+
+class StandingsWindow : public testing::Test {
+protected:
+    void set(std::string_view abbr, const TeamRecord& record) {
+        league.setRecord(team(abbr), PartOfYear::Season, record);
+    }
+
+    Standings& open() {
+        return static_cast<Standings&>(WelcomeWindow(league.app).List1_Click(WindowId::Standings));
+    }
+
+    /// Loads the window as Generate Webpages does.
+    const Standings::Content& publish() {
+        league.app.windows().unload(WindowId::Standings);
+        league.app.state.ShowWindows = false;
+        return league.app.windows().standings().content();
+    }
+
+    std::string adams() { return teamsOfRows(open().content().divisions[0]); }
+
+    TestLeague league;
+};
+
+TEST_F(StandingsWindow, LeagueThatHasPlayedNothing) {
+    const Standings::Content& content = open().content();
+    EXPECT_EQ(teamsOfRows(content.divisions[0]), "QUE OTA MTL HFD BUF BOS");
+    EXPECT_EQ(teamsOfRows(content.conferences[Campbell]), "WPG TOR VAN TB STL SJ MIN LA EDM DET CHI CGY");
+    EXPECT_THAT(teamsOfRows(content.homeAway.home), StartsWith("BOS BUF CGY CHI"));
+    EXPECT_THAT(teamsOfRows(content.homeAway.away), StartsWith("BOS BUF CGY CHI"));
+    EXPECT_THAT(teamsOfRows(content.versus[Campbell]), StartsWith("CGY CHI DET EDM"));
+}
+
+TEST_F(StandingsWindow, ShowsTheFiguresOfTheRegularSeasonEvenInThePlayoffs) {
+    TeamRecord record;
+    record.Wins = 3;
+    record.Losses = 2;
+    record.Ties = 1;
+    record.Points = 7;
+    record.GP = 6;
+    record.GF = 20;
+    record.GA = 15;
+    set("HFD", record);
+    league.app.state.SeasonFolder = seasonFolder(PartOfYear::Playoffs);
+    const StandingsRow& row = open().content().divisions[0].front();
+    EXPECT_EQ(row.team, team("HFD"));
+    EXPECT_THAT((std::array{row.wins, row.losses, row.ties, row.points, row.GP, row.GF, row.GA}),
+                testing::ElementsAre(3, 2, 1, 7, 6, 20, 15));
+}
+
+TEST_F(StandingsWindow, DifferenceCountsAsAWholeNumberToTheEvenSide) {
+    TeamRecord record;
+    record.GF = 5;
+    record.Diff = 0.5;
+    set("BOS", record);
+    record.Diff = -0.4;
+    set("BUF", record);
+    EXPECT_THAT(adams(), StartsWith("BUF BOS QUE")) << "all three count as 0";
+    record.Diff = 1.5;
+    set("BOS", record);
+    EXPECT_THAT(adams(), StartsWith("BOS BUF QUE"));
+}
+
+TEST_F(StandingsWindow, EveryProcedureReadsEachRecordOnceAndWritesNothing) {
+    Standings& window = open();
+    const auto reads = [&](void (Standings::*procedure)()) {
+        const int before = league.files.reads;
+        (window.*procedure)();
+        return league.files.reads - before;
+    };
+    league.files.writes = 0;
+    EXPECT_EQ(reads(&Standings::DivisionStandingsUpdate), LeagueTeams);
+    EXPECT_EQ(reads(&Standings::HomeAwayStandingsUpdate), LeagueTeams);
+    EXPECT_EQ(reads(&Standings::vsConfLoad), LeagueTeams);
+    EXPECT_EQ(reads(&Standings::EvW_Click), 0);
+    EXPECT_EQ(league.files.writes, 0);
+}
+
+TEST_F(StandingsWindow, ClickInTheCatalogueBringsAnOpenWindowUpToDate) {
+    const Standings& window = open();
+    int redrawn = 0;
+    league.app.windows().standings().onChange = [&redrawn] { ++redrawn; };
+    TeamRecord record;
+    record.Points = 2;
+    record.HWinPercent = 1;
+    set("MTL", record);
+    open();
+    EXPECT_GT(redrawn, 0);
+    EXPECT_EQ(window.content().divisions[0].front().team, team("MTL"));
+    EXPECT_EQ(window.content().homeAway.home.front().team, team("MTL"));
+}
+
+TEST_F(StandingsWindow, HomeAndAwayRankByWinsAloneAndTiesGoByTheTeamTable) {
+    TeamRecord record;
+    record.HW = 1;
+    record.HL = 1;
+    record.HGP = 2;
+    record.HWinPercent = 0.5;
+    record.AT = 3;
+    record.AGP = 3;
+    set("WPG", record);
+    record.HW = record.HL = 5;
+    record.HGP = 10;
+    record.AW = 1;
+    record.AT = 0;
+    record.AGP = 1;
+    record.AWinPercent = 1;
+    set("TOR", record);
+    const HomeAwayStandings& standings = open().content().homeAway;
+    EXPECT_THAT(teamsOfRows(standings.home), StartsWith("TOR WPG BOS BUF"));
+    EXPECT_EQ(standings.home[1].record.winPercent, 500);
+    EXPECT_EQ(standings.home[1].GP, 2);
+    EXPECT_THAT(teamsOfRows(standings.away),
+                testing::AllOf(StartsWith("TOR BOS BUF"), testing::EndsWith("WPG")));
+    EXPECT_EQ(standings.away.back().record.ties, 3);
+    EXPECT_THAT(league.app.state.HomeAwayTable[team("TOR")], testing::ElementsAre(1, 0, 0, 1000, 1));
+    EXPECT_EQ(league.app.state.HomeAwayOrder.front(), team("TOR"));
+}
+
+/// CGY is good against Wales, WPG against Campbell; MTL good against Wales, QUE against Campbell.
+class VersusTables : public StandingsWindow {
+protected:
+    VersusTables() {
+        for (const std::string_view abbr : {"WPG", "MTL"})
+            set(abbr, record(2, 1, 3, 0, 0, 1));
+        for (const std::string_view abbr : {"CGY", "QUE"})
+            set(abbr, record(0, 2, 0, 1, 1, 0));
+    }
+
+    static TeamRecord record(int ownW, int ownL, int ownT, int otherW, int otherL, int otherT) {
+        TeamRecord record;
+        record.SameConfW = ownW;
+        record.SameConfL = ownL;
+        record.SameConfT = ownT;
+        record.OtherConfW = otherW;
+        record.OtherConfL = otherL;
+        record.OtherConfT = otherT;
+        return record;
+    }
+};
+
+TEST_F(VersusTables, FiguresStandUnderTheConferenceTheyWerePlayedAgainst) {
+    open();
+    EXPECT_THAT(league.app.state.WalesVersus[4], testing::ElementsAre(team("MTL"), 2, 1, 3, 333, 0, 0, 1, 0));
+    EXPECT_THAT(league.app.state.CampbellVersus.back(),
+                testing::ElementsAre(team("WPG"), 0, 0, 1, 0, 2, 1, 3, 333));
+    EXPECT_THAT(league.app.state.CampbellVersus.front(),
+                testing::ElementsAre(team("CGY"), 1, 1, 0, 500, 0, 2, 0, 0));
+}
+
+TEST_F(VersusTables, ClicksRankWithoutTouchingAFile) {
+    Standings& window = open();
+    const Standings::Content& content = window.content();
+    EXPECT_THAT(teamsOfRows(content.versus[Wales]), StartsWith("MTL BOS BUF"));
+    EXPECT_THAT(teamsOfRows(content.versus[Campbell]), StartsWith("WPG CGY CHI"));
+
+    const int reads = league.files.reads;
+    window.EvW_Click();
+    window.WvE_Click();
+    EXPECT_EQ(league.files.reads, reads);
+    EXPECT_THAT(teamsOfRows(content.versus[Wales]), StartsWith("QUE BOS BUF"));
+    EXPECT_THAT(teamsOfRows(content.versus[Campbell]), StartsWith("CGY CHI"));
+    EXPECT_THAT(content.versusRankedBy, testing::ElementsAre(Conference::Campbell, Conference::Wales));
+    EXPECT_EQ(content.versus[Wales][0].against[Campbell].winPercent, 500);
+
+    window.EvE_Click();
+    window.WvW_Click();
+    EXPECT_THAT(teamsOfRows(content.versus[Wales]), StartsWith("MTL BOS BUF"));
+    EXPECT_THAT(content.versusRankedBy, testing::ElementsAre(Conference::Wales, Conference::Campbell));
+}
+
+TEST_F(VersusTables, PageHoldsBothRankingsSideBySide) {
+    publish();
+    const auto lines = linesOf(league.page("vsConfStandings.htm"));
+    EXPECT_THAT(lines.at(8), testing::MatchesRegex(".*MTL.gif.* .333 .*QUE.gif.* .5 .*"));
+    EXPECT_THAT(lines.at(25), testing::MatchesRegex(".*WPG.gif.* .333 .*CGY.gif.* .5 .*"));
+    EXPECT_THAT(teamsOfRows(league.app.windows().standings().content().versus[Wales]), StartsWith("MTL"));
+}
+
+TEST_F(StandingsWindow, PagesAreWrittenOnlyWhileTheSiteIs) {
+    constexpr std::array Pages{"DivisionStandings.htm", "ConferenceStandings.htm", "HomeAwayStandings.htm",
+                               "vsConfStandings.htm"};
+    open();
+    for (const char* page : Pages)
+        EXPECT_FALSE(league.files.isFile(paths::page(page))) << page;
+    publish();
+    for (const char* page : Pages)
+        EXPECT_TRUE(league.files.isFile(paths::page(page))) << page;
+
+    const std::string versusPage = league.page("vsConfStandings.htm");
+    league.app.windows().standings().EvW_Click();
+    EXPECT_EQ(league.page("vsConfStandings.htm"), versusPage);
+}
+
+TEST_F(StandingsWindow, PagesBearTheMarksOfTheRunBefore) {
+    league.app.state.SeasonLength = 2;
+    TeamRecord record;
+    record.GP = 2;
+    for (TeamIndex other = 0; other < LeagueTeams; ++other)
+        league.setRecord(other, PartOfYear::Season, record);
+    record.Wins = 2;
+    record.Points = 4;
+    set("BOS", record);
+
+    const auto row = [this](const char* page, const char* abbr) {
+        for (const std::string& line : linesOf(league.page(page)))
+            if (line.find(std::string("LogoMinis/") + abbr) != std::string::npos)
+                return line;
+        return std::string();
+    };
+    EXPECT_EQ(publish().divisions[0].front().mark, "z");
+    EXPECT_THAT(row("DivisionStandings.htm", "BOS"), StartsWith("<tr><td><b></b></td>"));
+    EXPECT_THAT(row("ConferenceStandings.htm", "BOS"), StartsWith("<tr><center><td><b></b></td>"));
+    publish();
+    EXPECT_THAT(row("DivisionStandings.htm", "BOS"), StartsWith("<tr><td><b>z</b></td>"));
+    EXPECT_THAT(row("ConferenceStandings.htm", "BOS"), StartsWith("<tr><center><td><b>z</b></td>"));
+    EXPECT_THAT(row("ConferenceStandings.htm", "BUF"), StartsWith("<tr><center><td><b></b></td>"));
+}
+
+std::string errorOf(const std::function<void()>& action) {
+    try {
+        action();
+    } catch (const FileError& error) {
+        return error.what();
+    }
+    return "no error";
+}
+
+TEST_F(StandingsWindow, RecordThatCannotBeReadStopsTheUpdateAndChangesNothing) {
+    TeamRecord record;
+    record.Points = 2;
+    set("BOS", record);
+    Standings& window = open();
+    record.Points = 9;
+    set("BUF", record);
+    record.PowerRanking = 327.68;
+    set("CGY", record);
+    EXPECT_EQ(errorOf([&] { window.DivisionStandingsUpdate(); }),
+              "Calgary Flames/Records.txt, line 1, item 12 (PowerRanking): 327.68 is more than the standings "
+              "can hold");
+    league.files.files["Calgary Flames/Records.txt"] = "1,2\r\n";
+    EXPECT_THAT(errorOf([&] { window.DivisionStandingsUpdate(); }),
+                StartsWith("Calgary Flames/Records.txt, line"));
+    EXPECT_THAT(errorOf([&] { window.HomeAwayStandingsUpdate(); }),
+                StartsWith("Calgary Flames/Records.txt, line"));
+    EXPECT_THAT(errorOf([&] { window.vsConfLoad(); }), StartsWith("Calgary Flames/Records.txt, line"));
+    EXPECT_EQ(window.content().divisions[0].front().team, team("BOS"));
+    EXPECT_EQ(league.app.state.AdamsOrder.front(), team("BOS"));
+    EXPECT_EQ(league.app.state.StandingsTable[team("BUF")][3], 0);
+}
+
+} // namespace
+} // namespace iceline::test
