@@ -1,6 +1,8 @@
 #include "cli/WindowPrinters.h"
 
 #include "capture/StatExtractor.h"
+#include "standings/Playoffs.h"
+#include "standings/Standings.h"
 
 #include <algorithm>
 
@@ -21,6 +23,8 @@ struct Row {
 
 constexpr Row Printers[] = {
     {WindowId::StatExtractor, printAs<StatExtractor, printStatExtractor>},
+    {WindowId::Standings, printAs<Standings, printStandings>},
+    {WindowId::Playoffs, printAs<Playoffs, printPlayoffs>},
 };
 
 } // namespace
