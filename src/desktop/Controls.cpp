@@ -2,6 +2,7 @@
 
 #include "desktop/QtPlatform.h"
 
+#include <QComboBox>
 #include <QGroupBox>
 #include <QStyle>
 
@@ -46,6 +47,17 @@ QGroupBox* frame(const char* objectName, const QString& caption, QWidget* parent
     auto* made = new QGroupBox(caption, parent);
     made->setObjectName(QLatin1String(objectName));
     return made;
+}
+
+QComboBox* teamList(const char* objectName, const QString& prompt, QWidget* parent) {
+    auto* list = new QComboBox(parent);
+    list->setObjectName(QLatin1String(objectName));
+    list->setPlaceholderText(prompt);
+    for (TeamIndex team = 0; team < LeagueTeams; ++team)
+        list->addItem(toQt(TeamName[team]));
+    list->setCurrentIndex(-1);
+    list->setMinimumWidth(210);
+    return list;
 }
 
 QPushButton* exitButton(const char* objectName, QWidget* window) {

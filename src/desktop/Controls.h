@@ -9,7 +9,7 @@
 #include <string_view>
 #include <vector>
 
-class QGridLayout;
+class QComboBox;
 class QGroupBox;
 
 /// The controls that the windows share. A control's object name is its given name.
@@ -32,6 +32,9 @@ QLabel* textLabel(const QString& objectName, QWidget* parent);
 QLabel* pictureLabel(const QString& objectName, QWidget* parent);
 
 QGroupBox* frame(const char* objectName, const QString& caption, QWidget* parent);
+
+/// A list of the league's teams by full name, which shows `prompt` until one is chosen.
+QComboBox* teamList(const char* objectName, const QString& prompt, QWidget* parent);
 
 /// The button that closes a window.
 QPushButton* exitButton(const char* objectName, QWidget* window);

@@ -1,6 +1,10 @@
 #include "desktop/WindowMakers.h"
 
+#include "desktop/AllTimeRecordsWindow.h"
+#include "desktop/PlayerProfilesWindow.h"
+#include "desktop/PlayerStatsWindow.h"
 #include "desktop/StatExtractorWindow.h"
+#include "desktop/TeamStatsWindow.h"
 
 namespace iceline::desktop {
 
@@ -18,6 +22,18 @@ WindowMaker windowMaker(WindowId id) {
     switch (id) {
     case WindowId::StatExtractor:
         return make<StatExtractorWindow, StatExtractor>;
+    case WindowId::PlayerStats:
+    case WindowId::PlayoffPlayerStats:
+        return make<PlayerStatsWindow, PlayerStats>;
+    case WindowId::TeamStats:
+    case WindowId::PlayoffTeamStats:
+        return make<TeamStatsWindow, TeamStats>;
+    case WindowId::PlayerProfiles:
+    case WindowId::PlayoffPlayerProfiles:
+        return make<PlayerProfilesWindow, PlayerProfiles>;
+    case WindowId::AllTimeRecords:
+    case WindowId::PlayoffAllTimeRecords:
+        return make<AllTimeRecordsWindow, AllTimeRecords>;
     default:
         return nullptr;
     }

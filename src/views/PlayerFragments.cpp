@@ -34,8 +34,8 @@ std::string fragment(const std::vector<PlayerTableRow>& rows, TeamIndex team, Pa
         if (ranking == RankingLine::ItsOwn)
             text.line();
         text.line(cell(row.texts[RankingColumn]));
-        for (int column = RankingColumn + 1; column < PlayerColumns; ++column)
-            text.line(cell(row.texts[column]) + (column + 1 == PlayerColumns ? "</tr>" : ""));
+        for (int column = RankingColumn + 1; column < PlayerTableColumns; ++column)
+            text.line(cell(row.texts[column]) + (column + 1 == PlayerTableColumns ? "</tr>" : ""));
         text.line();
     }
     return text.text();

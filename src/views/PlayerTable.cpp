@@ -9,7 +9,7 @@ namespace {
 
 constexpr int PositionColumn = 0;
 
-constexpr std::array<PlayerColumn, PlayerColumns> SkaterColumns{{
+constexpr std::array<PlayerColumn, PlayerTableColumns> SkaterColumns{{
     {"Pos", "PlayerStatsPos", 1, 1},
     {"#", "PlayerStatsNumber", 1, 1},
     {"Pow.Rank", "PlayerStatsPR", 1000, 1000},
@@ -26,7 +26,7 @@ constexpr std::array<PlayerColumn, PlayerColumns> SkaterColumns{{
 }};
 
 /// A goalie's power ranking is shown at a tenth of its figure, unlike in the league's table.
-constexpr std::array<PlayerColumn, PlayerColumns> GoalieColumns{{
+constexpr std::array<PlayerColumn, PlayerTableColumns> GoalieColumns{{
     {"Pos", "GPlayerStatsPos", 1, 1},
     {"#", "GPlayerStatsNumber", 1, 1},
     {"Pow.Rank", "GPlayerStatsPR", 100, 1000},
@@ -46,7 +46,7 @@ double positionCode(const RosterRow& row) {
     return row.Position.empty() ? 0 : static_cast<unsigned char>(row.Position.front());
 }
 
-std::array<double, PlayerColumns> skaterFigures(const RosterRow& row, const SkaterStats& s) {
+std::array<double, PlayerTableColumns> skaterFigures(const RosterRow& row, const SkaterStats& s) {
     return {positionCode(row),
             static_cast<double>(row.Number),
             s.Rating,
@@ -62,7 +62,7 @@ std::array<double, PlayerColumns> skaterFigures(const RosterRow& row, const Skat
             static_cast<double>(s.GP)};
 }
 
-std::array<double, PlayerColumns> goalieFigures(const RosterRow& row, const GoalieStats& g) {
+std::array<double, PlayerTableColumns> goalieFigures(const RosterRow& row, const GoalieStats& g) {
     return {positionCode(row),
             static_cast<double>(row.Number),
             g.Rating,
@@ -110,11 +110,11 @@ PlayerTable PlayerTable::goalies(const Roster& roster, const TeamPlayerStats& st
     return table;
 }
 
-void PlayerTable::add(const std::string& name, const std::array<double, PlayerColumns>& figures) {
+void PlayerTable::add(const std::string& name, const std::array<double, PlayerTableColumns>& figures) {
     auto& values = values_.emplace_back();
     PlayerTableRow& row = rows_.emplace_back();
     row.Name = name;
-    for (int column = 0; column < PlayerColumns; ++column) {
+    for (int column = 0; column < PlayerTableColumns; ++column) {
         values[column] = wholeNumber(figures[column] * columns_[column].scale);
         row.texts[column] = shownText(values[column], column, columns_[column]);
     }

@@ -14,7 +14,7 @@ namespace iceline {
 
 /// Columns of a team's tables: position, number, power ranking and ten figures; a 14th column, the name, has
 /// no figure and stands for the roster's order.
-inline constexpr int PlayerColumns = 13;
+inline constexpr int PlayerTableColumns = 13;
 inline constexpr int NameColumn = 13;
 
 /// A column of a team's table.
@@ -31,7 +31,7 @@ std::span<const PlayerColumn> goalieColumns();
 /// A row as it is shown: the name, and the texts of the columns.
 struct PlayerTableRow {
     std::string Name;
-    std::array<std::string, PlayerColumns> texts;
+    std::array<std::string, PlayerTableColumns> texts;
 };
 
 /// A team's skaters or goalies with their figures as whole numbers, in the order of the roster.
@@ -54,12 +54,12 @@ public:
 private:
     explicit PlayerTable(std::span<const PlayerColumn> columns) : columns_(columns) {}
 
-    void add(const std::string& name, const std::array<double, PlayerColumns>& figures);
+    void add(const std::string& name, const std::array<double, PlayerTableColumns>& figures);
     std::vector<int> valuesOf(int column) const;
 
     std::span<const PlayerColumn> columns_;
     std::vector<PlayerTableRow> rows_;
-    std::vector<std::array<int, PlayerColumns>> values_;
+    std::vector<std::array<int, PlayerTableColumns>> values_;
 };
 
 /// The rows of a team's fragment.

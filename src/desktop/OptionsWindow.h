@@ -1,0 +1,45 @@
+#pragma once
+
+#include "desktop/LeagueWindow.h"
+#include "views/Options.h"
+
+class QComboBox;
+class QGroupBox;
+class QLabel;
+class QLineEdit;
+class QPlainTextEdit;
+class QPushButton;
+
+namespace iceline::desktop {
+
+/// The coaches, the length of the season, the move to the play-offs, and the clearing of statistics.
+class OptionsWindow : public LeagueWindow {
+    Q_OBJECT
+
+public:
+    OptionsWindow(Application& application, WindowId id, Options& object);
+
+protected:
+    void refresh() override;
+
+private:
+    QPushButton* makeButton(const char* name, const QString& caption, void (Options::*procedure)());
+    QGroupBox* makeCoaches();
+    QLayout* makeInputRow(QGroupBox* box);
+    QGroupBox* makeSeason();
+    QGroupBox* makeClearing();
+    void showClearedTeam();
+
+    Options& object_;
+    QComboBox* coaches_ = nullptr;
+    QPlainTextEdit* coachList_ = nullptr;
+    QLineEdit* newName_ = nullptr;
+    QLabel* label3_ = nullptr;
+    QLabel* label4_ = nullptr;
+    QPushButton* create_ = nullptr;
+    QPushButton* rename_ = nullptr;
+    QLineEdit* currentLength_ = nullptr;
+    QComboBox* teams_ = nullptr;
+};
+
+} // namespace iceline::desktop
