@@ -1,4 +1,5 @@
 #include "capture/StatExtractor.h"
+#include "leaders/Rankings.h"
 #include "shell/Windows.h"
 #include "standings/Playoffs.h"
 #include "standings/Standings.h"
@@ -30,14 +31,14 @@ constexpr std::array<CatalogueRow, WindowCount> Catalogue{{
     {WindowId::PlayerStats, "Player Stats", "PlayerStats", make<PlayerStats, PartOfYear::Season>},
     {WindowId::TeamStats, "Team Stats", "TeamStats", make<TeamStats, PartOfYear::Season>},
     {WindowId::Standings, "Standings", "Standings", make<Standings>},
-    {WindowId::Rankings, "Rankings", "Rankings", None},
+    {WindowId::Rankings, "Rankings", "Rankings", make<Rankings, PartOfYear::Season>},
     {WindowId::PlayerProfiles, "Player Profiles", "PlayerProfiles", make<PlayerProfiles, PartOfYear::Season>},
     {WindowId::Playoffs, "Playoff Tree", "Playoffs", make<Playoffs>},
     {WindowId::PlayoffPlayerStats, "Playoff Player Stats", "PlayoffPlayerStats",
      make<PlayerStats, PartOfYear::Playoffs>},
     {WindowId::PlayoffTeamStats, "Playoff Team Stats", "PlayoffTeamStats",
      make<TeamStats, PartOfYear::Playoffs>},
-    {WindowId::PlayoffRankings, "Playoff Rankings", "PlayoffRankings", None},
+    {WindowId::PlayoffRankings, "Playoff Rankings", "PlayoffRankings", make<Rankings, PartOfYear::Playoffs>},
     {WindowId::PlayoffPlayerProfiles, "Playoff Player Profiles", "PlayoffPlayerProfiles",
      make<PlayerProfiles, PartOfYear::Playoffs>},
     {WindowId::CoachStats, "Coaches Stats", "CoachStats", None},
@@ -60,6 +61,11 @@ StatExtractor& Windows::statExtractor() {
 
 Standings& Windows::standings() {
     return static_cast<Standings&>(use(WindowId::Standings));
+}
+
+Rankings& Windows::rankings(PartOfYear part) {
+    const WindowId id = part == PartOfYear::Season ? WindowId::Rankings : WindowId::PlayoffRankings;
+    return static_cast<Rankings&>(use(id));
 }
 
 } // namespace iceline

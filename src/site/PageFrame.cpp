@@ -58,7 +58,7 @@ std::string headerImage(std::string_view folder, std::string_view name) {
 
 std::string PageFrame::text() const {
     PageText page;
-    page.line("<html><head><title>" + title + "</title><link rel=\"stylesheet\" href=\"" + styleSheet +
+    page.line(start + "<head><title>" + title + "</title><link rel=\"stylesheet\" href=\"" + styleSheet +
               "\" type =\"Text/css\"></head>");
     page.line("<body link = BLACK vlink = BLACK alink = RED>" + opening);
     page.line(navigationBar(prefix));

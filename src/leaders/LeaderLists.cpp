@@ -1,0 +1,86 @@
+#include "leaders/LeaderLists.h"
+
+#include "store/Numbers.h"
+#include "store/Selection.h"
+
+#include <algorithm>
+
+namespace iceline {
+
+namespace {
+
+template <std::size_t Columns>
+std::vector<int> orderOf(std::span<const LeaderRow<Columns>> rows, LeaderSort sort, int places) {
+    std::vector<int> order;
+    if (sort.column == NoColumn) {
+        order = naturalOrder(static_cast<int>(rows.size()), sort.ascending);
+    } else {
+        std::vector<int> values;
+        for (const LeaderRow<Columns>& row : rows)
+            values.push_back(row.values.at(sort.column));
+        order =
+            selectionOrder(values, sort.ascending ? Direction::LowestFirst : Direction::HighestFirst, places);
+    }
+    order.resize(std::min<std::size_t>(order.size(), places));
+    return order;
+}
+
+template <class Stats, std::size_t Columns>
+std::vector<std::string> shownFigures(const std::array<LeaderColumn<Stats>, Columns>& columns,
+                                      const std::array<int, Columns>& values) {
+    std::vector<std::string> figures;
+    for (std::size_t column = 0; column < Columns; ++column)
+        figures.push_back(numberText(static_cast<double>(values[column]) / columns[column].scale));
+    return figures;
+}
+
+template <class Stats, std::size_t Columns>
+LeaderList listOf(const std::array<LeaderColumn<Stats>, Columns>& columns,
+                  std::span<const LeaderRow<Columns>> rows, LeaderSort sort, int places,
+                  bool (*isShown)(const LeaderRow<Columns>&)) {
+    const std::vector<int> order = orderOf(rows, sort, places);
+    LeaderList list;
+    list.startsWithFirstTurn = !order.empty() && isShown(rows[order.front()]);
+    for (const int place : order) {
+        const LeaderRow<Columns>& row = rows[place];
+        if (isShown(row))
+            list.lines.push_back({static_cast<int>(list.lines.size()) + 1, row.Team, row.Name,
+                                  shownFigures(columns, row.values)});
+    }
+    return list;
+}
+
+template <class Stats, std::size_t Columns>
+LeaderList listOfPlayers(const std::array<LeaderColumn<Stats>, Columns>& columns,
+                         const std::vector<LeaderRow<Columns>>& table, int count, LeaderSort sort,
+                         int places) {
+    const auto rows = std::span(table).first(std::min<std::size_t>(count, table.size()));
+    return listOf<Stats, Columns>(columns, rows, sort, places,
+                                  [](const LeaderRow<Columns>&) { return true; });
+}
+
+} // namespace
+
+LeaderList playerLeaders(const ApplicationState& state, int count, LeaderSort sort, int places) {
+    return listOfPlayers(PlayerLeaderColumns, state.PlayerLeaderTable, count, sort, places);
+}
+
+LeaderList goalieLeaders(const ApplicationState& state, int count, LeaderSort sort, int places) {
+    return listOfPlayers(GoalieLeaderColumns, state.GoalieLeaderTable, count, sort, places);
+}
+
+LeaderList starLeaders(const ApplicationState& state, int count, LeaderSort sort, int places) {
+    return listOfPlayers(StarLeaderColumns, state.StarLeaderTable, count, sort, places);
+}
+
+LeaderList teamLeaders(const ApplicationState& state, LeaderSort sort, int places) {
+    using Row = LeaderRow<TeamLeaderColumns.size()>;
+    std::vector<Row> rows;
+    for (TeamIndex team = 0; team < LeagueTeams; ++team)
+        rows.push_back({team, "", state.TeamLeaderTable[team]});
+    return listOf<TeamRecord, TeamLeaderColumns.size()>(
+        TeamLeaderColumns, rows, sort, places,
+        [](const Row& row) { return row.values[TeamGamesColumn] != 0; });
+}
+
+} // namespace iceline

@@ -1,0 +1,41 @@
+#pragma once
+
+#include "leaders/LeaderColumns.h"
+#include "shell/ApplicationState.h"
+
+namespace iceline {
+
+/// How a leader table is sorted.
+struct LeaderSort {
+    int column = 0;
+    bool ascending = false; ///< false: highest value first
+};
+
+/// A row of a leader table in its place.
+struct LeaderLine {
+    int number = 0; ///< from 1
+    TeamIndex team = 0;
+    std::string name;                 ///< a player's, as it stands in the roster; empty in the teams' table
+    std::vector<std::string> figures; ///< by column, as they are shown, with leading zero
+};
+
+/// A leader table in the order in which it is shown.
+struct LeaderList {
+    std::vector<LeaderLine> lines;
+
+    /// True when the first turn of the selection gave the first line. A team without games takes a turn and
+    /// gives none.
+    bool startsWithFirstTurn = false;
+};
+
+inline constexpr int AllPlaces = LeagueTeams * RosterRows;
+
+/// The update step of the leader tables: the first `places` of the first `count` rows in the order of `sort`.
+LeaderList playerLeaders(const ApplicationState& state, int count, LeaderSort sort, int places);
+LeaderList goalieLeaders(const ApplicationState& state, int count, LeaderSort sort, int places);
+LeaderList starLeaders(const ApplicationState& state, int count, LeaderSort sort, int places);
+
+/// The same for the teams, of which `places` take their turn. The column may be NoColumn.
+LeaderList teamLeaders(const ApplicationState& state, LeaderSort sort, int places);
+
+} // namespace iceline

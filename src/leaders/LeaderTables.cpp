@@ -1,0 +1,92 @@
+#include "leaders/LeaderTables.h"
+
+#include "store/FileError.h"
+#include "store/Numbers.h"
+#include "store/TeamFiles.h"
+
+#include <cmath>
+#include <limits>
+
+namespace iceline {
+
+namespace {
+
+template <class Stats>
+int scaledFigure(const std::string& file, const LeaderColumn<Stats>& column, const Stats& stats) {
+    const double value = column.figure(stats) * column.scale;
+    if (std::fabs(value) > std::numeric_limits<int>::max())
+        throw FileError(file, std::string(column.caption) + " of " + numberText(column.figure(stats)) +
+                                  " is too large for the leader tables");
+    return wholeNumber(value);
+}
+
+template <class Stats, std::size_t Columns>
+std::array<int, Columns> scaledFigures(const std::string& file,
+                                       const std::array<LeaderColumn<Stats>, Columns>& columns,
+                                       const Stats& stats) {
+    std::array<int, Columns> values{};
+    for (std::size_t column = 0; column < Columns; ++column)
+        values[column] = scaledFigure(file, columns[column], stats);
+    return values;
+}
+
+template <class Stats>
+const Stats& as(const PlayerStatsLine& line) {
+    if constexpr (std::is_same_v<Stats, PlayerStatsLine>)
+        return line;
+    else
+        return std::get<Stats>(line);
+}
+
+/// The players whom `takes` chooses by their lines of the two files.
+template <class Stats, std::size_t Columns, class Takes>
+std::vector<LeaderRow<Columns>> readLeaders(Files& files, PartOfYear part,
+                                            const std::array<LeaderColumn<Stats>, Columns>& columns,
+                                            Takes takes) {
+    std::vector<LeaderRow<Columns>> leaders;
+    for (TeamIndex team = 0; team < LeagueTeams; ++team) {
+        const std::string statsFile = paths::teamFile(team, part, paths::PlayerStats);
+        const Roster roster = readRoster(files, paths::playersList(team));
+        const TeamPlayerStats stats = readPlayerStats(files, statsFile, roster);
+        for (int row = 0; row < RosterRows; ++row)
+            if (takes(roster[row], stats[row]))
+                leaders.push_back(
+                    {team, roster[row].Name, scaledFigures(statsFile, columns, as<Stats>(stats[row]))});
+    }
+    return leaders;
+}
+
+} // namespace
+
+TeamLeaders readTeamLeaders(Files& files, PartOfYear part) {
+    TeamLeaders leaders{};
+    for (TeamIndex team = 0; team < LeagueTeams; ++team) {
+        const RecordFolder folder = paths::teamFolder(team) + seasonFolder(part);
+        leaders[team] =
+            scaledFigures(folder + "/" + paths::Records, TeamLeaderColumns, readTeamRecord(files, folder));
+    }
+    return leaders;
+}
+
+std::vector<LeaderRow<PlayerLeaderColumns.size()>> readPlayerLeaders(Files& files, PartOfYear part) {
+    return readLeaders(files, part, PlayerLeaderColumns,
+                       [](const RosterRow& player, const PlayerStatsLine& line) {
+                           return !player.isGoalie() && !player.isEmpty() && gamesPlayed(line) != 0;
+                       });
+}
+
+std::vector<LeaderRow<GoalieLeaderColumns.size()>> readGoalieLeaders(Files& files, PartOfYear part) {
+    return readLeaders(files, part, GoalieLeaderColumns,
+                       [](const RosterRow& player, const PlayerStatsLine& line) {
+                           return player.isGoalie() && gamesPlayed(line) != 0;
+                       });
+}
+
+std::vector<LeaderRow<StarLeaderColumns.size()>> readStarLeaders(Files& files, PartOfYear part) {
+    return readLeaders(files, part, StarLeaderColumns,
+                       [](const RosterRow& player, const PlayerStatsLine& line) {
+                           return !player.isEmpty() && starPoints(line) > 0;
+                       });
+}
+
+} // namespace iceline

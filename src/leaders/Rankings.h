@@ -1,0 +1,84 @@
+#pragma once
+
+#include "leaders/LeaderRows.h"
+#include "shell/Window.h"
+#include "site/PageFrame.h"
+
+namespace iceline {
+
+/// The leaders of the league in a part of the year: players, goalies, teams and three-star points.
+///
+/// Each table is filled by a load procedure from the teams' files and ordered by an update procedure. The
+/// tables themselves are the league's, one of each for the season's and the play-offs' windows, so what an
+/// update shows was filled by whichever was loaded last. While ShowWindows is False the window's load writes
+/// the fragments of all orders and the home page of its part of the year.
+class Rankings : public Window {
+public:
+    Rankings(Application& application, PartOfYear part) : Window(application), part_(part) {}
+
+    /// A table as the window shows it.
+    struct Table {
+        std::vector<LeaderLine> rows; ///< names in capitals
+        std::string rowNumbers;       ///< "1\n2\n"
+        LeaderSort sort;              ///< which head is marked, and how
+    };
+
+    struct Content {
+        std::string title; ///< the window's caption
+        Table players;
+        Table goalies;
+        Table teams;
+        Table stars;
+    };
+
+    void Form_Load() override;
+
+    void tmLeadersLoad();
+    void tmLeadersUpdate();
+    void tmLeadersCol_Click(int Index); ///< 0 is the head of the teams themselves, column n is n + 1
+
+    void lgLeadersLoadN();
+    void lgLeadersUpdateN();
+    void lColN_Click(int Index);
+
+    void lgLeadersLoadG();
+    void lgLeadersUpdateG();
+    void lColG_Click(int Index);
+
+    void StarLoad();
+    void StarUpdate();
+    void ThreeStarSort_Click();
+
+    const Content& content() const { return content_; }
+
+    /// Rows that the window's own loads have filled.
+    int PlayerCount = 0;
+    int GoalieCount = 0;
+    int StarCount = 0;
+
+    int PlayerSortColumn = 2;
+    bool PlayerSortAscending = false;
+    int GoalieSortColumn = 6;
+    bool GoalieSortAscending = false;
+    int TeamSortColumn = 1; ///< NoColumn: the natural order
+    bool TeamSortAscending = false;
+    bool StarSortAscending = false;
+
+    bool HomePageMode = false; ///< the home page is being assembled
+
+private:
+    void show();
+    void writePlayerFragments();
+    void writeTeamFragments();
+    void writeStarFragments();
+    void writeFragment(const std::string& name);
+    void writeHomePage();
+    int places(int inWindow, int inFragment) const;
+    void put(const LeaderRowForm& form, Table& table, const LeaderList& list, LeaderSort sort);
+
+    PartOfYear part_;
+    Content content_;
+    PageText page_; ///< the fragment or home page in hand, to which the updates add
+};
+
+} // namespace iceline
