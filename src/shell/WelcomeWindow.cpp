@@ -1,6 +1,7 @@
 #include "shell/WelcomeWindow.h"
 
 #include "shell/Application.h"
+#include "site/GenerateWebpages.h"
 #include "standings/Standings.h"
 
 namespace iceline {
@@ -12,6 +13,10 @@ Window& WelcomeWindow::List1_Click(WindowId id) {
         app_.windows().standings().HomeAwayStandingsUpdate();
     }
     return window;
+}
+
+void WelcomeWindow::Command1_Click() {
+    generateWebpages(app_);
 }
 
 } // namespace iceline

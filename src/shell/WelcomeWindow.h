@@ -15,6 +15,9 @@ public:
     /// The standings are brought up to date in either case.
     Window& List1_Click(WindowId id);
 
+    /// "Generate Webpages": rewrites the whole site and says so.
+    void Command1_Click();
+
 private:
     Application& app_;
 };

@@ -1,0 +1,148 @@
+#include "site/GenerateWebpages.h"
+
+#include "shell/Application.h"
+#include "site/PageFrame.h"
+#include "site/PlayerNames.h"
+#include "site/PlayerPages.h"
+#include "site/ReadCache.h"
+#include "site/RosterPages.h"
+#include "site/SiteTemplate.h"
+#include "store/FileError.h"
+#include "store/PlayerFiles.h"
+
+namespace iceline {
+
+namespace {
+
+/// The windows in the order in which they write. The standings come twice so that the second time they bear
+/// the clinch marks worked out by the first; PlayerStats ends the writing mode.
+constexpr std::array WindowsOfRun{
+    WindowId::Rankings,
+    WindowId::TeamStats,
+    WindowId::PlayoffTeamStats,
+    WindowId::CoachStats,
+    WindowId::CoachStats,
+    WindowId::CoachStats,
+    WindowId::AllTimeRecords,
+    WindowId::Standings,
+    WindowId::Standings,
+    WindowId::Rankings,
+    WindowId::PlayoffRankings,
+    WindowId::Playoffs,
+    WindowId::PlayoffAllTimeRecords,
+    WindowId::PlayoffPlayerStats,
+    WindowId::PlayerStats,
+};
+
+constexpr int TeamSteps = 4; ///< rosters and player pages of both parts of the year
+
+/// Folders of the template that nothing makes.
+constexpr std::array TemplateFolders{"Rankings", "PlayoffRankings", "PStats", "PlayoffPStats"};
+
+/// ShowWindows is False for the run and True after it, however it ends.
+class WritingMode {
+public:
+    explicit WritingMode(ApplicationState& state) : state_(state) { state_.ShowWindows = false; }
+    ~WritingMode() { state_.ShowWindows = true; }
+    WritingMode(const WritingMode&) = delete;
+    WritingMode& operator=(const WritingMode&) = delete;
+
+private:
+    ApplicationState& state_;
+};
+
+/// Makes the site out of the template when there is none, and sees to it that the template is whole.
+void requireSite(Application& app) {
+    if (!app.files().isFolder(paths::WebRoot))
+        copyMissingOfTemplate(app.siteTemplate(), app.files());
+    std::string missing;
+    for (const std::string folder : TemplateFolders)
+        if (!app.files().isFolder(paths::page(folder)))
+            missing += (missing.empty() ? "" : ", ") + folder;
+    if (!missing.empty())
+        throw FileError(paths::WebRoot, "folders of the site's template are missing: " + missing +
+                                            " (no page has been written)");
+}
+
+class WebpageRun {
+public:
+    explicit WebpageRun(Application& app)
+        : app_(app), progress_(app.platform(), "Generating webpages",
+                               static_cast<int>(WindowsOfRun.size()) + TeamSteps * LeagueTeams, false) {}
+
+    void run() {
+        for (const WindowId id : WindowsOfRun)
+            app_.windows().unload(id);
+        for (const WindowId id : WindowsOfRun)
+            writePagesOf(id);
+        for (const PartOfYear part : {PartOfYear::Season, PartOfYear::Playoffs}) {
+            for (TeamIndex team = 0; team < LeagueTeams; ++team)
+                writeRoster(part, team);
+            for (TeamIndex team = 0; team < LeagueTeams; ++team)
+                writePlayers(part, team);
+        }
+    }
+
+private:
+    void writePagesOf(WindowId id) {
+        progress_.next(std::string(catalogueRow(id).entry));
+        if (!catalogueRow(id).make)
+            return;
+        app_.state.ShowWindows = false;
+        app_.windows().use(id);
+        app_.windows().unload(id);
+    }
+
+    /// The team's folder in the site, made when it is missing.
+    std::string profilesOf(PartOfYear part, TeamIndex team) {
+        const std::string folder = part == PartOfYear::Season ? "Profiles/" : "PlayoffProfiles/";
+        app_.files().makeFolder(paths::page(folder + std::string(TeamAbbr[team])));
+        return folder + std::string(TeamAbbr[team]) + "/";
+    }
+
+    void writeRoster(PartOfYear part, TeamIndex team) {
+        const std::string page = profilesOf(part, team) + "index.htm";
+        progress_.next(page);
+        const Roster roster = readRoster(app_.files(), paths::playersList(team));
+        writePage(app_.files(), paths::page(page), rosterPage(team, roster));
+    }
+
+    void writePlayers(PartOfYear part, TeamIndex team) {
+        const std::string folder = profilesOf(part, team);
+        progress_.next(folder);
+        Files& files = app_.files();
+        const Roster roster = readRoster(files, paths::playersList(team));
+        const TeamPlayerStats stats =
+            readPlayerStats(files, paths::teamFile(team, part, paths::PlayerStats), roster);
+        const auto players = listedPlayers(roster);
+        for (std::size_t row = 0; row < players.size(); ++row)
+            writePage(files, paths::page(folder + playerFileName(players[row].Name) + ".htm"),
+                      playerPage(part, team, players[row], stats[row], cardOf(part, players[row])));
+    }
+
+    /// The pages of the play-offs name a player's own card, whether there is one or not.
+    std::string cardOf(PartOfYear part, const RosterRow& player) {
+        return part == PartOfYear::Playoffs
+                   ? player.Name
+                   : playerCard(app_.files(), app_.platform(), player.Name, player.isGoalie());
+    }
+
+    Application& app_;
+    ProgressRun progress_;
+};
+
+} // namespace
+
+void generateWebpages(Application& app) {
+    requireSite(app);
+    {
+        const BusyPointer busy(app.platform());
+        const WritingMode writing(app.state);
+        ReadCache files(app.files());
+        const FilesInForce inForce(app, files);
+        WebpageRun(app).run();
+    }
+    app.platform().say("All Webpages have been generated and are located in the IcelineWebpages directory.");
+}
+
+} // namespace iceline
