@@ -11,10 +11,13 @@
 
 namespace iceline::cli {
 
+/// Whether a command works on the league; the session is then started before it.
+enum class Works { OnLeague, Alone };
+
 /// What the words of a call have chosen.
 struct Call {
     std::function<Status(Session&)> action;
-    bool onLeague = true; ///< the session must have been started
+    Works works = Works::OnLeague;
 };
 
 struct NoArguments {};
@@ -24,17 +27,30 @@ struct NoArguments {};
 template <class Arguments>
 std::pair<CLI::App*, std::shared_ptr<Arguments>>
 addCommand(CLI::App& parent, Call& call, const std::string& name, const std::string& description,
-           Status (*action)(Session&, const Arguments&)) {
+           Status (*action)(Session&, const Arguments&), Works works = Works::OnLeague) {
     CLI::App* command = parent.add_subcommand(name, description);
     auto arguments = std::make_shared<Arguments>();
-    command->callback([&call, arguments, action] {
+    command->callback([&call, arguments, action, works] {
+        call.works = works;
         call.action = [arguments, action](Session& session) { return action(session, *arguments); };
     });
     return {command, arguments};
 }
 
+/// Adds an argument that must be given, by its place.
+template <class Value>
+void addArgument(CLI::App& command, const std::string& name, Value& value, const std::string& description) {
+    command.add_option(name, value, description)->required()->type_name("");
+}
+
+/// A coach by the name that the user gave, blanks or case notwithstanding. Throws UsageError when there is no
+/// such coach.
+std::string knownCoach(Session& session, const std::string& name);
+
 /// The commands by topic.
+void addGameCommands(CLI::App& program, Call& call);
 void addLeagueCommands(CLI::App& program, Call& call);
+void addSampleGamesCommand(CLI::App& program, Call& call);
 void addWindowCommands(CLI::App& program, Call& call);
 void addCoachCommands(CLI::App& program, Call& call);
 void addScriptCommand(CLI::App& program, Call& call);

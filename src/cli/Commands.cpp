@@ -40,21 +40,23 @@ Status printHelp(Session& session, const std::vector<std::string>& words) {
     LeagueChoice choice;
     addAll(program, call, choice);
     const CLI::App* command = &program;
+    std::string before;
     for (const std::string& word : words) {
         const auto known =
             command->get_subcommands([&word](const CLI::App* one) { return one->get_name() == word; });
         if (known.empty())
             throw UsageError(noCommand(word));
+        before += (before.empty() ? "" : " ") + command->get_name();
         command = known.front();
     }
-    session.out() << command->help();
+    session.out() << command->help(before);
     return Status::Done;
 }
 
 Status carryOut(const Call& call, Session& session) {
     if (!call.action)
         return Status::Done;
-    if (call.onLeague && !session.start())
+    if (call.works == Works::OnLeague && !session.start())
         return Status::Refused;
     return call.action(session);
 }
@@ -63,16 +65,17 @@ Status carryOut(const Call& call, Session& session) {
 
 void addHelpCommand(CLI::App& program, Call& call) {
     const auto [command, words] = addCommand<std::vector<std::string>>(
-        program, call, "help", "Describe the program, or one of its commands", printHelp);
-    command->add_option("COMMAND", *words);
-    command->parse_complete_callback([&call] { call.onLeague = false; });
+        program, call, "help", "Describe the program, or one of its commands", printHelp, Works::Alone);
+    command->add_option("COMMAND", *words)->type_name("");
 }
 
 void addScriptableCommands(CLI::App& program, Call& call) {
     program.require_subcommand(1);
     addLeagueCommands(program, call);
+    addGameCommands(program, call);
     addWindowCommands(program, call);
     addCoachCommands(program, call);
+    addSampleGamesCommand(program, call);
     addHelpCommand(program, call);
 }
 

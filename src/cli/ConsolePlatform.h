@@ -24,9 +24,9 @@ public:
 
     /// Who answers a message that has the buttons OK and Cancel.
     enum class Respondent {
-        User,      ///< whoever sits at the terminal; Cancel when nobody does
-        AlwaysOk,  ///< OK
-        AlwaysStop ///< Cancel
+        User, ///< whoever sits at the terminal; Cancel when nobody does
+        AlwaysOk,
+        AlwaysCancel
     };
     Respondent respondent = Respondent::User;
 

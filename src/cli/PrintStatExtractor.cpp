@@ -77,15 +77,20 @@ void printReport(const GameReport& game, std::ostream& out) {
 
 } // namespace
 
-void printStatExtractor(const StatExtractor& window, std::ostream& out) {
+void printGame(const StatExtractor& window, std::ostream& out) {
     const StatExtractor::Content& content = window.content();
-    out << content.FileName << '\n';
-    if (!content.report)
-        return;
-    out << '\n';
     printReport(*content.report, out);
     printSummary("Scoring Summary", content.ScoringSummary, out);
     printSummary("Penalty Summary", content.PenaltySummary, out);
+}
+
+void printStatExtractor(const StatExtractor& window, std::ostream& out) {
+    const StatExtractor::Content& content = window.content();
+    out << window.caption() << '\n' << content.FileName << '\n';
+    if (content.report) {
+        out << '\n';
+        printGame(window, out);
+    }
 }
 
 } // namespace iceline::cli

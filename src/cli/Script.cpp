@@ -80,7 +80,7 @@ std::optional<std::vector<std::string>> wordsOf(std::string_view line) {
 void addScriptCommand(CLI::App& program, Call& call) {
     const auto [command, file] =
         addCommand<std::string>(program, call, "script", "Carry out many commands in one run", runScript);
-    command->add_option("FILE", *file, "one command a line; - reads standard input")->required();
+    addArgument(*command, "FILE", *file, "one command a line; - reads standard input");
 }
 
 } // namespace iceline::cli

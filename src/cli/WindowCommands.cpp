@@ -1,5 +1,6 @@
 #include "cli/Command.h"
 #include "cli/WindowPrinters.h"
+#include "shell/WelcomeWindow.h"
 
 namespace iceline::cli {
 
@@ -18,7 +19,7 @@ Status openWindow(Session& session, const std::string& name) {
     const WindowId id = windowNamed(name);
     if (!catalogueRow(id).make || !windowPrinter(id))
         throw UsageError(name + " is not built yet");
-    windowPrinter(id)(session.app().windows().use(id), session.out());
+    windowPrinter(id)(WelcomeWindow(session.app()).List1_Click(id), session.out());
     return Status::Done;
 }
 
@@ -32,10 +33,10 @@ Status closeWindow(Session& session, const std::string& name) {
 void addWindowCommands(CLI::App& program, Call& call) {
     const auto [open, opened] =
         addCommand<std::string>(program, call, "open", "Open a window and print what it shows", openWindow);
-    open->add_option("WINDOW", *opened, "its name in the catalogue, for instance Standings")->required();
+    addArgument(*open, "WINDOW", *opened, "its name in the catalogue, for instance Standings");
     const auto [close, closed] =
         addCommand<std::string>(program, call, "close", "Close a window", closeWindow);
-    close->add_option("WINDOW", *closed)->required();
+    addArgument(*close, "WINDOW", *closed, "its name in the catalogue");
 }
 
 } // namespace iceline::cli

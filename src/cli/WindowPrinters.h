@@ -8,7 +8,7 @@ namespace iceline {
 class Playoffs;
 class Standings;
 class StatExtractor;
-}
+} // namespace iceline
 
 namespace iceline::cli {
 
@@ -19,6 +19,9 @@ namespace iceline::cli {
 void printPlayoffs(const Playoffs& window, std::ostream& out);
 void printStandings(const Standings& window, std::ostream& out);
 void printStatExtractor(const StatExtractor& window, std::ostream& out);
+
+/// The game that was read last in the game window, which must hold one.
+void printGame(const StatExtractor& window, std::ostream& out);
 
 /// The function that prints a window of that kind, given the window; none where `open` does not know it yet.
 using WindowPrinter = void (*)(const Window&, std::ostream&);

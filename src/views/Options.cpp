@@ -20,7 +20,19 @@ namespace {
 constexpr int EndedByHand = -1;
 constexpr int SeasonLengthLimit = std::numeric_limits<std::int16_t>::max();
 
-/// The whole number nearest to what was typed, a tie to the even one; none when that is no season length.
+void storeSeasonLength(Application& app, int length) {
+    Operation operation(app);
+    app.files().write(paths::GamesUntilPlayoffs, numberLine(length));
+    operation.commit();
+    app.state.SeasonLength = length;
+}
+
+bool confirms(Application& app, const std::string& question, const std::string& title = Message().title) {
+    return app.platform().ask({question, Buttons::YesNo, title}) == Answer::Yes;
+}
+
+} // namespace
+
 std::optional<int> seasonLengthOf(const std::string& typed) {
     const auto first = typed.find_first_not_of(' ');
     if (first == std::string::npos)
@@ -36,19 +48,6 @@ std::optional<int> seasonLengthOf(const std::string& typed) {
         return std::nullopt;
     return length;
 }
-
-void storeSeasonLength(Application& app, int length) {
-    Operation operation(app);
-    app.files().write(paths::GamesUntilPlayoffs, numberLine(length));
-    operation.commit();
-    app.state.SeasonLength = length;
-}
-
-bool confirms(Application& app, const std::string& question, const std::string& title = Message().title) {
-    return app.platform().ask({question, Buttons::YesNo, title}) == Answer::Yes;
-}
-
-} // namespace
 
 void Options::Form_Load() {
     content_.coaches = coachNames(app_.files());

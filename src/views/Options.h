@@ -3,10 +3,15 @@
 #include "shell/TeamTable.h"
 #include "shell/Window.h"
 
+#include <optional>
 #include <string>
 #include <vector>
 
 namespace iceline {
+
+/// The season length that was typed: the whole number nearest to it, a tie to the even one; none when it is
+/// no number from -1 to 32767.
+std::optional<int> seasonLengthOf(const std::string& typed);
 
 /// The window for what is not a game: the coaches, the length of the season, the move to the play-offs, and
 /// the clearing of statistics.

@@ -3,6 +3,7 @@
 #include "shell/Startup.h"
 #include "views/Coaches.h"
 
+#include <fstream>
 #include <stdexcept>
 
 namespace iceline::test {
@@ -44,6 +45,13 @@ std::string rosterText(const Roster& roster) {
         text += row.Name + "," + std::to_string(row.Number) + "," + std::to_string(row.Rating) + "," +
                 row.Position + "\r\n";
     return text;
+}
+
+void writeToDisk(const MemoryFiles& league, const std::filesystem::path& folder) {
+    for (const std::string& path : league.folders)
+        std::filesystem::create_directories(folder / path);
+    for (const auto& [path, content] : league.files)
+        std::ofstream(folder / path, std::ios::binary) << content;
 }
 
 TestLeague::TestLeague() : TestLeague(newLeague()) {}

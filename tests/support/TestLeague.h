@@ -6,6 +6,7 @@
 #include "support/MemoryFiles.h"
 #include "support/TestPlatform.h"
 
+#include <filesystem>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -61,5 +62,8 @@ std::string rosterText(const Roster& roster);
 
 /// A site template as small as tests need it.
 MemoryFiles smallSiteTemplate();
+
+/// Writes a league into a folder of the disk.
+void writeToDisk(const MemoryFiles& league, const std::filesystem::path& folder);
 
 } // namespace iceline::test

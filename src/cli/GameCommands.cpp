@@ -1,0 +1,122 @@
+#include "capture/StatExtractor.h"
+#include "cli/Command.h"
+#include "cli/WindowPrinters.h"
+#include "store/FileError.h"
+
+#include <algorithm>
+
+namespace iceline::cli {
+
+namespace {
+
+/// Of an import: what is imported, and the choices in the game window.
+struct Import {
+    std::string path;
+    bool exhibition = false;
+    std::string homeCoach;
+    std::string awayCoach;
+    bool stopOnRefusal = false;
+};
+
+using CoachList = void (StatExtractor::*)(int);
+
+/// "Select Game". False when the file was refused.
+bool selectGame(Session& session, const std::string& file) {
+    StatExtractor& window = session.app().windows().statExtractor();
+    session.platform().choice = absolutePath(file);
+    window.GameLoaded = false;
+    window.LoadStats_Click();
+    return window.GameLoaded;
+}
+
+Status read(Session& session, const std::string& file) {
+    if (!selectGame(session, file))
+        return Status::Refused;
+    printGame(session.app().windows().statExtractor(), session.out());
+    return Status::Done;
+}
+
+/// The place of a coach in the window's lists.
+std::optional<int> placeOf(const std::string& coach, const StatExtractor& window) {
+    const std::vector<std::string>& coaches = window.content().coaches;
+    const auto found = std::find(coaches.begin() + 1, coaches.end(), coach);
+    return found == coaches.end() ? std::nullopt : std::optional(static_cast<int>(found - coaches.begin()));
+}
+
+/// The place of the coach of that name in the window's lists, 0 without a name. A window that was loaded
+/// before the coach was added is loaded anew.
+int coachPlace(Session& session, const std::string& name) {
+    if (name.empty())
+        return 0;
+    const std::string coach = knownCoach(session, name);
+    Windows& windows = session.app().windows();
+    if (!placeOf(coach, windows.statExtractor()))
+        windows.unload(WindowId::StatExtractor);
+    return placeOf(coach, windows.statExtractor()).value();
+}
+
+void choose(Session& session, const Import& import) {
+    const int home = coachPlace(session, import.homeCoach);
+    const int away = coachPlace(session, import.awayCoach);
+    if (home != 0 && home == away)
+        throw UsageError("a coach cannot stand behind both teams");
+    StatExtractor& window = session.app().windows().statExtractor();
+    window.Season = !import.exhibition;
+    window.Exhibition = import.exhibition;
+    window.T1Coach_Click(home);
+    window.T2Coach_Click(away);
+}
+
+Status importGame(Session& session, const Import& import) {
+    choose(session, import);
+    if (!selectGame(session, import.path))
+        return Status::Refused;
+    StatExtractor& window = session.app().windows().statExtractor();
+    const int before = window.ImportCount;
+    window.ImportStats_Click();
+    return window.ImportCount > before ? Status::Done : Status::Refused;
+}
+
+Status importFolder(Session& session, const Import& import) {
+    using Respondent = ConsolePlatform::Respondent;
+    const std::string folder = absolutePath(import.path);
+    if (!session.app().files().isFolder(folder))
+        throw FileError(folder, "there is no such folder");
+    choose(session, import);
+    ConsolePlatform& platform = session.platform();
+    platform.choice = folder;
+    platform.respondent = import.stopOnRefusal ? Respondent::AlwaysCancel : Respondent::AlwaysOk;
+    const int refusedBefore = platform.okCancelAsked;
+    session.app().windows().statExtractor().ImportFolder_Click();
+    const bool ran = !std::exchange(platform.choice, std::nullopt);
+    return ran && platform.okCancelAsked == refusedBefore ? Status::Done : Status::Refused;
+}
+
+void addChoices(CLI::App& command, Import& import) {
+    command.add_flag("--exhibition", import.exhibition, "an exhibition game, which counts for coaches alone");
+    command.add_option("--home-coach", import.homeCoach, "the coach of the home team")->type_name("NAME");
+    command.add_option("--away-coach", import.awayCoach, "the coach of the away team")->type_name("NAME");
+}
+
+} // namespace
+
+void addGameCommands(CLI::App& program, Call& call) {
+    const auto [readCommand, file] =
+        addCommand<std::string>(program, call, "read", "Print the game report of a save state", read);
+    addArgument(*readCommand, "FILE", *file, "the save state of a finished game");
+
+    const auto [importCommand, game] =
+        addCommand<Import>(program, call, "import", "Import a game into the league", importGame);
+    addArgument(*importCommand, "FILE", game->path, "the save state of a finished game");
+    addChoices(*importCommand, *game);
+
+    const auto [folderCommand, folder] =
+        addCommand<Import>(program, call, "import-folder",
+                           "Import every game of a folder, in the order of the names", importFolder);
+    addArgument(*folderCommand, "DIR", folder->path, "a folder of save states");
+    addChoices(*folderCommand, *folder);
+    folderCommand->add_flag("--stop-on-refusal", folder->stopOnRefusal,
+                            "end the run at a game that is refused");
+}
+
+} // namespace iceline::cli

@@ -1,0 +1,145 @@
+#include "CliTest.h"
+#include "store/LeagueLock.h"
+
+#include <map>
+
+namespace iceline::cli {
+namespace {
+
+namespace fs = std::filesystem;
+using testing::AllOf;
+using testing::EndsWith;
+using testing::HasSubstr;
+using testing::StartsWith;
+
+const std::string Question =
+    "Some or all of the required data files are not present,\n"
+    "would you like the missing ones to be created?\n"
+    "\n"
+    "(There are several files, so make sure the .EXE is in a separate folder first!)\n";
+
+using Contents = std::map<std::string, std::string>;
+
+/// Every file beneath a folder but the lock's, by path.
+Contents contentsOf(const fs::path& folder) {
+    Contents contents;
+    for (const fs::directory_entry& entry : fs::recursive_directory_iterator(folder)) {
+        if (!entry.is_regular_file() || entry.path().filename() == LeagueLock::FileName)
+            continue;
+        std::ifstream in(entry.path(), std::ios::binary);
+        contents[fs::relative(entry.path(), folder).generic_string()] = {std::istreambuf_iterator<char>(in),
+                                                                         {}};
+    }
+    return contents;
+}
+
+TEST_F(CliTest, TheQuestionIsCancelledWithoutATerminal) {
+    const Outcome cancelled = call({"--league", league().string(), "init"}, "o\n");
+    EXPECT_EQ(cancelled.status, 1);
+    EXPECT_EQ(cancelled.out, Question);
+    EXPECT_EQ(cancelled.err, "");
+    EXPECT_TRUE(contentsOf(league()).empty());
+}
+
+TEST_F(CliTest, TheQuestionIsPutToWhoeverSitsAtTheTerminal) {
+    const auto answer = [this](const std::string& typed) {
+        std::istringstream in(typed);
+        std::ostringstream out;
+        return run({"--league", league().string(), "coach", "list"}, {in, out, out, true, false});
+    };
+    EXPECT_EQ(answer("\n"), 1);
+    EXPECT_EQ(answer(""), 1);
+    EXPECT_FALSE(fs::exists(league() / "Coaches"));
+    EXPECT_EQ(answer("ok\n"), 0);
+    EXPECT_TRUE(fs::exists(league() / "Coaches"));
+}
+
+TEST_F(CliTest, InitMakesALeagueAndASecondOneChangesNothing) {
+    EXPECT_EQ(iceline({"init"}).out, Question);
+    const auto made = contentsOf(league());
+    EXPECT_EQ(made.at("Games Until Playoffs.txt"), "82\r\n");
+    EXPECT_EQ(made.count("Winnipeg Jets/Post Season/Records.txt"), 1u);
+
+    const Outcome second = iceline({"init"});
+    EXPECT_EQ(second.status, 0);
+    EXPECT_EQ(second.out, "");
+    EXPECT_EQ(contentsOf(league()), made);
+}
+
+TEST_F(CliLeagueTest, InitCopiesWhatIsMissingOfTheTemplateAndKeepsTheRest) {
+    EXPECT_EQ(iceline({"init"}).status, 0);
+    write("IcelineWebPages/BannerMinis/BOS.gif", "drawn by hand");
+    const std::string picture = read("IcelineWebPages/BannerMinis/MTL.gif");
+    fs::remove(league() / "IcelineWebPages/BannerMinis/MTL.gif");
+    fs::remove_all(league() / "IcelineWebPages/BigLogos");
+
+    EXPECT_EQ(iceline({"init"}).status, 0);
+    EXPECT_EQ(read("IcelineWebPages/BannerMinis/BOS.gif"), "drawn by hand");
+    EXPECT_EQ(read("IcelineWebPages/BannerMinis/MTL.gif"), picture);
+    EXPECT_TRUE(fs::exists(league() / "IcelineWebPages/BigLogos/WPG.gif"));
+}
+
+TEST_F(CliLeagueTest, AMalformedSeasonLengthEndsTheRun) {
+    write("Games Until Playoffs.txt", "");
+    const Outcome emptied = iceline({"coach", "list"});
+    EXPECT_EQ(emptied.status, 1);
+    EXPECT_EQ(emptied.out, "");
+    EXPECT_THAT(emptied.err, AllOf(StartsWith("iceline: Games Until Playoffs.txt"), EndsWith("\n")));
+    EXPECT_EQ(std::ranges::count(emptied.err, '\n'), 1);
+}
+
+TEST_F(CliLeagueTest, ALeagueInUseIsRefused) {
+    const LeagueLock lock(league(), "another program");
+    const Outcome refused = iceline({"coach", "list"});
+    EXPECT_EQ(refused.status, 1);
+    EXPECT_THAT(refused.err, AllOf(StartsWith("iceline: "), HasSubstr("another program")));
+    EXPECT_EQ(call({"--version"}).out, "iceline 3.0.0\n");
+}
+
+TEST_F(CliTest, ArgumentsThatAreOffAreToldInOneLine) {
+    const auto error = [this](const std::vector<std::string>& words) {
+        const Outcome outcome = call(words);
+        EXPECT_EQ(outcome.status, 2) << outcome.err;
+        EXPECT_EQ(outcome.out, "");
+        EXPECT_EQ(std::ranges::count(outcome.err, '\n'), 1) << outcome.err;
+        return outcome.err;
+    };
+    EXPECT_EQ(error({}), "iceline: a command is needed; 'iceline help' lists them\n");
+    EXPECT_EQ(error({"inti"}), "iceline: there is no command 'inti'; 'iceline help' lists them\n");
+    EXPECT_EQ(error({"--league", "no/such/folder", "init"}),
+              "iceline: no/such/folder: there is no such folder\n");
+    EXPECT_EQ(error({"help", "coach", "ad"}),
+              "iceline: there is no command 'ad'; 'iceline help' lists them\n");
+    EXPECT_EQ(error({"script"}), "iceline: FILE is required\n");
+    EXPECT_THAT(error({"init", "more"}), HasSubstr("more"));
+    EXPECT_THAT(error({"sample-games", "x", "--games", "0"}), HasSubstr("--games"));
+    EXPECT_FALSE(fs::exists("x"));
+}
+
+TEST_F(CliTest, HelpListsTheCommandsAndDescribesOne) {
+    const Outcome help = call({"help"});
+    EXPECT_EQ(help.status, 0);
+    for (const char* command : {"init", "open", "close", "coach", "sample-games", "script", "help"})
+        EXPECT_THAT(help.out, HasSubstr(std::string("\n  ") + command + " ")) << command;
+    EXPECT_THAT(call({"help", "sample-games"}).out, HasSubstr("Usage: iceline sample-games [OPTIONS] DIR"));
+    EXPECT_EQ(call({"coach", "--help"}).status, 0);
+}
+
+TEST_F(CliTest, SampleGamesNeedNoLeague) {
+    const fs::path games = league() / "games";
+    EXPECT_EQ(call({"sample-games", games.string(), "--games", "2", "--seed", "7"}).status, 0);
+    const auto first = contentsOf(games);
+    EXPECT_EQ(first.size(), 2u);
+    EXPECT_EQ(call({"sample-games", games.string(), "--games", "2", "--seed", "8"}).status, 0);
+    EXPECT_NE(contentsOf(games), first);
+    EXPECT_EQ(contentsOf(league()).size(), 2u);
+}
+
+TEST_F(CliLeagueTest, AWindowThatDoesNotExistIsNamed) {
+    const Outcome unknown = iceline({"open", "Standing"});
+    EXPECT_EQ(unknown.status, 2);
+    EXPECT_THAT(unknown.err, StartsWith("iceline: there is no window 'Standing'; there are StatExtractor, "));
+}
+
+} // namespace
+} // namespace iceline::cli
