@@ -9,8 +9,6 @@
 #include <process.h>
 #include <share.h>
 #include <sys/stat.h>
-
-#define NOMINMAX
 #include <windows.h>
 
 namespace iceline::disk {

@@ -167,6 +167,9 @@ void DiskFiles::removeFolder(const std::string& path) {
         for (const std::string& name : namesIn(folder, fs::file_type::regular))
             if (isTemporary(name))
                 fs::remove(folder / toNative(name));
+        // Windows' own refusal is lost: the library then tries to remove the folder as a file.
+        if (!fs::is_empty(folder))
+            throw std::system_error(std::make_error_code(std::errc::directory_not_empty));
         fs::remove(folder);
         unsyncedFolders_.insert(folder.parent_path().native());
     });
