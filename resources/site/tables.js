@@ -183,16 +183,17 @@ function showTeam(abbreviation) {
   return true;
 }
 
-function showTables() {
+/** Shows every table as the address asks for; done when all rows have come. */
+async function showTables() {
   const team = asked().get('team');
   if (teams.size > 0 && !showTeam(team)) {
     return;
   }
-  for (const table of tables) {
+  await Promise.all(tables.map((table) => {
     const order = chosenOrder(table);
     showHeads(table, order);
-    showRows(table, team, order);
-  }
+    return showRows(table, team, order);
+  }));
 }
 
 /** Shows a note that says what is missing when the page that its links need has not been written yet. */
@@ -202,7 +203,7 @@ async function showNote(note) {
 }
 
 tables.flatMap(heads).forEach(makeSortable);
-showTables();
+showTables().then(() => document.getElementById(location.hash.slice(1))?.scrollIntoView());
 window.addEventListener('popstate', showTables);
 if (location.protocol !== 'file:') {
   document.querySelectorAll('[data-needs]').forEach(showNote);
