@@ -3,6 +3,11 @@
 #include "capture/StatExtractor.h"
 #include "standings/Playoffs.h"
 #include "standings/Standings.h"
+#include "views/AllTimeRecords.h"
+#include "views/Options.h"
+#include "views/PlayerProfiles.h"
+#include "views/PlayerStats.h"
+#include "views/TeamStats.h"
 
 #include <algorithm>
 
@@ -23,6 +28,15 @@ struct Row {
 
 constexpr Row Printers[] = {
     {WindowId::StatExtractor, printAs<StatExtractor, printStatExtractor>},
+    {WindowId::PlayerStats, printAs<PlayerStats, printPlayerStats>},
+    {WindowId::PlayoffPlayerStats, printAs<PlayerStats, printPlayerStats>},
+    {WindowId::TeamStats, printAs<TeamStats, printTeamStats>},
+    {WindowId::PlayoffTeamStats, printAs<TeamStats, printTeamStats>},
+    {WindowId::PlayerProfiles, printAs<PlayerProfiles, printPlayerProfiles>},
+    {WindowId::PlayoffPlayerProfiles, printAs<PlayerProfiles, printPlayerProfiles>},
+    {WindowId::AllTimeRecords, printAs<AllTimeRecords, printAllTimeRecords>},
+    {WindowId::PlayoffAllTimeRecords, printAs<AllTimeRecords, printAllTimeRecords>},
+    {WindowId::Options, printAs<Options, printOptions>},
     {WindowId::Standings, printAs<Standings, printStandings>},
     {WindowId::Playoffs, printAs<Playoffs, printPlayoffs>},
 };

@@ -3,11 +3,18 @@
 #include "shell/Windows.h"
 
 #include <ostream>
+#include <string>
 
 namespace iceline {
 class Playoffs;
 class Standings;
 class StatExtractor;
+class AllTimeRecords;
+class Options;
+class PlayerProfiles;
+class PlayerStats;
+class TeamStats;
+struct TeamView;
 } // namespace iceline
 
 namespace iceline::cli {
@@ -19,6 +26,17 @@ namespace iceline::cli {
 void printPlayoffs(const Playoffs& window, std::ostream& out);
 void printStandings(const Standings& window, std::ostream& out);
 void printStatExtractor(const StatExtractor& window, std::ostream& out);
+void printTeamStats(const TeamStats& window, std::ostream& out);
+void printPlayerStats(const PlayerStats& window, std::ostream& out);
+void printPlayerProfiles(const PlayerProfiles& window, std::ostream& out);
+void printAllTimeRecords(const AllTimeRecords& window, std::ostream& out);
+void printOptions(const Options& window, std::ostream& out);
+
+/// All figures of a team or a coach.
+void printTeamView(const TeamView& view, std::ostream& out);
+
+/// The teams to choose from, under the prompt of the window's team list.
+void printTeamList(const std::string& prompt, std::ostream& out);
 
 /// The game that was read last in the game window, which must hold one.
 void printGame(const StatExtractor& window, std::ostream& out);

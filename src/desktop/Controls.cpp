@@ -4,6 +4,8 @@
 
 #include <QComboBox>
 #include <QGroupBox>
+#include <QGuiApplication>
+#include <QScreen>
 #include <QStyle>
 
 namespace iceline::desktop {
@@ -90,6 +92,12 @@ void setText(const std::vector<QLabel*>& labels, std::size_t row, std::string_vi
 
 void setText(QWidget* window, const char* objectName, std::string_view text) {
     window->findChild<QLabel*>(QLatin1String(objectName))->setText(toQt(text));
+}
+
+void centreOnScreen(QWidget& window) {
+    const QRect screen = QGuiApplication::primaryScreen()->availableGeometry();
+    window.resize(window.size().boundedTo(screen.size()));
+    window.move(screen.center() - window.rect().center());
 }
 
 } // namespace iceline::desktop

@@ -62,4 +62,7 @@ void setText(const std::vector<QLabel*>& labels, std::size_t row, std::string_vi
 /// Shows text in a label found by its object name within `window`.
 void setText(QWidget* window, const char* objectName, std::string_view text);
 
+/// Moves a window to the middle of the screen, and makes it no larger than that.
+void centreOnScreen(QWidget& window);
+
 } // namespace iceline::desktop

@@ -1,22 +1,10 @@
 #include "desktop/Desk.h"
 
+#include "desktop/Controls.h"
 #include "desktop/WindowMakers.h"
 #include "shell/WelcomeWindow.h"
 
-#include <QGuiApplication>
-#include <QScreen>
-
 namespace iceline::desktop {
-
-namespace {
-
-void centreOnScreen(QWidget& window) {
-    const QRect screen = QGuiApplication::primaryScreen()->availableGeometry();
-    window.resize(window.size().boundedTo(screen.size()));
-    window.move(screen.center() - window.rect().center());
-}
-
-} // namespace
 
 Desk::Desk(Application& application) : app_(application) {
     app_.windows().onUnload = [this](WindowId id) { close(id); };

@@ -1,5 +1,6 @@
 #include "desktop/WelcomeWindow.h"
 
+#include "desktop/Controls.h"
 #include "desktop/Guard.h"
 #include "desktop/Pictures.h"
 #include "desktop/QtPlatform.h"
@@ -72,6 +73,8 @@ void WelcomeWindow::waitForSplash(std::function<void()> shown) {
         if (!app_.state.SplashDone)
             return;
         timer1_.stop();
+        adjustSize();
+        centreOnScreen(*this);
         show();
         shown();
     });

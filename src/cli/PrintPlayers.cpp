@@ -1,0 +1,62 @@
+#include "cli/TextTable.h"
+#include "cli/WindowPrinters.h"
+#include "views/PlayerProfiles.h"
+#include "views/PlayerStats.h"
+
+namespace iceline::cli {
+
+namespace {
+
+using Align = TextTable::Align;
+
+TextTable playerTable(const std::string& title, std::span<const PlayerColumn> columns,
+                      const std::vector<PlayerTableRow>& rows) {
+    std::vector<TextTable::Column> heads{{title, Align::Left}};
+    for (const PlayerColumn& column : columns)
+        heads.push_back({std::string(column.caption)});
+    TextTable table(heads);
+    for (const PlayerTableRow& row : rows) {
+        std::vector<std::string> cells{row.Name};
+        cells.insert(cells.end(), row.texts.begin(), row.texts.end());
+        table.addRow(cells);
+    }
+    return table;
+}
+
+TextTable leaderTable(const std::vector<PlayerStats::Leader>& leaders) {
+    TextTable table({{"Team Leaders", Align::Left}, {"", Align::Left}, {""}});
+    for (const PlayerStats::Leader& leader : leaders)
+        table.addRow({std::string(leader.heading), leader.Name, leader.value});
+    return table;
+}
+
+} // namespace
+
+void printTeamList(const std::string& prompt, std::ostream& out) {
+    out << prompt << '\n';
+    for (TeamIndex team = 0; team < LeagueTeams; ++team)
+        out << "  " << TeamName[team] << '\n';
+}
+
+void printPlayerStats(const PlayerStats& window, std::ostream& out) {
+    if (window.PlayersTeamSelect == PlayerStats::NotChosen) {
+        printTeamList("Select Team Here", out);
+        return;
+    }
+    out << TeamName[window.PlayersTeamSelect] << "\n\n"
+        << playerTable("Forwards / Defensemen", skaterColumns(), window.content().skaters) << '\n'
+        << playerTable("Goalies", goalieColumns(), window.content().goalies) << '\n'
+        << leaderTable(window.content().leaders);
+}
+
+void printPlayerProfiles(const PlayerProfiles& window, std::ostream& out) {
+    if (window.PlayersTeamSelect == PlayerProfiles::NotChosen) {
+        printTeamList("Select Team Here", out);
+        return;
+    }
+    out << TeamName[window.PlayersTeamSelect] << "\n\nSelect Player Here\n";
+    for (const RosterRow& row : window.content().roster)
+        out << "  " << row.Name << '\n';
+}
+
+} // namespace iceline::cli

@@ -1,0 +1,38 @@
+#include "cli/TextTable.h"
+#include "cli/WindowPrinters.h"
+#include "views/AllTimeRecords.h"
+#include "views/Options.h"
+
+namespace iceline::cli {
+
+namespace {
+
+using Align = TextTable::Align;
+
+TextTable recordTable(const std::string& title, const std::vector<ShownRecord>& records) {
+    TextTable table(
+        {{padded(title, 24, Align::Left), Align::Left}, {"", Align::Left}, {"", Align::Left}, {""}});
+    for (const ShownRecord& record : records)
+        table.addRow({std::string(record.caption),
+                      record.team < 0 ? std::string() : std::string(TeamAbbr[record.team]), record.name,
+                      record.value});
+    return table;
+}
+
+} // namespace
+
+void printAllTimeRecords(const AllTimeRecords& window, std::ostream& out) {
+    const AllTimeRecords::Content& content = window.content();
+    out << recordTable("Player Records", shownPlayerRecords(content)) << '\n'
+        << recordTable("Goalie Records", shownGoalieRecords(content)) << '\n'
+        << recordTable("Team Records", shownTeamRecords(content)) << '\n'
+        << recordTable("Coach Records", shownCoachRecords(content));
+}
+
+void printOptions(const Options& window, std::ostream& out) {
+    out << "Current Season Length  " << window.content().CurrentSeasonLength << "\n\nCoach List:\n";
+    for (const std::string& coach : window.content().coaches)
+        out << "  " << coach << '\n';
+}
+
+} // namespace iceline::cli
