@@ -59,6 +59,12 @@ LeaderList listOfPlayers(const std::array<LeaderColumn<Stats>, Columns>& columns
                                   [](const LeaderRow<Columns>&) { return true; });
 }
 
+using TeamRow = LeaderRow<TeamLeaderColumns.size()>;
+
+bool hasGames(const TeamRow& row) {
+    return row.values[TeamGamesColumn] != 0;
+}
+
 } // namespace
 
 LeaderList playerLeaders(const ApplicationState& state, int count, LeaderSort sort, int places) {
@@ -74,13 +80,20 @@ LeaderList starLeaders(const ApplicationState& state, int count, LeaderSort sort
 }
 
 LeaderList teamLeaders(const ApplicationState& state, LeaderSort sort, int places) {
-    using Row = LeaderRow<TeamLeaderColumns.size()>;
-    std::vector<Row> rows;
+    std::vector<TeamRow> rows;
     for (TeamIndex team = 0; team < LeagueTeams; ++team)
         rows.push_back({team, "", state.TeamLeaderTable[team]});
+    return listOf<TeamRecord, TeamLeaderColumns.size()>(TeamLeaderColumns, rows, sort, places, hasGames);
+}
+
+LeaderList coachLeaders(const ApplicationState& state, const std::vector<std::string>& names, LeaderSort sort,
+                        CoachesListed listed) {
+    std::vector<TeamRow> rows;
+    for (std::size_t coach = 0; coach < names.size(); ++coach)
+        rows.push_back({static_cast<int>(coach), names[coach], state.CoachLeaderTable[coach]});
     return listOf<TeamRecord, TeamLeaderColumns.size()>(
-        TeamLeaderColumns, rows, sort, places,
-        [](const Row& row) { return row.values[TeamGamesColumn] != 0; });
+        TeamLeaderColumns, rows, sort, static_cast<int>(rows.size()),
+        listed == CoachesListed::All ? [](const TeamRow&) { return true; } : hasGames);
 }
 
 } // namespace iceline

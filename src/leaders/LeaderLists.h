@@ -15,7 +15,7 @@ struct LeaderSort {
 struct LeaderLine {
     int number = 0; ///< from 1
     TeamIndex team = 0;
-    std::string name;                 ///< a player's, as it stands in the roster; empty in the teams' table
+    std::string name;                 ///< a player's or a coach's as it stands; empty in the teams' table
     std::vector<std::string> figures; ///< by column, as they are shown, with leading zero
 };
 
@@ -37,5 +37,11 @@ LeaderList starLeaders(const ApplicationState& state, int count, LeaderSort sort
 
 /// The same for the teams, of which `places` take their turn. The column may be NoColumn.
 LeaderList teamLeaders(const ApplicationState& state, LeaderSort sort, int places);
+
+/// The coaches, named in the order of the coaches' table, in which they stand as the teams in theirs: all of
+/// them, or those who have games.
+enum class CoachesListed { All, WithGames };
+LeaderList coachLeaders(const ApplicationState& state, const std::vector<std::string>& names, LeaderSort sort,
+                        CoachesListed listed);
 
 } // namespace iceline

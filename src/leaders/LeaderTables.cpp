@@ -2,7 +2,6 @@
 
 #include "store/FileError.h"
 #include "store/Numbers.h"
-#include "store/TeamFiles.h"
 
 #include <cmath>
 #include <limits>
@@ -58,13 +57,14 @@ std::vector<LeaderRow<Columns>> readLeaders(Files& files, PartOfYear part,
 
 } // namespace
 
+std::array<int, TeamLeaderColumns.size()> readTeamLeaderFigures(Files& files, const RecordFolder& folder) {
+    return scaledFigures(folder + "/" + paths::Records, TeamLeaderColumns, readTeamRecord(files, folder));
+}
+
 TeamLeaders readTeamLeaders(Files& files, PartOfYear part) {
     TeamLeaders leaders{};
-    for (TeamIndex team = 0; team < LeagueTeams; ++team) {
-        const RecordFolder folder = paths::teamFolder(team) + seasonFolder(part);
-        leaders[team] =
-            scaledFigures(folder + "/" + paths::Records, TeamLeaderColumns, readTeamRecord(files, folder));
-    }
+    for (TeamIndex team = 0; team < LeagueTeams; ++team)
+        leaders[team] = readTeamLeaderFigures(files, paths::teamFolder(team) + seasonFolder(part));
     return leaders;
 }
 

@@ -2,6 +2,7 @@
 
 #include "leaders/LeaderColumns.h"
 #include "shell/ApplicationState.h"
+#include "store/TeamFiles.h"
 
 namespace iceline {
 
@@ -11,7 +12,10 @@ namespace iceline {
 
 using TeamLeaders = decltype(ApplicationState::TeamLeaderTable);
 
-/// All teams. A team without games has no goals a game.
+/// The figures of a team's part of the year, or of a coach. Without games there are no goals a game.
+std::array<int, TeamLeaderColumns.size()> readTeamLeaderFigures(Files& files, const RecordFolder& folder);
+
+/// All teams.
 TeamLeaders readTeamLeaders(Files& files, PartOfYear part);
 
 /// The skaters who have played.

@@ -4,6 +4,8 @@
 #include "standings/Playoffs.h"
 #include "standings/Standings.h"
 #include "views/AllTimeRecords.h"
+#include "views/CoachStats.h"
+#include "views/Options.h"
 #include "views/PlayerProfiles.h"
 #include "views/PlayerStats.h"
 #include "views/TeamStats.h"
@@ -11,9 +13,6 @@
 namespace iceline {
 
 namespace {
-
-/// A row whose window is not built yet.
-constexpr std::unique_ptr<Window> (*None)(Application&) = nullptr;
 
 template <class Object>
 std::unique_ptr<Window> make(Application& app) {
@@ -41,12 +40,12 @@ constexpr std::array<CatalogueRow, WindowCount> Catalogue{{
     {WindowId::PlayoffRankings, "Playoff Rankings", "PlayoffRankings", make<Rankings, PartOfYear::Playoffs>},
     {WindowId::PlayoffPlayerProfiles, "Playoff Player Profiles", "PlayoffPlayerProfiles",
      make<PlayerProfiles, PartOfYear::Playoffs>},
-    {WindowId::CoachStats, "Coaches Stats", "CoachStats", None},
+    {WindowId::CoachStats, "Coaches Stats", "CoachStats", make<CoachStats>},
     {WindowId::AllTimeRecords, "All-Time Records", "AllTimeRecords",
      make<AllTimeRecords, PartOfYear::Season>},
     {WindowId::PlayoffAllTimeRecords, "Playoff All-Time Records", "PlayoffAllTimeRecords",
      make<AllTimeRecords, PartOfYear::Playoffs>},
-    {WindowId::Options, "Options", "Options", None},
+    {WindowId::Options, "Options", "Options", make<Options>},
 }};
 
 } // namespace
