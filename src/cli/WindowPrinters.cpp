@@ -4,6 +4,7 @@
 #include "standings/Playoffs.h"
 #include "standings/Standings.h"
 #include "views/AllTimeRecords.h"
+#include "views/CoachStats.h"
 #include "views/Options.h"
 #include "views/PlayerProfiles.h"
 #include "views/PlayerStats.h"
@@ -36,6 +37,7 @@ constexpr Row Printers[] = {
     {WindowId::PlayoffPlayerProfiles, printAs<PlayerProfiles, printPlayerProfiles>},
     {WindowId::AllTimeRecords, printAs<AllTimeRecords, printAllTimeRecords>},
     {WindowId::PlayoffAllTimeRecords, printAs<AllTimeRecords, printAllTimeRecords>},
+    {WindowId::CoachStats, printAs<CoachStats, printCoachStats>},
     {WindowId::Options, printAs<Options, printOptions>},
     {WindowId::Standings, printAs<Standings, printStandings>},
     {WindowId::Playoffs, printAs<Playoffs, printPlayoffs>},

@@ -10,6 +10,7 @@ class Playoffs;
 class Standings;
 class StatExtractor;
 class AllTimeRecords;
+class CoachStats;
 class Options;
 class PlayerProfiles;
 class PlayerStats;
@@ -30,6 +31,7 @@ void printTeamStats(const TeamStats& window, std::ostream& out);
 void printPlayerStats(const PlayerStats& window, std::ostream& out);
 void printPlayerProfiles(const PlayerProfiles& window, std::ostream& out);
 void printAllTimeRecords(const AllTimeRecords& window, std::ostream& out);
+void printCoachStats(const CoachStats& window, std::ostream& out);
 void printOptions(const Options& window, std::ostream& out);
 
 /// All figures of a team or a coach.

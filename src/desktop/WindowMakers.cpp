@@ -1,6 +1,8 @@
 #include "desktop/WindowMakers.h"
 
 #include "desktop/AllTimeRecordsWindow.h"
+#include "desktop/CoachStatsWindow.h"
+#include "desktop/OptionsWindow.h"
 #include "desktop/PlayerProfilesWindow.h"
 #include "desktop/PlayerStatsWindow.h"
 #include "desktop/StatExtractorWindow.h"
@@ -31,6 +33,10 @@ WindowMaker windowMaker(WindowId id) {
     case WindowId::PlayerProfiles:
     case WindowId::PlayoffPlayerProfiles:
         return make<PlayerProfilesWindow, PlayerProfiles>;
+    case WindowId::CoachStats:
+        return make<CoachStatsWindow, CoachStats>;
+    case WindowId::Options:
+        return make<OptionsWindow, Options>;
     case WindowId::AllTimeRecords:
     case WindowId::PlayoffAllTimeRecords:
         return make<AllTimeRecordsWindow, AllTimeRecords>;
