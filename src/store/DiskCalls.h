@@ -33,6 +33,9 @@ bool cut(int handle, std::uintmax_t length);
 /// written; nothing happens when there is none.
 bool takePermissions(int handle, const std::filesystem::path& replaced);
 
+/// Gives a file the name of another one, which it replaces at once.
+bool rename(const std::filesystem::path& file, const std::filesystem::path& name);
+
 /// Locks the file for this process, until it is closed. Fails with EWOULDBLOCK when another holds it.
 bool lock(int handle);
 

@@ -84,6 +84,10 @@ bool takePermissions(int handle, const std::filesystem::path& replaced) {
            ::fchmod(handle, status.st_mode & 0777) == 0;
 }
 
+bool rename(const std::filesystem::path& file, const std::filesystem::path& name) {
+    return ::rename(file.c_str(), name.c_str()) == 0;
+}
+
 bool lock(int handle) {
     return ::flock(handle, LOCK_EX | LOCK_NB) == 0;
 }

@@ -9,6 +9,7 @@
 #include <process.h>
 #include <share.h>
 #include <sys/stat.h>
+#include <system_error>
 #include <windows.h>
 
 namespace iceline::disk {
@@ -31,11 +32,31 @@ unsigned portion(std::size_t size) {
     return static_cast<unsigned>(std::min<std::size_t>(size, INT_MAX));
 }
 
+/// Carries out `attempt`, which uses the file and gives false and errno when it cannot. A file that another
+/// program has just open, a virus scanner for instance, is denied until that one has done with it.
+template <class Attempt>
+bool whenFree(const std::filesystem::path& file, Attempt attempt) {
+    constexpr int Tries = 20;
+    constexpr DWORD PauseInMilliseconds = 10;
+    std::error_code ignored;
+    for (int tries = 1; !attempt(); ++tries) {
+        if (errno != EACCES || tries == Tries || std::filesystem::is_directory(file, ignored))
+            return false;
+        Sleep(PauseInMilliseconds);
+    }
+    return true;
+}
+
 } // namespace
 
 int open(const std::filesystem::path& path, Purpose purpose) {
     const int flags = flagsFor(purpose) | _O_BINARY | _O_NOINHERIT;
-    return _wsopen(path.c_str(), flags, _SH_DENYNO, _S_IREAD | _S_IWRITE);
+    int handle = -1;
+    whenFree(path, [&] {
+        handle = _wsopen(path.c_str(), flags, _SH_DENYNO, _S_IREAD | _S_IWRITE);
+        return handle >= 0;
+    });
+    return handle;
 }
 
 bool close(int handle) {
@@ -62,6 +83,15 @@ bool cut(int handle, std::uintmax_t length) {
 // A file takes its permissions from its folder here, and one that is marked read-only is not replaced.
 bool takePermissions(int, const std::filesystem::path&) {
     return true;
+}
+
+bool rename(const std::filesystem::path& file, const std::filesystem::path& name) {
+    return whenFree(name, [&] {
+        std::error_code error;
+        std::filesystem::rename(file, name, error);
+        errno = error.default_error_condition().value();
+        return !error;
+    });
 }
 
 // The locked byte lies far behind the text of a lock file, which others may therefore read.

@@ -55,7 +55,7 @@ void replaceFile(const fs::path& file, std::string_view content, bool synced) {
         if (synced)
             out.sync();
         out.close();
-        fs::rename(fresh, file);
+        disk::require(disk::rename(fresh, file));
     } catch (const std::system_error&) {
         std::error_code ignored;
         fs::remove(fresh, ignored);

@@ -7,6 +7,7 @@
 #include <gtest/gtest.h>
 
 #include <atomic>
+#include <chrono>
 #include <filesystem>
 #include <fstream>
 #include <thread>
@@ -102,8 +103,8 @@ TEST_F(DiskFilesTest, AReaderSeesTheOldFileOrTheNew) {
     const std::string a(100'000, 'a'), b(200'000, 'b');
     files.write("page.htm", a);
     std::atomic<bool> done = false;
-    std::thread writer([&] {
-        for (int i = 0; i < 50; ++i)
+    std::jthread writer([&] {
+        for (int i = 0; i < 100; ++i)
             files.write("page.htm", i % 2 == 0 ? b : a, Durability::Unsynced);
         done = true;
     });
@@ -112,6 +113,7 @@ TEST_F(DiskFilesTest, AReaderSeesTheOldFileOrTheNew) {
     while (!done && whole) {
         const std::string page = reader.read("page.htm");
         whole = page == a || page == b;
+        std::this_thread::sleep_for(std::chrono::milliseconds(2));
     }
     writer.join();
     EXPECT_TRUE(whole);

@@ -6,6 +6,8 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <filesystem>
+
 namespace iceline::test {
 
 namespace {
@@ -111,13 +113,14 @@ TEST_F(StagedFilesTest, ReadsEachFileBeneathOnce) {
     EXPECT_EQ(files.read("BoxScores.htm"), "game 1\na game\na game\na game\n");
     EXPECT_EQ(beneath.reads, 2);
 
-    beneath.files["/games/1.gs1"] = std::string(100, 'x');
-    files.readFirst("/games/1.gs1", 64);
-    files.readFirst("/games/1.gs1", 32);
-    EXPECT_EQ(files.readFirst("/games/1.gs1", 64).size(), 64u);
+    const std::string game = (std::filesystem::temp_directory_path() / "1.gs1").generic_string();
+    beneath.files[game] = std::string(100, 'x');
+    files.readFirst(game, 64);
+    files.readFirst(game, 32);
+    EXPECT_EQ(files.readFirst(game, 64).size(), 64u);
     EXPECT_EQ(beneath.reads, 3);
-    EXPECT_EQ(files.read("/games/1.gs1").size(), 100u);
-    EXPECT_EQ(files.readFirst("/games/1.gs1", 99).size(), 99u);
+    EXPECT_EQ(files.read(game).size(), 100u);
+    EXPECT_EQ(files.readFirst(game, 99).size(), 99u);
     EXPECT_EQ(beneath.reads, 4);
 }
 
