@@ -1,9 +1,30 @@
 #include "cli/Command.h"
+#include "cli/UseWindow.h"
+#include "cli/WindowPrinters.h"
+#include "views/CoachStats.h"
 #include "views/Coaches.h"
+#include "views/Options.h"
 
 namespace iceline::cli {
 
 namespace {
+
+struct Renaming {
+    std::string from;
+    std::string to;
+};
+
+std::optional<std::string> coachNamed(Session& session, const std::string& name) {
+    return findCoach(session.app().files(), storedCoachName(name));
+}
+
+/// The options window with the coach chosen.
+Options& chooseCoach(Session& session, const std::string& name) {
+    const int place = placeOfCoach<Options>(session, WindowId::Options, name);
+    Options& options = use<Options>(session, WindowId::Options);
+    options.Combo1 = place;
+    return options;
+}
 
 Status listCoaches(Session& session, const NoArguments&) {
     for (const std::string& coach : coachNames(session.app().files()))
@@ -11,10 +32,49 @@ Status listCoaches(Session& session, const NoArguments&) {
     return Status::Done;
 }
 
+Status addCoach(Session& session, const std::string& name) {
+    const bool isNew = !coachNamed(session, name);
+    Options& options = use<Options>(session, WindowId::Options);
+    if (!options.content().Command1Visible)
+        options.NewCoach_Click();
+    options.NewC = name;
+    options.Command1_Click();
+    return isNew && coachNamed(session, name) ? Status::Done : Status::Refused;
+}
+
+Status renameCoach(Session& session, const Renaming& renaming) {
+    Options& options = chooseCoach(session, renaming.from);
+    if (!options.content().Command2Visible)
+        options.EditCoach_Click();
+    options.NewC = renaming.to;
+    options.Command2_Click();
+    return coachNamed(session, renaming.from) ? Status::Refused : Status::Done;
+}
+
+Status deleteCoach(Session& session, const std::string& name) {
+    chooseCoach(session, name).DeleteCoach_Click();
+    return Status::Done;
+}
+
+Status clearCoach(Session& session, const std::string& name) {
+    chooseCoach(session, name).CoachTeam_Click();
+    return Status::Done;
+}
+
+Status showCoach(Session& session, const std::string& name) {
+    const int place = placeOfCoach<CoachStats>(session, WindowId::CoachStats, name);
+    CoachStats& window = use<CoachStats>(session, WindowId::CoachStats);
+    window.TeamSelect = place;
+    window.TeamSelect_Click();
+    session.out() << window.CoachName() << "\n\n";
+    printTeamView(*window.content().coach, session.out());
+    return Status::Done;
+}
+
 } // namespace
 
 std::string knownCoach(Session& session, const std::string& name) {
-    if (const auto coach = findCoach(session.app().files(), storedCoachName(name)))
+    if (const auto coach = coachNamed(session, name))
         return *coach;
     throw UsageError("there is no coach '" + name + "'; 'iceline coach list' lists them");
 }
@@ -23,6 +83,21 @@ void addCoachCommands(CLI::App& program, Call& call) {
     CLI::App& coach = *program.add_subcommand("coach", "Look after the coaches");
     coach.require_subcommand(1);
     addCommand(coach, call, "list", "List the coaches", listCoaches);
+    const auto [add, added] = addCommand<std::string>(coach, call, "add", "Add a coach", addCoach);
+    addArgument(*add, "NAME", *added, "at most 20 characters; a blank becomes _");
+    const auto [rename, names] =
+        addCommand<Renaming>(coach, call, "rename", "Give a coach another name", renameCoach);
+    addArgument(*rename, "OLD", names->from, "his name until now");
+    addArgument(*rename, "NEW", names->to, "at most 20 characters; a blank becomes _");
+    const auto [remove, removed] =
+        addCommand<std::string>(coach, call, "delete", "Delete a coach and his record", deleteCoach);
+    addArgument(*remove, "NAME", *removed, "the coach");
+    const auto [clear, cleared] =
+        addCommand<std::string>(coach, call, "clear", "Set a coach's record back to nothing", clearCoach);
+    addArgument(*clear, "NAME", *cleared, "the coach");
+    const auto [show, shown] =
+        addCommand<std::string>(coach, call, "show", "Print a coach's figures and write his page", showCoach);
+    addArgument(*show, "NAME", *shown, "the coach");
 }
 
 } // namespace iceline::cli

@@ -43,13 +43,10 @@ void addArgument(CLI::App& command, const std::string& name, Value& value, const
     command.add_option(name, value, description)->required()->type_name("");
 }
 
-/// A coach by the name that the user gave, blanks or case notwithstanding. Throws UsageError when there is no
-/// such coach.
-std::string knownCoach(Session& session, const std::string& name);
-
 /// The commands by topic.
 void addGameCommands(CLI::App& program, Call& call);
 void addLeagueCommands(CLI::App& program, Call& call);
+void addSeasonCommands(CLI::App& program, Call& call);
 void addSampleGamesCommand(CLI::App& program, Call& call);
 void addWindowCommands(CLI::App& program, Call& call);
 void addCoachCommands(CLI::App& program, Call& call);

@@ -26,6 +26,10 @@ std::string usageError(const CLI::App& program, const CLI::ParseError& error) {
 
 /// Everything that can be typed behind the program's name.
 void addAll(CLI::App& program, Call& call, LeagueChoice& choice) {
+    program.get_formatter()->label("SUBCOMMAND", "COMMAND");
+    program.get_formatter()->label("Subcommands", "Commands");
+    program.get_formatter()->label("Positionals", "Arguments");
+    program.get_formatter()->label("REQUIRED", "");
     program.add_option("--league", choice.folder, "the league folder (default: the current folder)")
         ->type_name("DIR");
     program.add_flag("--yes", choice.yes, "answer the start-up question with OK");
@@ -75,6 +79,7 @@ void addScriptableCommands(CLI::App& program, Call& call) {
     addGameCommands(program, call);
     addWindowCommands(program, call);
     addCoachCommands(program, call);
+    addSeasonCommands(program, call);
     addSampleGamesCommand(program, call);
     addHelpCommand(program, call);
 }

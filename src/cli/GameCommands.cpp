@@ -1,9 +1,8 @@
 #include "capture/StatExtractor.h"
 #include "cli/Command.h"
+#include "cli/UseWindow.h"
 #include "cli/WindowPrinters.h"
 #include "store/FileError.h"
-
-#include <algorithm>
 
 namespace iceline::cli {
 
@@ -17,8 +16,6 @@ struct Import {
     std::string awayCoach;
     bool stopOnRefusal = false;
 };
-
-using CoachList = void (StatExtractor::*)(int);
 
 /// "Select Game". False when the file was refused.
 bool selectGame(Session& session, const std::string& file) {
@@ -36,28 +33,16 @@ Status read(Session& session, const std::string& file) {
     return Status::Done;
 }
 
-/// The place of a coach in the window's lists.
-std::optional<int> placeOf(const std::string& coach, const StatExtractor& window) {
-    const std::vector<std::string>& coaches = window.content().coaches;
-    const auto found = std::find(coaches.begin() + 1, coaches.end(), coach);
-    return found == coaches.end() ? std::nullopt : std::optional(static_cast<int>(found - coaches.begin()));
-}
-
-/// The place of the coach of that name in the window's lists, 0 without a name. A window that was loaded
-/// before the coach was added is loaded anew.
-int coachPlace(Session& session, const std::string& name) {
-    if (name.empty())
-        return 0;
-    const std::string coach = knownCoach(session, name);
-    Windows& windows = session.app().windows();
-    if (!placeOf(coach, windows.statExtractor()))
-        windows.unload(WindowId::StatExtractor);
-    return placeOf(coach, windows.statExtractor()).value();
+/// The position of the coach in the window's lists, that of "No Coach" without a name.
+int coachPosition(Session& session, const std::string& name) {
+    return name.empty() ? 0 : placeOfCoach<StatExtractor>(session, WindowId::StatExtractor, name);
 }
 
 void choose(Session& session, const Import& import) {
-    const int home = coachPlace(session, import.homeCoach);
-    const int away = coachPlace(session, import.awayCoach);
+    coachPosition(session, import.homeCoach);
+    const int away = coachPosition(session, import.awayCoach);
+    // Only now: the look-up before may have loaded the window anew.
+    const int home = coachPosition(session, import.homeCoach);
     if (home != 0 && home == away)
         throw UsageError("a coach cannot stand behind both teams");
     StatExtractor& window = session.app().windows().statExtractor();

@@ -172,5 +172,30 @@ TEST_F(GameCommandsTest, TheCoachOfOneImportDoesNotStandForTheNext) {
     EXPECT_EQ(std::ranges::count(results, '\n'), 1) << results;
 }
 
+TEST_F(GameCommandsTest, CoachesWhoComeWhileTheGameWindowIsLoadedCanBeChosen) {
+    const Outcome outcome = script("coach add Bo\n"
+                                   "import " +
+                                   game(1) +
+                                   " --home-coach Bo\n"
+                                   "coach add Al\n"
+                                   "import " +
+                                   game(2) + " --exhibition --home-coach Bo --away-coach Al\n");
+    EXPECT_EQ(outcome.status, 0) << outcome.err;
+    const auto games = [this](const std::string& coach) {
+        const std::string results = read("Coaches/" + coach + "/Last 10 Games.txt");
+        return std::ranges::count(results, '\n');
+    };
+    EXPECT_EQ(games("Bo"), 2);
+    EXPECT_EQ(games("Al"), 1);
+}
+
+TEST_F(GameCommandsTest, ACoachIsShownAndHisPageWritten) {
+    const Outcome outcome = script("coach add Bo\nimport " + game(1) + " --home-coach Bo\ncoach show bo\n");
+    EXPECT_EQ(outcome.status, 0) << outcome.err;
+    EXPECT_THAT(outcome.out, StartsWith(Imported + "Bo\n\nRecord W - L - T"));
+    EXPECT_THAT(read("IcelineWebPages/CStats/Bo.htm"), HasSubstr("Bo"));
+    EXPECT_EQ(iceline({"coach", "show", "Al"}).status, 2);
+}
+
 } // namespace
 } // namespace iceline::cli

@@ -1,0 +1,49 @@
+#include "cli/Command.h"
+#include "cli/UseWindow.h"
+#include "views/Options.h"
+
+namespace iceline::cli {
+
+namespace {
+
+Status seasonLength(Session& session, const std::optional<std::string>& length) {
+    if (!length) {
+        session.out() << session.app().state.SeasonLength << '\n';
+        return Status::Done;
+    }
+    Options& options = use<Options>(session, WindowId::Options);
+    options.SeasonLength = *length;
+    options.EnterSeasonLength_Click();
+    return seasonLengthOf(*length) ? Status::Done : Status::Refused;
+}
+
+Status goToPlayoffs(Session& session, const NoArguments&) {
+    use<Options>(session, WindowId::Options).GoToPlayoffs_Click();
+    return Status::Done;
+}
+
+Status clearStats(Session& session, const std::string& team) {
+    const auto index = team == TeamAbbr[AllTeams] ? LeagueTeams : teamByName(team);
+    if (!index)
+        throw UsageError("there is no team '" + team + "'; give its full name, or ALL for the league");
+    Options& options = use<Options>(session, WindowId::Options);
+    options.ClearTeamSelect = *index;
+    options.ClearTeamSelect_Click();
+    options.Command8_Click();
+    return Status::Done;
+}
+
+} // namespace
+
+void addSeasonCommands(CLI::App& program, Call& call) {
+    const auto [command, length] = addCommand<std::optional<std::string>>(
+        program, call, "season-length", "Show the games that a team plays in the regular season, or set them",
+        seasonLength);
+    command->add_option("N", *length, "the new length")->type_name("");
+    addCommand(program, call, "go-to-playoffs", "End the regular season now", goToPlayoffs);
+    const auto [clear, team] = addCommand<std::string>(
+        program, call, "clear", "Set the statistics of a team or of the league back to nothing", clearStats);
+    addArgument(*clear, "TEAM", *team, "the team's full name, or ALL for the league");
+}
+
+} // namespace iceline::cli
