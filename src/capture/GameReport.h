@@ -1,5 +1,6 @@
 #pragma once
 
+#include "capture/GameSheet.h"
 #include "capture/SaveState.h"
 #include "shell/ApplicationState.h"
 #include "store/PlayerFiles.h"
@@ -25,18 +26,7 @@ struct GameRosters {
 GameRosters readRosters(Files& files, const SaveState& save);
 
 /// A team's figures in one game, with the texts that the window and the page show.
-struct TeamGameStats {
-    int Shots = 0;
-    int PPG = 0;
-    int PPA = 0;
-    int Penalties = 0;
-    int PenM = 0;
-    int AttackZone = 0; ///< seconds
-    int Goals = 0;
-    int FaceoffsWon = 0;
-    int BodyChecks = 0;
-    int PassAtt = 0;
-    int PassComp = 0;
+struct TeamGameStats : TeamFigures {
     std::string ShootingPct;    ///< "12.5%"; "0.0%" without a shot
     std::string FaceWinPct;     ///< "52.4%"; "0.000%" without a faceoff
     std::string PassAcc;        ///< "71.2%"; "0.000" without a pass
@@ -78,13 +68,9 @@ struct GameReport {
 /// The period from which a game counts as having gone to overtime.
 inline constexpr int OvertimePeriod = 4;
 
-/// The last period that the summaries show: that of the last goal, or a later one of a penalty. A game
-/// without goals begins from `former`, and with neither goals nor penalties stays there.
-int lastPeriod(const std::vector<ScoringEntry>& goals, const std::vector<PenaltyEntry>& penalties,
-               int former);
-
-/// The report of a game that the league can take, but for its stars, which are not chosen yet. `formerPeriod`
-/// is the last period of the game read before.
+/// The report of a game that the league can take, but for its stars, which are not chosen yet. The last
+/// period is that of the last goal, or a later one of a penalty; a game without goals begins from
+/// `formerPeriod`, the last period of the game read before.
 GameReport gameReport(const SaveState& save, const GameRosters& rosters, int formerPeriod);
 
 } // namespace iceline

@@ -10,12 +10,8 @@
 
 namespace iceline {
 
-/// Everything that a save state tells about one team.
-struct TeamSheet {
-    using RowFigures = std::array<int, RosterRows>; ///< a figure of each roster row
-
-    TeamIndex team = 0;
-
+/// A team's figures in one game, as the game itself shows them.
+struct TeamFigures {
     int Shots = 0;
     int PPG = 0;
     int PPA = 0;
@@ -27,6 +23,13 @@ struct TeamSheet {
     int BodyChecks = 0;
     int PassAtt = 0;
     int PassComp = 0;
+};
+
+/// Everything that a save state tells about one team.
+struct TeamSheet : TeamFigures {
+    using RowFigures = std::array<int, RosterRows>; ///< a figure of each roster row
+
+    TeamIndex team = 0;
 
     RowFigures G{}; ///< goals; in a goalie's row those that he let in
     RowFigures A{};

@@ -31,6 +31,18 @@ PenaltyEntry penaltyEntryAt(const SaveState& save, int offset) {
     return {time.period, time.seconds, save.byteAt(offset + 2), save.byteAt(offset + 3)};
 }
 
+/// The whole entries of a table that lies at `offset` and is `length` bytes long.
+template <class Entry>
+std::vector<Entry> wholeEntries(const SaveState& save, int offset, int length, int entryBytes,
+                                Entry (*entryAt)(const SaveState&, int)) {
+    std::vector<Entry> entries(static_cast<std::size_t>(length / entryBytes));
+    for (Entry& entry : entries) {
+        entry = entryAt(save, offset);
+        offset += entryBytes;
+    }
+    return entries;
+}
+
 bool isRosterRow(int row) {
     return row < RosterRows;
 }
@@ -110,21 +122,13 @@ TeamIndex SaveState::team(Side side) const {
 }
 
 std::vector<ScoringEntry> SaveState::scoringEntries() const {
-    std::vector<ScoringEntry> entries;
-    const int count = byteAt(SaveStateMap::ScoringLength) / SaveStateMap::ScoringEntryBytes;
-    for (int k = 0; k < count; ++k)
-        entries.push_back(
-            scoringEntryAt(*this, SaveStateMap::ScoringTable + k * SaveStateMap::ScoringEntryBytes));
-    return entries;
+    return wholeEntries(*this, SaveStateMap::ScoringTable, byteAt(SaveStateMap::ScoringLength),
+                        SaveStateMap::ScoringEntryBytes, scoringEntryAt);
 }
 
 std::vector<PenaltyEntry> SaveState::penaltyEntries() const {
-    std::vector<PenaltyEntry> entries;
-    const int count = byteAt(SaveStateMap::PenaltyLength) / SaveStateMap::PenaltyEntryBytes;
-    for (int k = 0; k < count; ++k)
-        entries.push_back(
-            penaltyEntryAt(*this, SaveStateMap::PenaltyTable + k * SaveStateMap::PenaltyEntryBytes));
-    return entries;
+    return wholeEntries(*this, SaveStateMap::PenaltyTable, byteAt(SaveStateMap::PenaltyLength),
+                        SaveStateMap::PenaltyEntryBytes, penaltyEntryAt);
 }
 
 std::optional<std::string> SaveState::refusal() const {

@@ -1,5 +1,7 @@
 #include "capture/ThreeStars.h"
 
+#include "capture/GameSheetReader.h"
+
 #include <algorithm>
 #include <initializer_list>
 #include <vector>
@@ -59,12 +61,12 @@ public:
     }
 
     void busiestGoalies() {
-        stars_[0] = upper(best(rowsFrom(0, 2 * RosterRows, isGoalie), {&StarRow::SOG}));
+        stars_[0] = upper(best(rowsFrom(0, StarRows, isGoalie), {&StarRow::SOG}));
         if (stars_[0])
             stars_[1] = upper(best(rowsOf(otherSide(sideOfRow(*stars_[0])), isGoalie), {&StarRow::SOG}));
     }
 
-    void busiestShooter() { stars_[2] = upper(best(rowsFrom(0, 2 * RosterRows, isSkater), {&StarRow::SOG})); }
+    void busiestShooter() { stars_[2] = upper(best(rowsFrom(0, StarRows, isSkater), {&StarRow::SOG})); }
 
     void winningGoal(Side winner, int scorer) {
         if (scorer >= RosterRows)
@@ -121,7 +123,7 @@ private:
 
     /// One round of the ladder; returns how many skaters stood level at its top.
     int fillWithBestSkaters(int firstStar) {
-        const Rows rows = best(rowsFrom(0, 2 * RosterRows, isFreeSkater),
+        const Rows rows = best(rowsFrom(0, StarRows, isFreeSkater),
                                {&StarRow::Pts, &StarRow::G, &StarRow::A, &StarRow::SOG});
         for (std::size_t i = 0; i < rows.size() && firstStar + i < stars_.size(); ++i) {
             stars_[firstStar + i] = rows[i];
@@ -163,15 +165,20 @@ void regulationStars(Choice& choice, const StarRules& rules) {
     }
 }
 
-StarRow starRow(const SaveState& save, Side side, int row, const RosterRow& player) {
-    StarRow result;
-    result.G = save.figure(side, SaveStateMap::PlayerGoals + row);
-    result.A = save.figure(side, SaveStateMap::PlayerAssists + row);
-    result.Pts = result.G + result.A;
-    result.SOG = save.figure(side, SaveStateMap::PlayerShots + row);
-    result.goalie = player.isGoalie();
-    result.Used = player.isEmpty() || player.Name.empty();
-    return result;
+StarRow starRow(const TeamSheet& team, int row, const RosterRow& player) {
+    const bool empty = player.isEmpty() || player.Name.empty();
+    const int goals = team.G[row];
+    const int assists = team.A[row];
+    return {goals + assists, goals, assists, team.SOG[row], player.isGoalie(), empty};
+}
+
+/// The table of a game; empty roster rows are Used.
+StarTable starTable(const GameSheet& game, const GameRosters& rosters) {
+    StarTable table;
+    for (const Side side : {Side::Home, Side::Away})
+        for (int row = 0; row < RosterRows; ++row)
+            table[firstRow(side) + row] = starRow(game.of(side), row, rosters.of(side)[row]);
+    return table;
 }
 
 /// The byte in the scorer's place of the entry that ends where the scoring table ends.
@@ -192,26 +199,18 @@ StarChoice threeStars(const StarTable& table, const StarRules& rules) {
     return choice.stars();
 }
 
-StarTable starTable(const SaveState& save, const GameRosters& rosters) {
-    StarTable table;
-    for (const Side side : {Side::Home, Side::Away})
-        for (int row = 0; row < RosterRows; ++row)
-            table[firstRow(side) + row] = starRow(save, side, row, rosters.of(side)[row]);
-    return table;
-}
-
 void selectStars(ApplicationState& state, const SaveState& save, const GameRosters& rosters) {
-    state.HomeName = TeamName[save.team(Side::Home)];
-    state.AwayName = TeamName[save.team(Side::Away)];
-    const StarRules rules{state.GameLastPeriod, save.figure(Side::Home, SaveStateMap::Goals),
-                          save.figure(Side::Away, SaveStateMap::Goals), lastScorer(save)};
-    const StarChoice stars = threeStars(starTable(save, rosters), rules);
+    const GameSheet game = readGameSheet(save);
+    state.HomeName = TeamName[game.home.team];
+    state.AwayName = TeamName[game.away.team];
+    const StarChoice stars = threeStars(
+        starTable(game, rosters), {state.GameLastPeriod, game.home.Goals, game.away.Goals, lastScorer(save)});
     for (std::size_t k = 0; k < stars.size(); ++k) {
         if (!stars[k])
             continue;
         const Side side = sideOfRow(*stars[k]);
         state.StarSlot[k] = *stars[k] - firstRow(side);
-        state.Star[k] = {save.team(side), rosters.of(side)[state.StarSlot[k]].Name};
+        state.Star[k] = {game.of(side).team, rosters.of(side)[state.StarSlot[k]].Name};
     }
 }
 

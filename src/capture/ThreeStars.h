@@ -19,7 +19,8 @@ struct StarRow {
 };
 
 /// Both rosters: rows 0 to 24 are the home team's, 25 to 49 the away team's.
-using StarTable = std::array<StarRow, 2 * RosterRows>;
+inline constexpr int StarRows = 2 * RosterRows;
+using StarTable = std::array<StarRow, StarRows>;
 
 /// What decides by which rules the stars of a game are chosen.
 struct StarRules {
@@ -35,9 +36,6 @@ using StarChoice = std::array<std::optional<int>, 3>;
 /// Chooses the stars. Skaters are ranked by points, goals, assists and shots; of a full tie the first rows of
 /// the table are taken. Goalies come in by rules of their own after a shutout and in overtime.
 StarChoice threeStars(const StarTable& table, const StarRules& rules);
-
-/// The table of a game; empty roster rows are Used.
-StarTable starTable(const SaveState& save, const GameRosters& rosters);
 
 /// Chooses the stars of a game that the league can take, with the shared GameLastPeriod, and keeps them in
 /// Star and StarSlot; a star for whom the rules name nobody stays as it was. HomeName and AwayName become

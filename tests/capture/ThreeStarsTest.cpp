@@ -19,7 +19,7 @@ constexpr int AwayRow = RosterRows; ///< the away team's row 0 in the table
 /// Two goalies a team in rows 0 and 1, skaters in rows 2 to 19, behind them empty rows.
 StarTable twoTeams() {
     StarTable table;
-    for (int i = 0; i < 2 * RosterRows; ++i) {
+    for (int i = 0; i < StarRows; ++i) {
         const int row = i % RosterRows;
         table[i].goalie = row < 2;
         table[i].Used = row > 19;
