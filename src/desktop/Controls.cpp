@@ -1,5 +1,6 @@
 #include "desktop/Controls.h"
 
+#include "desktop/Pictures.h"
 #include "desktop/QtPlatform.h"
 
 #include <QComboBox>
@@ -45,6 +46,24 @@ QLabel* pictureLabel(const QString& objectName, QWidget* parent) {
     return label(objectName, "picture", Qt::AlignCenter, parent);
 }
 
+void setStyleProperty(QWidget* widget, const char* name, const QVariant& value) {
+    if (widget->property(name) == value)
+        return;
+    widget->setProperty(name, value);
+    widget->style()->unpolish(widget);
+    widget->style()->polish(widget);
+}
+
+void showTeamBanner(QLabel* label, TeamIndex team, int height) {
+    const QPixmap banner = pictures::teamNameMini(team);
+    const int pixels = qRound(height * banner.devicePixelRatio());
+    label->setPixmap(banner.height() > pixels ? banner.scaledToHeight(pixels, Qt::SmoothTransformation)
+                                              : banner);
+    const QString name = team == BlankTeam ? QString() : toQt(TeamName[team]);
+    label->setToolTip(name);
+    label->setAccessibleName(name);
+}
+
 QGroupBox* frame(const char* objectName, const QString& caption, QWidget* parent) {
     auto* made = new QGroupBox(caption, parent);
     made->setObjectName(QLatin1String(objectName));
@@ -81,9 +100,7 @@ void SortHead::mark(SortMark mark) {
     static const QString Arrows[] = {QString(), QStringLiteral(" \u25be"), QStringLiteral(" \u25b4")};
     const auto index = static_cast<std::size_t>(mark);
     setText(caption_ + Arrows[index]);
-    setProperty("sort", Words[index]);
-    style()->unpolish(this);
-    style()->polish(this);
+    setStyleProperty(this, "sort", Words[index]);
 }
 
 void setText(const std::vector<QLabel*>& labels, std::size_t row, std::string_view text) {

@@ -31,6 +31,13 @@ QLabel* textLabel(const QString& objectName, QWidget* parent);
 /// A label that shows a picture.
 QLabel* pictureLabel(const QString& objectName, QWidget* parent);
 
+/// Gives a widget a property on which the style sheet depends, and the looks that follow from it.
+void setStyleProperty(QWidget* widget, const char* name, const QVariant& value);
+
+/// Shows a team's small name banner, at most `height` high, and says the team's name to the pointer and to
+/// screen readers. BlankTeam is an empty slot.
+void showTeamBanner(QLabel* label, TeamIndex team, int height = 24);
+
 QGroupBox* frame(const char* objectName, const QString& caption, QWidget* parent);
 
 /// A list of the league's teams by full name, which shows `prompt` until one is chosen.

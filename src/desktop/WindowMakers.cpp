@@ -5,6 +5,7 @@
 #include "desktop/OptionsWindow.h"
 #include "desktop/PlayerProfilesWindow.h"
 #include "desktop/PlayerStatsWindow.h"
+#include "desktop/StandingsWindow.h"
 #include "desktop/StatExtractorWindow.h"
 #include "desktop/TeamStatsWindow.h"
 
@@ -40,6 +41,8 @@ WindowMaker windowMaker(WindowId id) {
     case WindowId::AllTimeRecords:
     case WindowId::PlayoffAllTimeRecords:
         return make<AllTimeRecordsWindow, AllTimeRecords>;
+    case WindowId::Standings:
+        return make<StandingsWindow, Standings>;
     default:
         return nullptr;
     }
