@@ -5,6 +5,7 @@
 #include "desktop/OptionsWindow.h"
 #include "desktop/PlayerProfilesWindow.h"
 #include "desktop/PlayerStatsWindow.h"
+#include "desktop/PlayoffsWindow.h"
 #include "desktop/StandingsWindow.h"
 #include "desktop/StatExtractorWindow.h"
 #include "desktop/TeamStatsWindow.h"
@@ -43,6 +44,8 @@ WindowMaker windowMaker(WindowId id) {
         return make<AllTimeRecordsWindow, AllTimeRecords>;
     case WindowId::Standings:
         return make<StandingsWindow, Standings>;
+    case WindowId::Playoffs:
+        return make<PlayoffsWindow, Playoffs>;
     default:
         return nullptr;
     }

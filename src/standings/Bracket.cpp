@@ -6,8 +6,6 @@ namespace iceline {
 
 namespace {
 
-constexpr int Final = 14;
-
 /// Places among a conference's seeds that meet in the first round, in the order of the series; the better one
 /// is the first team.
 constexpr std::array<std::array<int, 2>, 4> FirstRoundPairings{{{0, 7}, {3, 4}, {2, 5}, {1, 6}}};
@@ -17,7 +15,7 @@ BracketSlot slotOnLine(Conference conference, int line) {
     const int round = std::countr_zero(static_cast<unsigned>(line));
     const int slot = line >> (round + 1);
     const int series = firstSeriesOf(conference, round) + slot / 2;
-    if (series == Final)
+    if (series == FinalSeries)
         return {round, series, conference == Conference::Wales ? SeriesTeam::A : SeriesTeam::B, 0};
     return {round, series, slot % 2 == 0 ? SeriesTeam::A : SeriesTeam::B,
             round == 0 ? FirstRoundPairings[slot / 2][slot % 2] : 0};
@@ -37,7 +35,7 @@ void seedConference(PlayoffSeriesTable& series, Conference conference,
 
 int firstSeriesOf(Conference conference, int round) {
     static constexpr std::array<std::array<int, BracketRounds>, 2> First{
-        {{0, 8, 12, Final}, {4, 10, 13, Final}}};
+        {{0, 8, 12, FinalSeries}, {4, 10, 13, FinalSeries}}};
     return First[static_cast<std::size_t>(conference)][round];
 }
 
@@ -54,11 +52,10 @@ void seedFirstRound(PlayoffSeriesTable& series, const std::array<TeamIndex, 12>&
     seedConference(series, Conference::Campbell, campbellSeeds);
 }
 
-TeamIndex champion(const PlayoffSeriesTable& series) {
-    const PlayoffSeriesRecord& last = series[Final];
-    if (last.WinsA >= WinsToTakeSeries)
-        return last.TeamA;
-    return last.WinsB >= WinsToTakeSeries ? last.TeamB : BlankTeam;
+TeamIndex winnerOf(const PlayoffSeriesRecord& series) {
+    if (series.WinsA >= WinsToTakeSeries)
+        return series.TeamA;
+    return series.WinsB >= WinsToTakeSeries ? series.TeamB : BlankTeam;
 }
 
 } // namespace iceline

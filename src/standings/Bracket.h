@@ -11,6 +11,8 @@ namespace iceline {
 /// final's two teams stand on the middle lines of their conferences.
 inline constexpr int BracketLines = 15;
 
+inline constexpr int FinalSeries = 14;
+
 /// Rounds of the play-offs: first round, second round, conference final, final.
 inline constexpr int BracketRounds = 4;
 
@@ -35,7 +37,7 @@ std::array<BracketSlot, BracketLines> bracketSlots(Conference conference);
 void seedFirstRound(PlayoffSeriesTable& series, const std::array<TeamIndex, 12>& walesSeeds,
                     const std::array<TeamIndex, 12>& campbellSeeds);
 
-/// The winner of the final, BlankTeam while it is not decided.
-TeamIndex champion(const PlayoffSeriesTable& series);
+/// The winner of a series, BlankTeam while it is not decided. The final's winner is the champion.
+TeamIndex winnerOf(const PlayoffSeriesRecord& series);
 
 } // namespace iceline

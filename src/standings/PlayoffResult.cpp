@@ -1,12 +1,13 @@
 #include "standings/PlayoffResult.h"
 
+#include "standings/Bracket.h"
+
 namespace iceline {
 
 namespace {
 
 constexpr int SecondRound = 8;
 constexpr int ThirdRound = 12;
-constexpr int Final = 14;
 
 bool isOpen(const PlayoffSeriesRecord& series) {
     return series.WinsA < WinsToTakeSeries && series.WinsB < WinsToTakeSeries;
@@ -38,7 +39,7 @@ std::optional<int> nextSeries(int series) {
         return series / 2 + SecondRound;
     if (series < ThirdRound)
         return (series - SecondRound) / 2 + ThirdRound;
-    return series < Final ? std::optional(Final) : std::nullopt;
+    return series < FinalSeries ? std::optional(FinalSeries) : std::nullopt;
 }
 
 void recordResult(PlayoffSeriesTable& table, const SeriesOfGame& game, int homeGoals, int awayGoals) {

@@ -13,6 +13,7 @@ Playoffs::Content::Content() {
         teams->fill(BlankTeam);
     for (auto* teams : {&T1, &T2})
         teams->fill(BlankTeam);
+    winner.fill(BlankTeam);
 }
 
 TeamIndex Playoffs::Content::team(Conference conference, const BracketSlot& slot) const {
@@ -43,7 +44,7 @@ void Playoffs::PlayoffTreeUpdate() {
     if (content_.PlayoffMode) {
         for (int number = 0; number < SeriesCount; ++number)
             showSeries(number);
-        content_.StanleyCup = champion(app_.state.PlayoffSeries);
+        content_.StanleyCup = content_.winner[FinalSeries];
     }
     writePage(app_.files(), paths::page("PlayoffTree.htm"), playoffTreePage(content_));
     changed();
@@ -51,6 +52,7 @@ void Playoffs::PlayoffTreeUpdate() {
 
 void Playoffs::showSeries(int number) {
     const PlayoffSeriesRecord& series = app_.state.PlayoffSeries[number];
+    content_.winner[number] = winnerOf(series);
     if (number >= FirstRoundSeries) {
         content_.T1[number - FirstRoundSeries] = series.TeamA;
         content_.T2[number - FirstRoundSeries] = series.TeamB;

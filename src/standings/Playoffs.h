@@ -24,8 +24,9 @@ public:
         std::array<TeamIndex, 7> T2;             ///< second teams
         std::array<std::string, SeriesCount> W1; ///< wins of the series' first teams
         std::array<std::string, SeriesCount> W2;
-        TeamIndex StanleyCup = BlankTeam; ///< the champion
-        bool PlayoffMode = false;         ///< the play-offs are on
+        std::array<TeamIndex, SeriesCount> winner; ///< of each series that is decided
+        TeamIndex StanleyCup = BlankTeam;          ///< the champion
+        bool PlayoffMode = false;                  ///< the play-offs are on
 
         TeamIndex team(Conference conference, const BracketSlot& slot) const;
         const std::string& wins(const BracketSlot& slot) const;

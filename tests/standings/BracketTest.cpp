@@ -50,14 +50,12 @@ TEST(Bracket, BetterSeedsAreTheFirstTeamsOfTheFirstRound) {
                                      std::pair(13, 18), std::pair(BlankTeam, BlankTeam)));
 }
 
-TEST(Bracket, ChampionIsWhoeverWinsTheFinal) {
-    PlayoffSeriesTable series;
-    series[14] = {3, 3, team("BOS"), team("EDM")};
-    EXPECT_EQ(champion(series), BlankTeam);
-    series[14].WinsB = 4;
-    EXPECT_EQ(champion(series), team("EDM"));
-    series[14] = {4, 3, team("BOS"), team("EDM")};
-    EXPECT_EQ(champion(series), team("BOS"));
+TEST(Bracket, FourWinsDecideASeries) {
+    PlayoffSeriesRecord series{3, 3, team("BOS"), team("EDM")};
+    EXPECT_EQ(winnerOf(series), BlankTeam);
+    series.WinsB = 4;
+    EXPECT_EQ(winnerOf(series), team("EDM"));
+    EXPECT_EQ(winnerOf({4, 3, team("BOS"), team("EDM")}), team("BOS"));
 }
 
 } // namespace
