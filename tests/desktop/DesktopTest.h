@@ -1,0 +1,49 @@
+#pragma once
+
+#include "desktop/Desk.h"
+#include "support/TestLeague.h"
+
+#include <QAbstractButton>
+#include <QLabel>
+
+#include <gmock/gmock.h>
+
+namespace iceline::desktop {
+
+/// The real windows, drawn offscreen, on a league in memory.
+class DesktopTest : public testing::Test {
+protected:
+    LeagueWindow& open(WindowId id) {
+        desk.open(id);
+        return *desk.window(id);
+    }
+
+    /// The control of that object name; the test fails when there is none of the kind.
+    template <class Control>
+    static Control& control(QWidget& window, const QString& name) {
+        auto* found = window.findChild<Control*>(name);
+        if (!found)
+            throw std::logic_error("no control " + name.toStdString());
+        return *found;
+    }
+
+    static std::string text(QWidget& window, const char* name) {
+        return control<QLabel>(window, QLatin1String(name)).text().toStdString();
+    }
+
+    /// The team whose banner a label shows.
+    static std::string banner(QWidget& window, const char* name) {
+        const auto& label = control<QLabel>(window, QLatin1String(name));
+        EXPECT_FALSE(label.pixmap(Qt::ReturnByValue).isNull()) << name;
+        return label.accessibleName().toStdString();
+    }
+
+    static void click(QWidget& window, const char* name) {
+        control<QAbstractButton>(window, QLatin1String(name)).click();
+    }
+
+    test::TestLeague league;
+    Desk desk{league.app};
+};
+
+} // namespace iceline::desktop

@@ -1,0 +1,13 @@
+#include "desktop/Style.h"
+
+#include <QApplication>
+
+#include <gmock/gmock.h>
+
+int main(int argc, char** argv) {
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    QApplication application(argc, argv);
+    iceline::desktop::applyStyle(application);
+    testing::InitGoogleMock(&argc, argv);
+    return RUN_ALL_TESTS();
+}
