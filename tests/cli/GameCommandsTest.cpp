@@ -132,6 +132,17 @@ TEST_F(GameCommandsTest, AFolderIsImportedInTheOrderOfItsNames) {
     EXPECT_THAT(read("Last 10 Box.txt"), EndsWith("\"game-0001.htm\"\r\n"));
 }
 
+TEST_F(GameCommandsTest, AFolderRunShowsItsProgressOnATerminalAlone) {
+    std::istringstream in;
+    std::ostringstream out;
+    std::ostringstream err;
+    EXPECT_EQ(run({"--league", league().string(), "import-folder", folder()}, {in, out, err, false, true}),
+              0);
+    EXPECT_THAT(err.str(), HasSubstr("\rImporting games [##########....................] 1/3 game-0002.gs0"));
+    EXPECT_THAT(err.str(), EndsWith(std::string(79, ' ') + "\r"));
+    EXPECT_THAT(out.str(), EndsWith("\n3 Files imported\n"));
+}
+
 TEST_F(GameCommandsTest, ARefusalInAFolderIsPassedOverOrEndsTheRun) {
     fs::rename(strangeGame(), folder() + "/game-0001b.gs0");
     const Outcome goesOn = iceline({"import-folder", folder()});
