@@ -1,4 +1,5 @@
 #include "cli/Command.h"
+#include "shell/WelcomeWindow.h"
 #include "site/SiteTemplate.h"
 
 namespace iceline::cli {
@@ -12,11 +13,17 @@ Status init(Session& session, const NoArguments&) {
     return Status::Done;
 }
 
+Status publish(Session& session, const NoArguments&) {
+    WelcomeWindow(session.app()).Command1_Click();
+    return Status::Done;
+}
+
 } // namespace
 
 void addLeagueCommands(CLI::App& program, Call& call) {
     addCommand(program, call, "init",
                "Create what the league lacks, the files of the site's template included", init);
+    addCommand(program, call, "publish", "Rewrite the whole web site from the league's files", publish);
 }
 
 } // namespace iceline::cli

@@ -1,6 +1,7 @@
 #include "cli/WindowPrinters.h"
 
 #include "capture/StatExtractor.h"
+#include "leaders/Rankings.h"
 #include "standings/Playoffs.h"
 #include "standings/Standings.h"
 #include "views/AllTimeRecords.h"
@@ -28,6 +29,8 @@ struct Row {
 };
 
 constexpr Row Printers[] = {
+    {WindowId::Rankings, printAs<Rankings, printRankings>},
+    {WindowId::PlayoffRankings, printAs<Rankings, printRankings>},
     {WindowId::StatExtractor, printAs<StatExtractor, printStatExtractor>},
     {WindowId::PlayerStats, printAs<PlayerStats, printPlayerStats>},
     {WindowId::PlayoffPlayerStats, printAs<PlayerStats, printPlayerStats>},

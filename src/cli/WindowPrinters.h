@@ -7,6 +7,7 @@
 
 namespace iceline {
 class Playoffs;
+class Rankings;
 class Standings;
 class StatExtractor;
 class AllTimeRecords;
@@ -25,6 +26,7 @@ namespace iceline::cli {
 /// of WindowPrinters.cpp; twin windows share theirs. It prints what the window's Content holds and works no
 /// figure out. TextTable lays out columns; sideBySide() puts two tables beside each other.
 void printPlayoffs(const Playoffs& window, std::ostream& out);
+void printRankings(const Rankings& window, std::ostream& out);
 void printStandings(const Standings& window, std::ostream& out);
 void printStatExtractor(const StatExtractor& window, std::ostream& out);
 void printTeamStats(const TeamStats& window, std::ostream& out);
