@@ -30,13 +30,6 @@ MemoryFiles leagueWithGame() {
     return league.files;
 }
 
-void copy(const MemoryFiles& from, Files& to) {
-    for (const std::string& folder : from.folders)
-        to.makeFolder(folder);
-    for (const auto& [path, content] : from.files)
-        to.write(path, content, Durability::Unsynced);
-}
-
 StatExtractor& gameWindow(Application& app) {
     StatExtractor& window = app.windows().statExtractor();
     window.Exhibition = false;
@@ -78,7 +71,7 @@ BENCHMARK(importInMemory)->Unit(benchmark::kMillisecond);
 void importOnDisk(benchmark::State& state) {
     const test::TemporaryFolder folder;
     DiskFiles disk(folder.path());
-    copy(leagueWithGame(), disk);
+    leagueWithGame().copyTo(disk);
     importGames(state, disk);
 }
 BENCHMARK(importOnDisk)->Unit(benchmark::kMillisecond);
@@ -107,7 +100,7 @@ void importFolder(benchmark::State& state) {
         state.PauseTiming();
         const test::TemporaryFolder folder;
         DiskFiles disk(folder.path());
-        copy(test::TestLeague().files, disk);
+        test::TestLeague().files.copyTo(disk);
         writeSampleGames(disk, "Games", games, Seed);
         MemoryFiles siteTemplate = test::smallSiteTemplate();
         TimingPlatform platform;

@@ -86,8 +86,6 @@ public:
 private:
     void writePagesOf(WindowId id) {
         progress_.next(std::string(catalogueRow(id).entry));
-        if (!catalogueRow(id).make)
-            return;
         app_.state.ShowWindows = false;
         app_.windows().use(id);
         app_.windows().unload(id);

@@ -1,0 +1,284 @@
+#include "shell/WelcomeWindow.h"
+#include "store/FileError.h"
+#include "support/TestLeague.h"
+
+#include <gmock/gmock.h>
+
+namespace iceline {
+namespace {
+
+using test::MemoryFiles;
+using test::TestLeague;
+using testing::Contains;
+using testing::ElementsAre;
+using testing::HasSubstr;
+using testing::IsEmpty;
+using testing::Not;
+
+constexpr TeamIndex BOS = 0;
+
+constexpr const char* Published =
+    "All Webpages have been generated and are located in the IcelineWebpages directory.";
+
+void publish(Application& app) {
+    WelcomeWindow(app).Command1_Click();
+}
+
+/// The message of the error that publishing ends with.
+std::string failureOf(Application& app) {
+    try {
+        publish(app);
+    } catch (const FileError& error) {
+        return error.what();
+    }
+    return "";
+}
+
+/// The site's files with their contents.
+std::map<std::string, std::string> siteOf(const MemoryFiles& files) {
+    std::map<std::string, std::string> site;
+    for (const auto& [path, content] : files.files)
+        if (path.starts_with(paths::WebRoot + "/"))
+            site[path.substr(paths::WebRoot.size() + 1)] = content;
+    return site;
+}
+
+std::size_t filesIn(TestLeague& league, const std::string& folder) {
+    return league.files.filesIn(paths::page(folder)).size();
+}
+
+TEST(GenerateWebpages, WritesTheWholeSiteAndSaysSo) {
+    TestLeague league;
+
+    publish(league.app);
+
+    EXPECT_THAT(league.said(), ElementsAre(Published));
+    EXPECT_TRUE(league.app.state.ShowWindows);
+    EXPECT_EQ(league.platform.busyDepth, 0);
+    EXPECT_THAT(league.files.filesIn("IcelineWebPages"),
+                ElementsAre("AllTimeRecords.htm", "BoxScores.htm", "CoachingStats.htm",
+                            "ConferenceStandings.htm", "DivisionStandings.htm", "HomeAwayStandings.htm",
+                            "index.htm", "PlayoffAllTimeRecords.htm", "Playoffs.htm", "PlayoffTree.htm",
+                            "styles.css", "vsConfStandings.htm"));
+    EXPECT_EQ(filesIn(league, "Rankings"), 70u);
+    EXPECT_EQ(filesIn(league, "PlayoffRankings"), 70u);
+    EXPECT_EQ(filesIn(league, "PStats"), 24u * 58 + 1);
+    EXPECT_EQ(filesIn(league, "PlayoffPStats"), 24u * 58);
+    EXPECT_EQ(filesIn(league, "TStats"), 24u);
+    EXPECT_EQ(filesIn(league, "PlayoffTStats"), 24u);
+    for (TeamIndex team = 0; team < LeagueTeams; ++team) {
+        std::size_t players = 0;
+        for (const RosterRow& row : league.roster(team))
+            players += row.isEmpty() ? 0 : 1;
+        EXPECT_EQ(filesIn(league, "Profiles/" + std::string(TeamAbbr[team])), players + 1);
+        EXPECT_EQ(filesIn(league, "PlayoffProfiles/" + std::string(TeamAbbr[team])), players + 1);
+    }
+}
+
+TEST(GenerateWebpages, TheProgressNamesEveryStep) {
+    TestLeague league;
+
+    publish(league.app);
+
+    const auto& shown = league.platform.progressShown;
+    ASSERT_THAT(shown, Not(IsEmpty()));
+    EXPECT_EQ(shown.front().title, "Generating webpages");
+    EXPECT_EQ(shown.front().item, "Rankings");
+    EXPECT_EQ(shown.back().item, "PlayoffProfiles/WPG/");
+    EXPECT_EQ(shown.back().done + 1, shown.back().total);
+    EXPECT_EQ(shown.size(), static_cast<std::size_t>(shown.back().total));
+    EXPECT_FALSE(shown.front().cancellable);
+}
+
+TEST(GenerateWebpages, StandingsBearTheMarksOfTheirFirstTurn) {
+    TestLeague league;
+    league.app.state.SeasonLength = 11;
+    for (TeamIndex team = 0; team < LeagueTeams; ++team) {
+        TeamRecord record;
+        record.GP = 10;
+        record.Wins = team == BOS ? 10 : 0;
+        record.Points = 2 * record.Wins;
+        league.setRecord(team, PartOfYear::Season, record);
+    }
+
+    publish(league.app);
+
+    EXPECT_THAT(league.page("DivisionStandings.htm"),
+                HasSubstr("<tr><td><b>z</b></td><td><center><img src=\"./LogoMinis/BOS.gif\">"));
+    EXPECT_THAT(league.page("ConferenceStandings.htm"), HasSubstr("<b>z</b>"));
+}
+
+TEST(GenerateWebpages, ClosesTheWindowsThatTakePartAndLeavesTheOthersOpen) {
+    TestLeague league;
+    Windows& windows = league.app.windows();
+    for (const WindowId id : {WindowId::StatExtractor, WindowId::Rankings, WindowId::PlayerStats,
+                              WindowId::Standings, WindowId::PlayerProfiles})
+        windows.open(id);
+    std::vector<WindowId> closed;
+    windows.onUnload = [&closed](WindowId id) { closed.push_back(id); };
+
+    publish(league.app);
+
+    EXPECT_THAT(closed, testing::AllOf(Contains(WindowId::Rankings), Contains(WindowId::PlayerStats),
+                                       Contains(WindowId::Standings)));
+    EXPECT_FALSE(windows.isOpen(WindowId::Rankings));
+    EXPECT_TRUE(windows.isOpen(WindowId::StatExtractor));
+    EXPECT_TRUE(windows.isOpen(WindowId::PlayerProfiles));
+    EXPECT_GT(filesIn(league, "PStats"), 24u);
+}
+
+TEST(GenerateWebpages, LeavesPlayoffGamesInTheTeamTable) {
+    TestLeague league;
+    TeamRecord record;
+    record.GP = 40;
+    league.setRecord(BOS, PartOfYear::Season, record);
+    record.GP = 3;
+    league.setRecord(BOS, PartOfYear::Playoffs, record);
+
+    publish(league.app);
+
+    EXPECT_EQ(league.app.state.TeamLeaderTable[BOS][0], 3);
+}
+
+TEST(GenerateWebpages, LeavesEveryPageAloneWhenNothingHasChanged) {
+    TestLeague league;
+    publish(league.app);
+    const auto before = siteOf(league.files);
+    const int writes = league.files.writes;
+
+    publish(league.app);
+    EXPECT_EQ(league.files.writes, writes);
+    EXPECT_EQ(siteOf(league.files), before);
+
+    Roster roster = league.roster(BOS);
+    roster[3].Number += 1;
+    league.setRoster(BOS, roster);
+    publish(league.app);
+    const std::string page = "Profiles/BOS/" + roster[3].Name + ".htm";
+    EXPECT_NE(siteOf(league.files).at(page), before.at(page));
+    EXPECT_THAT(league.page("Profiles/BOS/index.htm"), HasSubstr(roster[3].Name));
+}
+
+TEST(GenerateWebpages, SeasonPagesShowAPlayersCardOrADefaultAndPlayoffPagesAlwaysHisOwn) {
+    TestLeague league;
+    Roster roster = league.roster(BOS);
+    roster[2].Name = "Has Card";
+    roster[3].Name = "Who/Knows: \"*\"";
+    roster[3].Position = "F";
+    std::erase(roster[3].Name, '"'); // the league's files cannot hold a double quote
+    league.setRoster(BOS, roster);
+    league.files.files[paths::page("PlayerCards/Has Card.gif")] = "GIF";
+    league.platform.randomNumber = 0.7;
+
+    publish(league.app);
+
+    const auto site = siteOf(league.files);
+    EXPECT_THAT(site.at("Profiles/BOS/Has Card.htm"), HasSubstr("PlayerCards/Has Card.gif\""));
+    EXPECT_THAT(site.at("Profiles/BOS/" + roster[0].Name + ".htm"), HasSubstr("PlayerCards/Goalie1.gif\""));
+    EXPECT_THAT(site.at("Profiles/BOS/Who_Knows_ _.htm"),
+                testing::AllOf(HasSubstr("PlayerCards/Skater2.gif\""), HasSubstr("Who/Knows: *")));
+    EXPECT_THAT(site.at("PlayoffProfiles/BOS/" + roster[0].Name + ".htm"),
+                HasSubstr("PlayerCards/" + roster[0].Name + ".gif\""));
+}
+
+TEST(GenerateWebpages, MakesAMissingTeamFolder) {
+    TestLeague league;
+    league.files.folders.erase("IcelineWebPages/Profiles/BOS");
+    league.files.folders.erase("IcelineWebPages/PlayoffProfiles/BOS");
+
+    publish(league.app);
+
+    EXPECT_THAT(league.files.filesIn("IcelineWebPages/Profiles/BOS"), Contains("index.htm"));
+    EXPECT_THAT(league.files.filesIn("IcelineWebPages/PlayoffProfiles/BOS"), Contains("index.htm"));
+}
+
+TEST(MissingTemplateFolders, AreNamedBeforeAnythingIsWritten) {
+    TestLeague league;
+    league.files.folders.erase("IcelineWebPages/Rankings");
+    league.files.folders.erase("IcelineWebPages/PlayoffPStats");
+    const auto before = siteOf(league.files);
+
+    EXPECT_EQ(failureOf(league.app), "IcelineWebPages: folders of the site's template are missing: Rankings, "
+                                     "PlayoffPStats (no page has been written)");
+
+    EXPECT_EQ(siteOf(league.files), before);
+    EXPECT_TRUE(league.app.state.ShowWindows);
+    EXPECT_THAT(league.said(), IsEmpty());
+}
+
+TEST(MissingTemplateFolders, ComeWithTheTemplateWhenThereIsNoSiteAtAll) {
+    TestLeague league;
+    std::erase_if(league.files.files,
+                  [](const auto& file) { return file.first.starts_with(paths::WebRoot); });
+    std::erase_if(league.files.folders, [](const auto& name) { return name.starts_with(paths::WebRoot); });
+
+    // What start-up makes of the site is missing, too: it is named as it is needed.
+    EXPECT_THAT(failureOf(league.app), HasSubstr("TStats"));
+    EXPECT_TRUE(league.files.isFile("IcelineWebPages/styles.css"));
+    EXPECT_TRUE(league.files.isFile("IcelineWebPages/index.htm"));
+}
+
+/// Files that cannot write one of them, and count how often each is read.
+class OneBadFile : public MemoryFiles {
+public:
+    explicit OneBadFile(const MemoryFiles& files) : MemoryFiles(files) {}
+
+    std::string read(const std::string& path) override {
+        ++timesRead[path];
+        return MemoryFiles::read(path);
+    }
+
+    void write(const std::string& path, std::string_view content, Durability durability) override {
+        if (path == bad)
+            throw FileError(path, "cannot be written: the disk is full");
+        MemoryFiles::write(path, content, durability);
+    }
+
+    std::string bad;
+    std::map<std::string, int> timesRead;
+};
+
+struct RunOn {
+    explicit RunOn(OneBadFile& files) : app(files, siteTemplate, platform) { app.state.ShowWindows = true; }
+
+    MemoryFiles siteTemplate = test::smallSiteTemplate();
+    test::TestPlatform platform;
+    Application app;
+};
+
+TEST(FailingRun, NamesThePageAndLeavesTheProgramAsItWas) {
+    TestLeague league;
+    for (const std::string page : {"Rankings/Teams3.php", "PStats/BOS_N4.php", "Profiles/BUF/index.htm"}) {
+        OneBadFile files(league.files);
+        files.bad = paths::page(page);
+        RunOn run(files);
+
+        EXPECT_EQ(failureOf(run.app), files.bad + ": cannot be written: the disk is full");
+
+        EXPECT_TRUE(run.app.state.ShowWindows) << page;
+        EXPECT_FALSE(files.isFile(files.bad));
+        EXPECT_EQ(run.platform.busyDepth, 0);
+        EXPECT_THAT(run.platform.said(), IsEmpty());
+    }
+}
+
+TEST(Run, ReadsEachDataFileOnce) {
+    TestLeague league;
+    OneBadFile files(league.files);
+    RunOn run(files);
+
+    publish(run.app);
+
+    for (const auto& [path, times] : files.timesRead)
+        if (!path.starts_with(paths::WebRoot + "/")) {
+            EXPECT_EQ(times, 1) << path;
+        }
+    EXPECT_THAT(files.timesRead, Contains(testing::Key("Boston Bruins/Players List.txt")));
+
+    // What has changed since is read anew by the next run.
+    publish(run.app);
+    EXPECT_EQ(files.timesRead.at("Boston Bruins/Players List.txt"), 2);
+}
+
+} // namespace
+} // namespace iceline
