@@ -4,6 +4,7 @@
 #include "desktop/Guard.h"
 #include "desktop/Pictures.h"
 #include "desktop/QtPlatform.h"
+#include "shell/WelcomeWindow.h"
 
 #include <QApplication>
 #include <QCloseEvent>
@@ -38,7 +39,9 @@ void WelcomeWindow::layOut() {
     side->addStretch();
     auto* publish = new QPushButton(QStringLiteral("Generate Webpages"), this);
     publish->setObjectName(QStringLiteral("Command1"));
-    publish->setEnabled(false);
+    connect(publish, &QPushButton::clicked, this, [this] {
+        guarded(this, [this] { iceline::WelcomeWindow(app_).Command1_Click(); });
+    });
     side->addWidget(publish);
     auto* exit = new QPushButton(QStringLiteral("E&xit"), this);
     exit->setObjectName(QStringLiteral("Command7"));

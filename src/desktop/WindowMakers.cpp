@@ -6,6 +6,7 @@
 #include "desktop/PlayerProfilesWindow.h"
 #include "desktop/PlayerStatsWindow.h"
 #include "desktop/PlayoffsWindow.h"
+#include "desktop/RankingsWindow.h"
 #include "desktop/StandingsWindow.h"
 #include "desktop/StatExtractorWindow.h"
 #include "desktop/TeamStatsWindow.h"
@@ -46,6 +47,9 @@ WindowMaker windowMaker(WindowId id) {
         return make<StandingsWindow, Standings>;
     case WindowId::Playoffs:
         return make<PlayoffsWindow, Playoffs>;
+    case WindowId::Rankings:
+    case WindowId::PlayoffRankings:
+        return make<RankingsWindow, Rankings>;
     default:
         return nullptr;
     }

@@ -1,0 +1,126 @@
+#include "desktop/RankingsWindow.h"
+
+#include "desktop/LeaderGrid.h"
+#include "desktop/QtPlatform.h"
+#include "desktop/TeamLeaderGrid.h"
+
+#include <QGroupBox>
+#include <QTabWidget>
+#include <QVBoxLayout>
+
+namespace iceline::desktop {
+
+namespace {
+
+constexpr int PlayerRows = 20;
+constexpr int TableWidth = 900; ///< room for the names
+constexpr int StarsWidth = 480;
+
+/// The labels of the figures, by column of the tables.
+constexpr std::array PlayerLabels{"LeagueLeaderGoals", "LeagueLeaderAssists", "LeagueLeaderPoints",
+                                  "LeagueLeaderPPG",   "LeagueLeaderSOG",     "LeagueLeaderSPct",
+                                  "LeagueLeaderPIM",   "LeagueLeaderGP",      "LeagueLeaderPR",
+                                  "LeagueLeaderSH",    "LeagueLeaderPP"};
+constexpr std::array GoalieLabels{"LeagueLeaderGGP",   "LeagueLeaderGW",         "LeagueLeaderGL",
+                                  "LeagueLeaderGT",    "LeagueLeaderGGAA",       "LeagueLeaderGSHO",
+                                  "LeagueLeaderGSPct", "LeagueLeaderGSF",        "LeagueLeaderGGA",
+                                  "LeagueLeaderGAst",  "LeagueLeaderGPowRanking"};
+constexpr std::array StarLabels{"LL3StarPts"};
+
+template <class Columns, std::size_t Count>
+LeaderGridForm playerForm(const char* numbers, const char* pictures, const char* names, const char* heads,
+                          const Columns& columns, const std::array<const char*, Count>& labels) {
+    static_assert(std::tuple_size_v<Columns> == Count);
+    LeaderGridForm form{numbers, pictures, names, heads, PlayerRows, {}, QStringLiteral("Name")};
+    for (int column = 0; column < static_cast<int>(Count); ++column)
+        form.columns.push_back({toQt(columns[column].caption),
+                                Count == 1 ? LeaderGridForm::SingleHead : column, column, labels[column]});
+    return form;
+}
+
+/// A page of the tabs: the frame with its title, which is a label of its own, and the table.
+QGroupBox* page(const char* frameName, const QString& caption, LeaderGrid* grid, const char* title = nullptr,
+                const char* prompt = nullptr) {
+    QGroupBox* box = frame(frameName, caption, nullptr);
+    auto* rows = new QVBoxLayout(box);
+    rows->setContentsMargins(8, 4, 8, 4);
+    auto* head = new QHBoxLayout;
+    if (title) {
+        QLabel* label = textLabel(QLatin1String(title), box);
+        label->setText(caption.toUpper());
+        label->setProperty("role", QStringLiteral("title"));
+        head->addWidget(label);
+    }
+    head->addStretch();
+    if (prompt) {
+        QLabel* label = headLabel(QStringLiteral("Click a Box to Sort  --->"), box);
+        label->setObjectName(QLatin1String(prompt));
+        head->addWidget(label);
+    }
+    rows->addLayout(head);
+    rows->addWidget(grid, 1);
+    return box;
+}
+
+QTabWidget* tabStrip(const char* name, QWidget* parent) {
+    auto* tabs = new QTabWidget(parent);
+    tabs->setObjectName(QLatin1String(name));
+    tabs->setDocumentMode(true);
+    return tabs;
+}
+
+void showTable(LeaderGrid& grid, const Rankings::Table& table, int headOfFirstColumn = 0) {
+    grid.show(table.rows, table.sort.column + headOfFirstColumn, table.sort.ascending);
+}
+
+} // namespace
+
+RankingsWindow::RankingsWindow(Application& application, WindowId id, Rankings& object)
+    : LeagueWindow(application, id), object_(object) {
+    teams_ = new LeaderGrid(
+        teamLeaderForm(), [this](int head) { run([&] { object_.tmLeadersCol_Click(head); }); }, this);
+    QTabWidget* tabs = tabStrip("SSTab1", this);
+    tabs->addTab(makeLeagueLeaders(), QStringLiteral("League Leaders"));
+    tabs->addTab(page("Frame3", QStringLiteral("Team League Leaders"), teams_),
+                 QStringLiteral("Team Leaders"));
+    auto* rows = new QVBoxLayout(this);
+    rows->setContentsMargins(10, 8, 10, 8);
+    rows->addWidget(tabs);
+    rows->addWidget(exitButton("Command2", this), 0, Qt::AlignRight);
+    follow(object_);
+}
+
+QWidget* RankingsWindow::makeLeagueLeaders() {
+    players_ = new LeaderGrid(
+        playerForm("Text1", "LeagueLeaderTeam", "LeagueLeaderName", "lColN", PlayerLeaderColumns,
+                   PlayerLabels),
+        [this](int head) { run([&] { object_.lColN_Click(head); }); }, this);
+    goalies_ = new LeaderGrid(
+        playerForm("Text2", "LeagueLeaderTeam2", "LeagueLeaderGName", "lColG", GoalieLeaderColumns,
+                   GoalieLabels),
+        [this](int head) { run([&] { object_.lColG_Click(head); }); }, this);
+    stars_ = new LeaderGrid(
+        playerForm("Text6", "LL3StarTeam", "LL3StarName", "ThreeStarSort", StarLeaderColumns, StarLabels),
+        [this](int) { run([&] { object_.ThreeStarSort_Click(); }); }, this);
+    players_->setMinimumWidth(TableWidth);
+    stars_->setMaximumWidth(StarsWidth);
+    QTabWidget* tabs = tabStrip("SSTab2", this);
+    tabs->addTab(page("Frame1", QStringLiteral("Player League Leaders"), players_, "Text9", "Text4"),
+                 QStringLiteral("Player League Leaders"));
+    tabs->addTab(page("Frame2", QStringLiteral("Goalie League Leaders"), goalies_, "Text8", "Text5"),
+                 QStringLiteral("Goalie League Leaders"));
+    tabs->addTab(page("ThreeStarRankings", QStringLiteral("Three Star Award Leaders"), stars_, "Text7"),
+                 QStringLiteral("Three Star Award Rankings"));
+    return tabs;
+}
+
+void RankingsWindow::refresh() {
+    const Rankings::Content& content = object_.content();
+    setWindowTitle(toQt(content.title));
+    showTable(*players_, content.players);
+    showTable(*goalies_, content.goalies);
+    showTable(*stars_, content.stars, LeaderGridForm::SingleHead);
+    showTable(*teams_, content.teams, 1);
+}
+
+} // namespace iceline::desktop
