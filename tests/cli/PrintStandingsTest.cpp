@@ -1,0 +1,93 @@
+#include "cli/WindowPrinters.h"
+#include "standings/PlayoffResult.h"
+#include "standings/Playoffs.h"
+#include "standings/Standings.h"
+#include "support/TestLeague.h"
+
+#include <gmock/gmock.h>
+
+#include <sstream>
+
+namespace iceline::cli {
+namespace {
+
+class PrintStandings : public testing::Test {
+protected:
+    PrintStandings() {
+        TeamRecord record;
+        for (TeamIndex team = 0; team < LeagueTeams; ++team) {
+            record.Points = LeagueTeams - team;
+            league.setRecord(team, PartOfYear::Season, record);
+        }
+    }
+
+    std::string print(WindowId id) {
+        std::ostringstream out;
+        league.app.windows().unload(id);
+        windowPrinter(id)(league.app.windows().use(id), out);
+        return out.str();
+    }
+
+    static std::size_t longestLine(const std::string& text) {
+        std::istringstream lines(text);
+        std::size_t longest = 0;
+        for (std::string line; std::getline(lines, line);)
+            longest = std::max(longest, line.size());
+        return longest;
+    }
+
+    test::TestLeague league;
+};
+
+TEST_F(PrintStandings, FourViewsFitTheTerminal) {
+    TeamRecord record = league.record(0);
+    record.HW = 3;
+    record.HL = 2;
+    record.HWinPercent = 0.6;
+    record.HGP = 5;
+    record.OtherConfW = 12;
+    record.OtherConfL = 4;
+    league.setRecord(0, PartOfYear::Season, record);
+    league.app.state.ClinchMark[0] = "x";
+    const std::string text = print(WindowId::Standings);
+    EXPECT_LE(longestLine(text), 100u);
+    EXPECT_THAT(text, testing::HasSubstr("   Adams Division         W  L  T  Pts.  GF  GA  GP\n"
+                                         "x  Boston Bruins          0  0  0    24   0   0   0\n"
+                                         "   Buffalo Sabres         0  0  0    23   0   0   0\n"));
+    EXPECT_THAT(text, testing::HasSubstr("\nBoston Bruins          3  2  0   0.6   5    Boston Bruins  "));
+    EXPECT_THAT(text, testing::HasSubstr("Boston Bruins                             0  0  0     0"
+                                         "                    12  4  0  0.75\n"));
+}
+
+TEST_F(PrintStandings, BracketLeadsWinnersToTheirPlaces) {
+    league.app.state.SeasonLength = -1;
+    print(WindowId::Playoffs);
+    auto& series = league.app.state.PlayoffSeries;
+    for (int game = 0; game < 4; ++game) {
+        recordResult(series, {0, true}, 2, 1);
+        recordResult(series, {1, true}, 1, 2);
+    }
+    recordResult(series, {8, true}, 2, 1);
+    league.files.files[paths::PlayoffRecords] = textOf(series);
+    const std::string text = print(WindowId::Playoffs);
+    EXPECT_LE(longestLine(text), 100u);
+    EXPECT_THAT(text, testing::StartsWith("Playoff Tree\n"
+                                          "\n"
+                                          "EASTERN CONFERENCE\n"
+                                          "\n"
+                                          "1  Boston Bruins          4 --+\n"
+                                          "                              +-- BOS 1 --+\n"
+                                          "8  Ottawa Senators        0 --+           |\n"
+                                          "                                          +-- ---   --+\n"
+                                          "4  Hartford Whalers       0 --+           |           |\n"
+                                          "                              +-- MTL 0 --+           |\n"
+                                          "5  Montreal Canadiens     4 --+                       |\n"
+                                          "                                                      +-- ---\n"
+                                          "3  Buffalo Sabres         0 --+                       |\n"));
+    EXPECT_THAT(text, testing::EndsWith("7  San Jose Sharks        0 --+\n"
+                                        "\n"
+                                        "Stanley Cup Champions: ---\n"));
+}
+
+} // namespace
+} // namespace iceline::cli
