@@ -27,6 +27,14 @@ struct BracketSlot {
     int place = 0; ///< first round: place among the conference's seeds, from 0
 };
 
+/// So many teams that are not yet known.
+template <std::size_t Count>
+constexpr std::array<TeamIndex, Count> blankTeams() {
+    std::array<TeamIndex, Count> teams{};
+    teams.fill(BlankTeam);
+    return teams;
+}
+
 /// The series in which a round of a conference begins; the final is both conferences' series of round 3.
 int firstSeriesOf(Conference conference, int round);
 

@@ -8,14 +8,6 @@
 
 namespace iceline {
 
-Playoffs::Content::Content() {
-    for (auto* teams : {&EastFirstRound, &WestFirstRound})
-        teams->fill(BlankTeam);
-    for (auto* teams : {&T1, &T2})
-        teams->fill(BlankTeam);
-    winner.fill(BlankTeam);
-}
-
 TeamIndex Playoffs::Content::team(Conference conference, const BracketSlot& slot) const {
     if (slot.round == 0)
         return (conference == Conference::Wales ? EastFirstRound : WestFirstRound)[slot.place];
