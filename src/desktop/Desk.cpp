@@ -25,7 +25,8 @@ void Desk::open(WindowId id) {
     QPointer<LeagueWindow>& window = windows_[static_cast<std::size_t>(id)];
     if (!window) {
         window = windowMaker(id)(app_, id, object);
-        window->adjustSize();
+        if (!window->testAttribute(Qt::WA_Resized))
+            window->adjustSize();
         centreOnScreen(*window);
     }
     window->show();

@@ -134,6 +134,7 @@ GameFiguresPanel::GameFiguresPanel(const QString& team, QGroupBox* frame)
         grid->addLayout(texts, row, 0);
         grid->setRowMinimumHeight(row++, FigureRowHeight);
     }
+    grid->setRowStretch(row, 1);
     setMinimumWidth(84);
 }
 
@@ -154,6 +155,7 @@ GameFigureCaptions::GameFigureCaptions(QWidget* parent) : QWidget(parent) {
         grid->addWidget(headLabel(QLatin1String(line.caption), this, Qt::AlignCenter), row, 0);
         grid->setRowMinimumHeight(row++, FigureRowHeight);
     }
+    grid->setRowStretch(row, 1);
 }
 
 } // namespace iceline::desktop

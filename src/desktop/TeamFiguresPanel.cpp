@@ -156,17 +156,20 @@ void TeamFiguresPanel::addAverages() {
 
 void TeamFiguresPanel::addCrowd(const QString& caption) {
     QGroupBox* box = frame("CrowdFrame", QStringLiteral("Crowd Meter Records:"), this);
-    auto* row = new QHBoxLayout(box);
-    row->addStretch();
-    QLabel* text17 = headLabel(caption, box);
+    auto* rows = new QVBoxLayout(box);
+    QLabel* text17 = headLabel(caption, box, Qt::AlignCenter);
     text17->setObjectName(QStringLiteral("Text17"));
-    row->addWidget(text17);
+    rows->addWidget(text17);
+    auto* meters = new QHBoxLayout;
+    meters->addStretch();
     for (const char* name : {"ArenaMeter", "LeagueMeter"}) {
-        row->addSpacing(16);
-        row->addWidget(figureLabel(QLatin1String(name), box));
-        row->addWidget(headLabel(QStringLiteral("dB"), box));
+        meters->addSpacing(14);
+        meters->addWidget(figureLabel(QLatin1String(name), box));
+        meters->addWidget(headLabel(QStringLiteral("dB"), box));
+        meters->addSpacing(14);
     }
-    row->addStretch();
+    meters->addStretch();
+    rows->addLayout(meters);
     grid_->addWidget(box, 4, 0, 1, 2);
 }
 
