@@ -16,10 +16,6 @@ Desk::~Desk() {
         delete window;
 }
 
-bool Desk::hasWindow(WindowId id) {
-    return windowMaker(id) != nullptr;
-}
-
 void Desk::open(WindowId id) {
     Window& object = WelcomeWindow(app_).List1_Click(id);
     QPointer<LeagueWindow>& window = windows_[static_cast<std::size_t>(id)];

@@ -19,9 +19,6 @@ public:
     explicit Desk(Application& application);
     ~Desk() override;
 
-    /// True when there is a window for that row of the catalogue.
-    static bool hasWindow(WindowId id);
-
     /// Opens the window of a row, or brings it to the front.
     void open(WindowId id);
 

@@ -39,9 +39,8 @@ void WelcomeWindow::layOut() {
     side->addStretch();
     auto* publish = new QPushButton(QStringLiteral("Generate Webpages"), this);
     publish->setObjectName(QStringLiteral("Command1"));
-    connect(publish, &QPushButton::clicked, this, [this] {
-        guarded(this, [this] { iceline::WelcomeWindow(app_).Command1_Click(); });
-    });
+    connect(publish, &QPushButton::clicked, this,
+            [this] { guarded(this, [this] { iceline::WelcomeWindow(app_).Command1_Click(); }); });
     side->addWidget(publish);
     auto* exit = new QPushButton(QStringLiteral("E&xit"), this);
     exit->setObjectName(QStringLiteral("Command7"));
@@ -57,8 +56,6 @@ QListWidget* WelcomeWindow::makeCatalogue() {
     for (const CatalogueRow& row : windowCatalogue()) {
         auto* entry = new QListWidgetItem(toQt(row.entry), list);
         entry->setData(Qt::UserRole, static_cast<int>(row.id));
-        if (!Desk::hasWindow(row.id))
-            entry->setFlags(Qt::NoItemFlags);
     }
     list->setMinimumHeight(list->sizeHintForRow(0) * list->count() + 2 * list->frameWidth());
     connect(list, &QListWidget::itemClicked, this, &WelcomeWindow::openRow);

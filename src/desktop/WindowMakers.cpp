@@ -50,9 +50,8 @@ WindowMaker windowMaker(WindowId id) {
     case WindowId::Rankings:
     case WindowId::PlayoffRankings:
         return make<RankingsWindow, Rankings>;
-    default:
-        return nullptr;
     }
+    return nullptr;
 }
 
 } // namespace iceline::desktop

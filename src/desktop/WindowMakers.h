@@ -6,7 +6,7 @@ namespace iceline::desktop {
 
 class LeagueWindow;
 
-/// Makes the window that shows a loaded window object. Null for a row whose window is not built.
+/// Makes the window that shows a loaded window object.
 using WindowMaker = LeagueWindow* (*)(Application&, WindowId, Window&);
 WindowMaker windowMaker(WindowId id);
 
