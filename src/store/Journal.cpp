@@ -39,7 +39,7 @@ void Journal::commit(const std::vector<Change>& changes) {
     append(changes);
     finish([&] {
         for (const Change& change : changes)
-            make(change);
+            makeChange(change, files_);
         if (alone || !inRun_ || length_ >= CheckpointBytes)
             checkpoint();
     });
@@ -68,7 +68,7 @@ Recovery Journal::recover() {
         for (const Change& change : changes) {
             if (change.kind == Kind::Write || change.kind == Kind::Extend)
                 files_.makeFolder(folderOf(change.path));
-            make(change);
+            makeChange(change, files_);
         }
         checkpoint();
     });
@@ -93,21 +93,6 @@ void Journal::dropScraps() {
             files_.remove(FileName);
     } catch (const FileError&) {
         return;
-    }
-}
-
-void Journal::make(const Change& change) {
-    switch (change.kind) {
-    case Kind::MakeFolder:
-        return files_.makeFolder(change.path);
-    case Kind::Write:
-        return files_.write(change.path, change.content, Durability::Later);
-    case Kind::Extend:
-        return files_.extend(change.path, change.length, change.content, Durability::Later);
-    case Kind::Remove:
-        return files_.remove(change.path);
-    case Kind::RemoveFolder:
-        return files_.removeFolder(change.path);
     }
 }
 

@@ -46,7 +46,6 @@ public:
 private:
     void append(const std::vector<Change>& changes);
     void dropScraps();
-    void make(const Change& change);
     void checkpoint();
 
     template <class Steps>

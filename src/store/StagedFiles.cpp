@@ -39,6 +39,21 @@ std::vector<std::string> overlay(std::vector<std::string> names, const std::stri
 
 } // namespace
 
+void makeChange(const Change& change, Files& files) {
+    switch (change.kind) {
+    case Change::Kind::MakeFolder:
+        return files.makeFolder(change.path);
+    case Change::Kind::Write:
+        return files.write(change.path, change.content, Durability::Later);
+    case Change::Kind::Extend:
+        return files.extend(change.path, change.length, change.content, Durability::Later);
+    case Change::Kind::Remove:
+        return files.remove(change.path);
+    case Change::Kind::RemoveFolder:
+        return files.removeFolder(change.path);
+    }
+}
+
 const StagedFiles::Staged* StagedFiles::staged(const std::string& path) const {
     const auto file = staged_.find(path);
     return file == staged_.end() ? nullptr : &file->second;

@@ -21,6 +21,9 @@ struct Change {
     friend bool operator==(const Change&, const Change&) = default;
 };
 
+/// Makes a change; Files::sync() brings it to the disk.
+void makeChange(const Change& change, Files& files);
+
 /// The files as one operation sees them: reads see what the operation has written, and nothing reaches the
 /// files beneath. However often an operation touches a file, the file beneath is read at most once and
 /// stands at most once in changes(). Files outside the league folder can be read and not written, and what is
