@@ -80,7 +80,7 @@ std::string knownCoach(Session& session, const std::string& name) {
 }
 
 void addCoachCommands(CLI::App& program, Call& call) {
-    CLI::App& coach = *program.add_subcommand("coach", "Look after the coaches");
+    CLI::App& coach = *program.add_subcommand("coach", "Look after the coaches")->group("Commands");
     coach.require_subcommand(1);
     addCommand(coach, call, "list", "List the coaches", listCoaches);
     const auto [add, added] = addCommand<std::string>(coach, call, "add", "Add a coach", addCoach);

@@ -28,7 +28,7 @@ template <class Arguments>
 std::pair<CLI::App*, std::shared_ptr<Arguments>>
 addCommand(CLI::App& parent, Call& call, const std::string& name, const std::string& description,
            Status (*action)(Session&, const Arguments&), Works works = Works::OnLeague) {
-    CLI::App* command = parent.add_subcommand(name, description);
+    CLI::App* command = parent.add_subcommand(name, description)->group("Commands");
     auto arguments = std::make_shared<Arguments>();
     command->callback([&call, arguments, action, works] {
         call.works = works;

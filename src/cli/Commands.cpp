@@ -27,7 +27,6 @@ std::string usageError(const CLI::App& program, const CLI::ParseError& error) {
 /// Everything that can be typed behind the program's name.
 void addAll(CLI::App& program, Call& call, LeagueChoice& choice) {
     program.get_formatter()->label("SUBCOMMAND", "COMMAND");
-    program.get_formatter()->label("Subcommands", "Commands");
     program.get_formatter()->label("Positionals", "Arguments");
     program.get_formatter()->label("REQUIRED", "");
     program.add_option("--league", choice.folder, "the league folder (default: the current folder)")

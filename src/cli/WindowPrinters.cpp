@@ -46,11 +46,12 @@ constexpr Row Printers[] = {
     {WindowId::Playoffs, printAs<Playoffs, printPlayoffs>},
 };
 
+static_assert(std::size(Printers) == WindowCount);
+
 } // namespace
 
 WindowPrinter windowPrinter(WindowId id) {
-    const auto row = std::ranges::find(Printers, id, &Row::id);
-    return row == std::end(Printers) ? nullptr : row->print;
+    return std::ranges::find(Printers, id, &Row::id)->print;
 }
 
 } // namespace iceline::cli

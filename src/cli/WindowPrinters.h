@@ -45,7 +45,7 @@ void printTeamList(const std::string& prompt, std::ostream& out);
 /// The game that was read last in the game window, which must hold one.
 void printGame(const StatExtractor& window, std::ostream& out);
 
-/// The function that prints a window of that kind, given the window; none where `open` does not know it yet.
+/// The function that prints a window of that kind, given the window.
 using WindowPrinter = void (*)(const Window&, std::ostream&);
 WindowPrinter windowPrinter(WindowId id);
 

@@ -1,4 +1,6 @@
 #include "CliTest.h"
+#include "cli/TextTable.h"
+#include "shell/Windows.h"
 #include "store/LeagueLock.h"
 
 #include <map>
@@ -119,7 +121,9 @@ TEST_F(CliTest, ArgumentsThatAreOffAreToldInOneLine) {
 TEST_F(CliTest, HelpListsTheCommandsAndDescribesOne) {
     const Outcome help = call({"help"});
     EXPECT_EQ(help.status, 0);
-    for (const char* command : {"init", "open", "close", "coach", "sample-games", "script", "help"})
+    for (const char* command :
+         {"init", "read", "import", "import-folder", "publish", "open", "close", "coach", "season-length",
+          "go-to-playoffs", "clear", "sample-games", "script", "help"})
         EXPECT_THAT(help.out, HasSubstr(std::string("\n  ") + command + " ")) << command;
     EXPECT_THAT(call({"help", "sample-games"}).out, HasSubstr("Usage: iceline sample-games [OPTIONS] DIR"));
     EXPECT_EQ(call({"coach", "--help"}).status, 0);
@@ -133,6 +137,17 @@ TEST_F(CliTest, SampleGamesNeedNoLeague) {
     EXPECT_EQ(call({"sample-games", games.string(), "--games", "2", "--seed", "8"}).status, 0);
     EXPECT_NE(contentsOf(games), first);
     EXPECT_EQ(contentsOf(league()).size(), 2u);
+}
+
+TEST_F(CliLeagueTest, EveryWindowOfTheCatalogueIsPrintedWithin100Columns) {
+    for (const CatalogueRow& row : windowCatalogue()) {
+        const Outcome outcome = iceline({"open", std::string(row.name)});
+        EXPECT_EQ(outcome.status, 0) << row.name << ": " << outcome.err;
+        EXPECT_NE(outcome.out, "") << row.name;
+        std::istringstream lines(outcome.out);
+        for (std::string line; std::getline(lines, line);)
+            EXPECT_LE(displayWidth(line), 100u) << row.name << ": " << line;
+    }
 }
 
 TEST_F(CliLeagueTest, AWindowThatDoesNotExistIsNamed) {
