@@ -3,6 +3,7 @@
 #include "shell/WelcomeWindow.h"
 #include "standings/StandingsSupport.h"
 #include "store/FileError.h"
+#include "support/ErrorMessage.h"
 #include "support/TestLeague.h"
 
 #include <gmock/gmock.h>
@@ -233,15 +234,6 @@ TEST_F(StandingsWindow, PagesBearTheMarksOfTheRunBefore) {
     EXPECT_THAT(row("ConferenceStandings.htm", "BUF"), StartsWith("<tr><center><td><b></b></td>"));
 }
 
-std::string errorOf(const std::function<void()>& action) {
-    try {
-        action();
-    } catch (const FileError& error) {
-        return error.what();
-    }
-    return "no error";
-}
-
 TEST_F(StandingsWindow, RecordThatCannotBeReadStopsTheUpdateAndChangesNothing) {
     TeamRecord record;
     record.Points = 2;
@@ -251,15 +243,15 @@ TEST_F(StandingsWindow, RecordThatCannotBeReadStopsTheUpdateAndChangesNothing) {
     set("BUF", record);
     record.PowerRanking = 327.68;
     set("CGY", record);
-    EXPECT_EQ(errorOf([&] { window.DivisionStandingsUpdate(); }),
+    EXPECT_EQ(errorMessage([&] { window.DivisionStandingsUpdate(); }),
               "Calgary Flames/Records.txt, line 1, item 12 (PowerRanking): 327.68 is more than the standings "
               "can hold");
     league.files.files["Calgary Flames/Records.txt"] = "1,2\r\n";
-    EXPECT_THAT(errorOf([&] { window.DivisionStandingsUpdate(); }),
+    EXPECT_THAT(errorMessage([&] { window.DivisionStandingsUpdate(); }),
                 StartsWith("Calgary Flames/Records.txt, line"));
-    EXPECT_THAT(errorOf([&] { window.HomeAwayStandingsUpdate(); }),
+    EXPECT_THAT(errorMessage([&] { window.HomeAwayStandingsUpdate(); }),
                 StartsWith("Calgary Flames/Records.txt, line"));
-    EXPECT_THAT(errorOf([&] { window.vsConfLoad(); }), StartsWith("Calgary Flames/Records.txt, line"));
+    EXPECT_THAT(errorMessage([&] { window.vsConfLoad(); }), StartsWith("Calgary Flames/Records.txt, line"));
     EXPECT_EQ(window.content().divisions[0].front().team, team("BOS"));
     EXPECT_EQ(league.app.state.AdamsOrder.front(), team("BOS"));
     EXPECT_EQ(league.app.state.StandingsTable[team("BUF")][3], 0);

@@ -2,9 +2,9 @@
 // its own, so that nothing of the machine is changed.
 
 #include "store/DiskFiles.h"
-#include "store/FileError.h"
 #include "store/Journal.h"
 #include "store/LeagueLock.h"
+#include "support/ErrorMessage.h"
 #include "support/TemporaryFolder.h"
 
 #include <gmock/gmock.h>
@@ -55,15 +55,6 @@ void inChild(const std::function<bool()>& body) {
     EXPECT_EQ(WEXITSTATUS(status), 0) << "see the failures above";
 }
 
-std::string messageOf(const std::function<void()>& action) {
-    try {
-        action();
-    } catch (const FileError& error) {
-        return error.what();
-    }
-    return "no error";
-}
-
 /// Mounts a small disk over the folder, which this process alone sees.
 bool mountSmallDisk(const fs::path& folder) {
 #ifdef __linux__
@@ -99,13 +90,13 @@ TEST_F(DiskFaultsTest, AFullDiskLeavesEverythingAsItWas) {
         files.write("BoxScores.htm", "game 1\n");
         const std::string big(100'000, 'x');
         for (const auto durability : {Durability::Now, Durability::Later, Durability::Unsynced}) {
-            EXPECT_EQ(messageOf([&] { files.write("Records.txt", big, durability); }),
+            EXPECT_EQ(errorMessage([&] { files.write("Records.txt", big, durability); }),
                       "Records.txt: cannot be written: the disk is full");
-            EXPECT_EQ(messageOf([&] { files.extend("BoxScores.htm", 7, big, durability); }),
+            EXPECT_EQ(errorMessage([&] { files.extend("BoxScores.htm", 7, big, durability); }),
                       "BoxScores.htm: cannot be written: the disk is full");
         }
         Journal journal(files);
-        EXPECT_EQ(messageOf([&] {
+        EXPECT_EQ(errorMessage([&] {
                       journal.commit({{Change::Kind::Write, "Records.txt", 0, big}});
                   }),
                   "Unfinished Changes.journal: cannot be written: the disk is full");
@@ -128,7 +119,7 @@ TEST_F(DiskFaultsTest, AChangeThatFoundNoRoomIsFinishedLater) {
         files.write("ballast", std::string(20'000, 'x'));
         const std::string page(24'000, 'p');
         Journal journal(files);
-        EXPECT_EQ(messageOf([&] {
+        EXPECT_EQ(errorMessage([&] {
                       journal.commit({{Change::Kind::Write, "page.htm", 0, page}});
                   }),
                   "page.htm: cannot be written: the disk is full. The change is noted in \"Unfinished "
@@ -149,14 +140,15 @@ TEST_F(DiskFaultsTest, AReadOnlyDiskIsReadAndNotWritten) {
         if (!makeReadOnly(folder.path()))
             return false;
         EXPECT_EQ(files.read("Records.txt"), "0,0");
-        EXPECT_EQ(messageOf([&] { files.write("Records.txt", "1,0"); }),
+        EXPECT_EQ(errorMessage([&] { files.write("Records.txt", "1,0"); }),
                   "Records.txt: cannot be written: the disk is read-only");
-        EXPECT_EQ(messageOf([&] { files.extend("Records.txt", 3, "x"); }),
+        EXPECT_EQ(errorMessage([&] { files.extend("Records.txt", 3, "x"); }),
                   "Records.txt: cannot be written: the disk is read-only");
-        EXPECT_EQ(messageOf([&] { files.remove("Records.txt"); }),
+        EXPECT_EQ(errorMessage([&] { files.remove("Records.txt"); }),
                   "Records.txt: cannot be removed: the disk is read-only");
-        EXPECT_EQ(messageOf([&] { files.makeFolder("BOS"); }), "BOS: cannot be made: the disk is read-only");
-        EXPECT_EQ(messageOf([&] { LeagueLock(folder.path(), "iceline"); }),
+        EXPECT_EQ(errorMessage([&] { files.makeFolder("BOS"); }),
+                  "BOS: cannot be made: the disk is read-only");
+        EXPECT_EQ(errorMessage([&] { LeagueLock(folder.path(), "iceline"); }),
                   "League in use.lock: the league folder cannot be written: the disk is read-only");
         return true;
     });
@@ -170,9 +162,9 @@ TEST_F(DiskFaultsTest, APartWrittenToTheLimitIsTakenBack) {
             return false;
         files.write("BoxScores.htm", "game 1\n");
         const std::string big(2000, 'x');
-        EXPECT_EQ(messageOf([&] { files.extend("BoxScores.htm", 7, big); }),
+        EXPECT_EQ(errorMessage([&] { files.extend("BoxScores.htm", 7, big); }),
                   "BoxScores.htm: cannot be written: it would be too large");
-        EXPECT_EQ(messageOf([&] { files.write("BoxScores.htm", big); }),
+        EXPECT_EQ(errorMessage([&] { files.write("BoxScores.htm", big); }),
                   "BoxScores.htm: cannot be written: it would be too large");
         EXPECT_EQ(files.read("BoxScores.htm"), "game 1\n");
         EXPECT_FALSE(fs::exists(folder.path() / "BoxScores.htm.new~"));
@@ -196,15 +188,15 @@ TEST_F(DiskFaultsTest, PermissionsAreKeptAndHeeded) {
     inChild([&] {
         if (geteuid() == 0 && seteuid(65534) != 0)
             return false;
-        EXPECT_EQ(messageOf([&] { files.read("secret.txt"); }),
+        EXPECT_EQ(errorMessage([&] { files.read("secret.txt"); }),
                   "secret.txt: cannot be read: permission denied");
-        EXPECT_EQ(messageOf([&] { files.write("fixed.txt", "y"); }),
+        EXPECT_EQ(errorMessage([&] { files.write("fixed.txt", "y"); }),
                   "fixed.txt: cannot be written: permission denied");
-        EXPECT_EQ(messageOf([&] { files.write("BOS/Records.txt", "y"); }),
+        EXPECT_EQ(errorMessage([&] { files.write("BOS/Records.txt", "y"); }),
                   "BOS/Records.txt: cannot be written: permission denied");
-        EXPECT_EQ(messageOf([&] { files.makeFolder("BOS/Post Season"); }),
+        EXPECT_EQ(errorMessage([&] { files.makeFolder("BOS/Post Season"); }),
                   "BOS/Post Season: cannot be made: permission denied");
-        EXPECT_EQ(messageOf([&] { LeagueLock(folder.path() / "BOS", "iceline"); }),
+        EXPECT_EQ(errorMessage([&] { LeagueLock(folder.path() / "BOS", "iceline"); }),
                   "League in use.lock: the league folder cannot be written: permission denied");
         EXPECT_EQ(files.read("fixed.txt"), "x");
         return true;
@@ -216,8 +208,8 @@ TEST_F(DiskFaultsTest, WhatIsNoRegularFileIsNeitherReadNorListed) {
     fs::create_symlink("nowhere", folder.path() / "dangling");
     fs::create_symlink("/etc/hostname", folder.path() / "Records.txt.new~");
     EXPECT_THAT(files.filesIn(""), IsEmpty());
-    EXPECT_EQ(messageOf([&] { files.read("pipe"); }), "pipe: cannot be read: it is not a regular file");
-    EXPECT_EQ(messageOf([&] { files.read("dangling"); }), "dangling: the file is missing");
+    EXPECT_EQ(errorMessage([&] { files.read("pipe"); }), "pipe: cannot be read: it is not a regular file");
+    EXPECT_EQ(errorMessage([&] { files.read("dangling"); }), "dangling: the file is missing");
     files.write("Records.txt", "0,0");
     EXPECT_TRUE(fs::is_regular_file(fs::symlink_status(folder.path() / "Records.txt")));
 }
@@ -234,11 +226,11 @@ TEST_F(DiskFaultsTest, ALockGoesWithItsProcess) {
     }
     while (!fs::exists(taken))
         std::this_thread::sleep_for(std::chrono::milliseconds(1));
-    EXPECT_THAT(messageOf([&] { LeagueLock(folder.path(), "iceline"); }),
+    EXPECT_THAT(errorMessage([&] { LeagueLock(folder.path(), "iceline"); }),
                 testing::HasSubstr("(process " + std::to_string(child) + " on "));
     kill(child, SIGKILL);
     waitpid(child, nullptr, 0);
-    EXPECT_EQ(messageOf([&] { LeagueLock(folder.path(), "iceline"); }), "no error");
+    EXPECT_EQ(errorMessage([&] { LeagueLock(folder.path(), "iceline"); }), "no error");
 }
 
 /// A program that is killed in the midst of commits has made each of them whole or not at all.

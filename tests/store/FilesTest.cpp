@@ -1,6 +1,6 @@
 #include "store/DiskFiles.h"
-#include "store/FileError.h"
 #include "store/StagedFiles.h"
+#include "support/ErrorMessage.h"
 #include "support/MemoryFiles.h"
 #include "support/TemporaryFolder.h"
 
@@ -56,15 +56,6 @@ struct NamedKind {
 
     friend void PrintTo(const NamedKind& kind, std::ostream* out) { *out << kind.name; }
 };
-
-std::string messageOf(const std::function<void()>& action) {
-    try {
-        action();
-    } catch (const FileError& error) {
-        return error.what();
-    }
-    return "no error";
-}
 
 class AllFiles : public testing::TestWithParam<NamedKind> {
 protected:
@@ -123,7 +114,7 @@ TEST_P(AllFiles, HaveFolders) {
     EXPECT_THAT(files.foldersIn("Teams"), ElementsAre("Boston"));
 
     files.write("Teams/Boston/Records.txt", "1");
-    EXPECT_EQ(messageOf([&] { files.removeFolder("Teams/Boston"); }),
+    EXPECT_EQ(errorMessage([&] { files.removeFolder("Teams/Boston"); }),
               "Teams/Boston: cannot be removed: the folder is not empty");
     files.remove("Teams/Boston/Records.txt");
     files.removeFolder("Teams/Boston/Post Season");
@@ -157,19 +148,19 @@ TEST_P(AllFiles, SayWhatIsMissing) {
     EXPECT_EQ(files.size("no.txt"), 0u);
     files.remove("no.txt");
     files.remove("no/no.txt");
-    EXPECT_EQ(messageOf([&] { files.read("no.txt"); }), "no.txt: the file is missing");
-    EXPECT_EQ(messageOf([&] { files.readFirst("no/no.txt", 9); }), "no/no.txt: the file is missing");
-    EXPECT_EQ(messageOf([&] { files.write("no/a.txt", ""); }),
+    EXPECT_EQ(errorMessage([&] { files.read("no.txt"); }), "no.txt: the file is missing");
+    EXPECT_EQ(errorMessage([&] { files.readFirst("no/no.txt", 9); }), "no/no.txt: the file is missing");
+    EXPECT_EQ(errorMessage([&] { files.write("no/a.txt", ""); }),
               "no/a.txt: cannot be written: its folder is missing");
-    EXPECT_EQ(messageOf([&] { files.extend("no/a.txt", 0, "x"); }),
+    EXPECT_EQ(errorMessage([&] { files.extend("no/a.txt", 0, "x"); }),
               "no/a.txt: cannot be written: its folder is missing");
-    EXPECT_EQ(messageOf([&] { files.filesIn("no"); }), "no: the folder is missing");
-    EXPECT_EQ(messageOf([&] { files.foldersIn("no"); }), "no: the folder is missing");
+    EXPECT_EQ(errorMessage([&] { files.filesIn("no"); }), "no: the folder is missing");
+    EXPECT_EQ(errorMessage([&] { files.foldersIn("no"); }), "no: the folder is missing");
 
     files.write("a.txt", "");
     files.remove("a.txt");
     EXPECT_FALSE(files.isFile("a.txt"));
-    EXPECT_EQ(messageOf([&] { files.read("a.txt"); }), "a.txt: the file is missing");
+    EXPECT_EQ(errorMessage([&] { files.read("a.txt"); }), "a.txt: the file is missing");
 }
 
 TEST_P(AllFiles, TellFilesFromFolders) {
@@ -179,11 +170,11 @@ TEST_P(AllFiles, TellFilesFromFolders) {
              [&] { files.read("folder"); }, [&] { files.readFirst("folder", 1); },
              [&] { files.write("folder", ""); }, [&] { files.extend("folder", 0, ""); },
              [&] { files.remove("folder"); }})
-        EXPECT_EQ(messageOf(use), "folder: is a folder, not a file");
+        EXPECT_EQ(errorMessage(use), "folder: is a folder, not a file");
     for (const auto& use : std::vector<std::function<void()>>{
              [&] { files.makeFolder("file"); }, [&] { files.removeFolder("file"); },
              [&] { files.filesIn("file"); }, [&] { files.foldersIn("file"); }})
-        EXPECT_EQ(messageOf(use), "file: is a file, not a folder");
+        EXPECT_EQ(errorMessage(use), "file: is a file, not a folder");
     EXPECT_EQ(files.read("file"), "text");
     EXPECT_THAT(files.filesIn(""), ElementsAre("file"));
 }
@@ -192,18 +183,18 @@ TEST_P(AllFiles, StayInTheLeagueFolder) {
     files.makeFolder("Coaches");
     for (const std::string path : {"../a.txt", "Coaches/../../a.txt", "..", "Coaches/.."}) {
         const std::string refused = path + ": leads out of the league folder";
-        EXPECT_EQ(messageOf([&] { files.read(path); }), refused);
-        EXPECT_EQ(messageOf([&] { files.isFile(path); }), refused);
-        EXPECT_EQ(messageOf([&] { files.isFolder(path); }), refused);
-        EXPECT_EQ(messageOf([&] { files.size(path); }), refused);
-        EXPECT_EQ(messageOf([&] { files.filesIn(path); }), refused);
-        EXPECT_EQ(messageOf([&] { files.remove(path); }), refused);
-        EXPECT_EQ(messageOf([&] { files.removeFolder(path); }), refused);
-        EXPECT_EQ(messageOf([&] { files.write(path, "x"); }), refused);
-        EXPECT_EQ(messageOf([&] { files.extend(path, 0, "x"); }), refused);
-        EXPECT_EQ(messageOf([&] { files.makeFolder(path); }), refused);
+        EXPECT_EQ(errorMessage([&] { files.read(path); }), refused);
+        EXPECT_EQ(errorMessage([&] { files.isFile(path); }), refused);
+        EXPECT_EQ(errorMessage([&] { files.isFolder(path); }), refused);
+        EXPECT_EQ(errorMessage([&] { files.size(path); }), refused);
+        EXPECT_EQ(errorMessage([&] { files.filesIn(path); }), refused);
+        EXPECT_EQ(errorMessage([&] { files.remove(path); }), refused);
+        EXPECT_EQ(errorMessage([&] { files.removeFolder(path); }), refused);
+        EXPECT_EQ(errorMessage([&] { files.write(path, "x"); }), refused);
+        EXPECT_EQ(errorMessage([&] { files.extend(path, 0, "x"); }), refused);
+        EXPECT_EQ(errorMessage([&] { files.makeFolder(path); }), refused);
     }
-    EXPECT_NE(messageOf([&] { files.write(std::string("a\0b", 3), "x"); }), "no error");
+    EXPECT_NE(errorMessage([&] { files.write(std::string("a\0b", 3), "x"); }), "no error");
     files.write("Coaches/..a..txt", "x");
     EXPECT_EQ(files.read("Coaches/..a..txt"), "x");
 }

@@ -1,0 +1,16 @@
+#include "support/ErrorMessage.h"
+
+#include "store/FileError.h"
+
+namespace iceline::test {
+
+std::string errorMessage(const std::function<void()>& action) {
+    try {
+        action();
+    } catch (const FileError& error) {
+        return error.what();
+    }
+    return "no error";
+}
+
+} // namespace iceline::test
