@@ -66,7 +66,8 @@ std::string PageFrame::text() const {
 }
 
 void writePage(Files& files, const std::string& path, std::string_view text) {
-    if (files.size(path) == text.size() && files.isFile(path) && files.read(path) == text)
+    const bool canBeSame = files.size(path) == text.size() && (!text.empty() || files.isFile(path));
+    if (canBeSame && files.read(path) == text)
         return;
     files.write(path, text, Durability::Unsynced);
 }

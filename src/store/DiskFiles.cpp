@@ -184,8 +184,14 @@ bool DiskFiles::isFolder(const std::string& path) {
 }
 
 std::uintmax_t DiskFiles::size(const std::string& path) {
-    return at(root_, path, Finding,
-              [](const fs::path& file) { return fs::is_regular_file(file) ? fs::file_size(file) : 0; });
+    return at(root_, path, Finding, [](const fs::path& file) -> std::uintmax_t {
+        std::error_code error;
+        const std::uintmax_t size = fs::file_size(file, error);
+        if (!error)
+            return size;
+        const bool isMissing = error == std::errc::no_such_file_or_directory;
+        return !isMissing && fs::is_regular_file(file) ? fs::file_size(file) : 0;
+    });
 }
 
 std::vector<std::string> DiskFiles::filesIn(const std::string& folder) {

@@ -3,17 +3,19 @@
 #include <array>
 #include <charconv>
 #include <cmath>
+#include <cstdint>
 
 namespace iceline {
 
 namespace {
 
 constexpr int SignificantDigits = 15;
+constexpr double FirstBeyondSignificantDigits = 1e15;
 
 /// Decimals that leave `value` its significant digits, 0 for values of that many digits or more.
 int decimalsFor(double value) {
     const double size = std::fabs(value);
-    const int wholeDigits = size == 0 ? 1 : static_cast<int>(std::floor(std::log10(size))) + 1;
+    const int wholeDigits = static_cast<int>(std::floor(std::log10(size))) + 1;
     return std::max(0, SignificantDigits - wholeDigits);
 }
 
@@ -53,8 +55,8 @@ std::string clockText(int seconds) {
 }
 
 std::string numberText(double value) {
-    if (value == 0)
-        return "0";
+    if (value == std::trunc(value) && std::fabs(value) < FirstBeyondSignificantDigits)
+        return std::to_string(static_cast<std::int64_t>(value));
     std::array<char, 400> buffer{};
     const auto end = std::to_chars(buffer.data(), buffer.data() + buffer.size(), value,
                                    std::chars_format::fixed, decimalsFor(value));
