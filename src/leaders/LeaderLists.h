@@ -28,8 +28,6 @@ struct LeaderList {
     bool startsWithFirstTurn = false;
 };
 
-inline constexpr int AllPlaces = LeagueTeams * RosterRows;
-
 /// The update step of the leader tables: the first `places` of the first `count` rows in the order of `sort`.
 LeaderList playerLeaders(const ApplicationState& state, int count, LeaderSort sort, int places);
 LeaderList goalieLeaders(const ApplicationState& state, int count, LeaderSort sort, int places);

@@ -3,6 +3,7 @@
 #include "leaders/LeaderTables.h"
 #include "shell/Application.h"
 #include "site/HomePages.h"
+#include "store/Selection.h"
 
 #include <algorithm>
 
@@ -19,13 +20,6 @@ std::string inCapitals(std::string text) {
         return c >= 'a' && c <= 'z' ? static_cast<char>(c - 'a' + 'A') : c;
     });
     return text;
-}
-
-/// A click on the head of a column: on another one it keeps the direction, on the same one it turns it.
-void clickColumn(int clicked, int& column, bool& ascending) {
-    if (clicked == column)
-        ascending = !ascending;
-    column = clicked;
 }
 
 } // namespace
@@ -123,17 +117,17 @@ void Rankings::put(const LeaderRowForm& form, Table& table, const LeaderList& li
 }
 
 void Rankings::tmLeadersCol_Click(int Index) {
-    clickColumn(Index - 1, TeamSortColumn, TeamSortAscending);
+    sortByClick(Index - 1, TeamSortColumn, TeamSortAscending);
     tmLeadersUpdate();
 }
 
 void Rankings::lColN_Click(int Index) {
-    clickColumn(Index, PlayerSortColumn, PlayerSortAscending);
+    sortByClick(Index, PlayerSortColumn, PlayerSortAscending);
     lgLeadersUpdateN();
 }
 
 void Rankings::lColG_Click(int Index) {
-    clickColumn(Index, GoalieSortColumn, GoalieSortAscending);
+    sortByClick(Index, GoalieSortColumn, GoalieSortAscending);
     lgLeadersUpdateG();
 }
 

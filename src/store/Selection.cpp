@@ -21,6 +21,12 @@ std::vector<int> selectionOrder(std::span<const int> values, Direction direction
     return selectionOrder(values, direction, static_cast<int>(values.size()));
 }
 
+void sortByClick(int clicked, int& column, bool& ascending) {
+    if (clicked == column)
+        ascending = !ascending;
+    column = clicked;
+}
+
 std::vector<int> naturalOrder(int count, bool reversed) {
     std::vector<int> order(count);
     std::iota(order.begin(), order.end(), 0);

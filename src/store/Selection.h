@@ -15,6 +15,10 @@ enum class Direction { HighestFirst, LowestFirst };
 std::vector<int> selectionOrder(std::span<const int> values, Direction direction, int places);
 std::vector<int> selectionOrder(std::span<const int> values, Direction direction);
 
+/// A click on the head of a column: on the one that sorts already it turns the direction round, on another it
+/// keeps it.
+void sortByClick(int clicked, int& column, bool& ascending);
+
 /// The natural order of `count` rows, or that order reversed: what a table without a sort column shows.
 std::vector<int> naturalOrder(int count, bool reversed);
 

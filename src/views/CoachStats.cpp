@@ -3,6 +3,7 @@
 #include "leaders/LeaderTables.h"
 #include "shell/Application.h"
 #include "site/PageFrame.h"
+#include "store/Selection.h"
 #include "views/CoachPages.h"
 #include "views/Coaches.h"
 
@@ -39,9 +40,7 @@ void CoachStats::tmLeadersUpdate() {
 }
 
 void CoachStats::tmLeadersCol_Click(int Index) {
-    if (Index - 1 == CoachSortColumn)
-        CoachSortAscending = !CoachSortAscending;
-    CoachSortColumn = Index - 1;
+    sortByClick(Index - 1, CoachSortColumn, CoachSortAscending);
     tmLeadersUpdate();
 }
 

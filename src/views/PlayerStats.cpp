@@ -3,6 +3,7 @@
 #include "shell/Application.h"
 #include "site/PageFrame.h"
 #include "store/Numbers.h"
+#include "store/Selection.h"
 #include "store/TeamFiles.h"
 
 namespace iceline {
@@ -49,13 +50,6 @@ std::string leadersText(const std::vector<PlayerStats::Leader>& leaders) {
     return page.text();
 }
 
-/// A second click on the column turns the direction round, another column keeps it.
-void sortBy(int Index, int& column, bool& ascending) {
-    if (Index == column)
-        ascending = !ascending;
-    column = Index;
-}
-
 } // namespace
 
 void PlayerStats::Form_Load() {
@@ -97,7 +91,7 @@ void PlayerStats::GoalieUpdate() {
 void PlayerStats::PlayerStatsN_Click(int Index) {
     if (PlayersTeamSelect == NotChosen)
         return;
-    sortBy(Index, SkaterSortColumn, SkaterSortAscending);
+    sortByClick(Index, SkaterSortColumn, SkaterSortAscending);
     SkaterUpdate();
     changed();
 }
@@ -105,7 +99,7 @@ void PlayerStats::PlayerStatsN_Click(int Index) {
 void PlayerStats::GPlayerStatsN_Click(int Index) {
     if (PlayersTeamSelect == NotChosen)
         return;
-    sortBy(Index, TeamGoalieSortColumn, TeamGoalieSortAscending);
+    sortByClick(Index, TeamGoalieSortColumn, TeamGoalieSortAscending);
     GoalieUpdate();
     changed();
 }

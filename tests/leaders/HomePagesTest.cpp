@@ -16,7 +16,6 @@ using test::teamRecord;
 using test::TestLeague;
 using testing::ElementsAre;
 using testing::HasSubstr;
-using testing::Not;
 
 constexpr TeamIndex BOS = 0;
 constexpr TeamIndex BUF = 1;

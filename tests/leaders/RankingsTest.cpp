@@ -13,7 +13,6 @@ using test::setSkater;
 using test::teamRecord;
 using test::TestLeague;
 using testing::ElementsAre;
-using testing::HasSubstr;
 using testing::IsEmpty;
 using testing::SizeIs;
 
