@@ -168,7 +168,7 @@ QLayout* StatExtractorWindow::makeFigures() {
     };
     awayFigures_ = add("Frame7", QStringLiteral("Away Team"), QStringLiteral("Team2"));
     auto* captions = new QVBoxLayout;
-    captions->setContentsMargins(0, 18, 0, 4);
+    captions->setContentsMargins(0, 22, 0, 4);
     captions->addWidget(new GameFigureCaptions(this));
     row->addLayout(captions);
     homeFigures_ = add("Frame5", QStringLiteral("Home Team"), QStringLiteral("Team1"));
