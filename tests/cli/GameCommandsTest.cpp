@@ -22,14 +22,14 @@ protected:
     }
 
     std::string game(int number) const {
-        return (games_.path() / ("game-000" + std::to_string(number) + ".gs0")).string();
+        return (games_.path() / ("game-000" + std::to_string(number) + ".gs0")).generic_string();
     }
 
     /// A save state that names a team outside the league.
     std::string strangeGame() const {
         const fs::path file = games_.path() / "strange.gs0";
         std::ofstream(file, std::ios::binary) << std::string(65536, '\x63');
-        return file.string();
+        return file.generic_string();
     }
 
     std::string gameNumber() const { return read("Overall Game Number.txt"); }
