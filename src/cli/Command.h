@@ -50,10 +50,12 @@ void addSeasonCommands(CLI::App& program, Call& call);
 void addSampleGamesCommand(CLI::App& program, Call& call);
 void addWindowCommands(CLI::App& program, Call& call);
 void addCoachCommands(CLI::App& program, Call& call);
+void addPreviewCommand(CLI::App& program, Call& call);
 void addScriptCommand(CLI::App& program, Call& call);
 void addHelpCommand(CLI::App& program, Call& call);
 
-/// Every command that a line of a script can hold: all but `script` itself.
+/// Every command that a line of a script can hold: all but `script` itself, and `preview`, which goes on
+/// until it is stopped.
 void addScriptableCommands(CLI::App& program, Call& call);
 
 /// Parses the words of a call. The call has no action when the words asked for help or the version, which is

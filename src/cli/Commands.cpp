@@ -34,6 +34,7 @@ void addAll(CLI::App& program, Call& call, LeagueChoice& choice) {
     program.add_flag("--yes", choice.yes, "answer the start-up question with OK");
     program.set_version_flag("--version", "iceline " ICELINE_VERSION);
     addScriptableCommands(program, call);
+    addPreviewCommand(program, call);
     addScriptCommand(program, call);
 }
 

@@ -2,6 +2,7 @@
 
 #include "shell/ProgramFolder.h"
 #include "shell/Startup.h"
+#include "store/LeaguePaths.h"
 
 namespace iceline::cli {
 
@@ -24,6 +25,10 @@ bool Session::start() {
     const bool started = startUp(league_->app);
     platform_.respondent = ConsolePlatform::Respondent::AlwaysOk;
     return started;
+}
+
+std::filesystem::path Session::siteFolder() const {
+    return fs::absolute(choice_.folder) / paths::WebRoot;
 }
 
 std::string absolutePath(const std::string& given) {

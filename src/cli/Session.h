@@ -35,6 +35,12 @@ public:
     /// Cancel. Throws UsageError when the league folder does not exist, and FileError.
     bool start();
 
+    /// Gives the league up, so that other programs may work on it while this one goes on.
+    void end() { league_.reset(); }
+
+    /// The folder of the site that the league publishes.
+    std::filesystem::path siteFolder() const;
+
     Console& console() { return console_; }
     std::ostream& out() { return console_.out; }
     ConsolePlatform& platform() { return platform_; }

@@ -9,6 +9,7 @@
 #include "shell/Startup.h"
 #include "store/DiskFiles.h"
 #include "store/LeagueLock.h"
+#include "store/LeaguePaths.h"
 
 #include <QApplication>
 
@@ -21,7 +22,7 @@ namespace {
 /// Splash window first, the main window behind it; ends the program when start-up does not succeed.
 class Start {
 public:
-    explicit Start(Application& application) : app_(application) {
+    Start(Application& application, PreviewServer& preview) : app_(application), preview_(preview) {
         splash_ = std::make_unique<SplashScreen>(app_.state, [this] { load(); });
         splash_->show();
     }
@@ -34,11 +35,12 @@ private:
             QApplication::exit(1);
             return;
         }
-        welcome_ = std::make_unique<WelcomeWindow>(app_);
+        welcome_ = std::make_unique<WelcomeWindow>(app_, preview_);
         welcome_->waitForSplash([this] { splash_->close(); });
     }
 
     Application& app_;
+    PreviewServer& preview_;
     std::unique_ptr<SplashScreen> splash_;
     std::unique_ptr<WelcomeWindow> welcome_;
 };
@@ -49,7 +51,8 @@ int runLeague(const std::filesystem::path& folder) {
     DiskFiles siteTemplate(siteTemplateFolder());
     QtPlatform platform;
     Application app(disk, siteTemplate, platform);
-    const Start start(app);
+    PreviewServer preview(folder / paths::WebRoot);
+    const Start start(app, preview);
     return QApplication::exec();
 }
 

@@ -8,6 +8,7 @@
 
 #include <QApplication>
 #include <QCloseEvent>
+#include <QDesktopServices>
 #include <QIcon>
 #include <QLabel>
 #include <QListWidget>
@@ -16,7 +17,8 @@
 
 namespace iceline::desktop {
 
-WelcomeWindow::WelcomeWindow(Application& application) : app_(application), desk_(application) {
+WelcomeWindow::WelcomeWindow(Application& application, PreviewServer& preview)
+    : app_(application), preview_(preview), desk_(application) {
     setObjectName(QStringLiteral("WelcomeWindow"));
     setWindowTitle(QStringLiteral("Welcome to the Iceline Scorebook 3.0 - Rinkstar Version"));
     setWindowIcon(QIcon(pictures::named("iceline")));
@@ -37,16 +39,21 @@ void WelcomeWindow::layOut() {
     picture->setAlignment(Qt::AlignCenter);
     side->addWidget(picture);
     side->addStretch();
-    auto* publish = new QPushButton(QStringLiteral("Generate Webpages"), this);
-    publish->setObjectName(QStringLiteral("Command1"));
-    connect(publish, &QPushButton::clicked, this,
+    connect(addButton(*side, QStringLiteral("Command1"), QStringLiteral("Generate Webpages")),
+            &QPushButton::clicked, this,
             [this] { guarded(this, [this] { iceline::WelcomeWindow(app_).Command1_Click(); }); });
-    side->addWidget(publish);
-    auto* exit = new QPushButton(QStringLiteral("E&xit"), this);
-    exit->setObjectName(QStringLiteral("Command7"));
-    connect(exit, &QPushButton::clicked, this, &QWidget::close);
-    side->addWidget(exit);
+    connect(addButton(*side, QStringLiteral("PreviewSite"), QStringLiteral("Preview Site")),
+            &QPushButton::clicked, this, &WelcomeWindow::previewSite);
+    connect(addButton(*side, QStringLiteral("Command7"), QStringLiteral("E&xit")), &QPushButton::clicked,
+            this, &QWidget::close);
     columns->addLayout(side);
+}
+
+QPushButton* WelcomeWindow::addButton(QLayout& layout, const QString& name, const QString& caption) {
+    auto* button = new QPushButton(caption, this);
+    button->setObjectName(name);
+    layout.addWidget(button);
+    return button;
 }
 
 QListWidget* WelcomeWindow::makeCatalogue() {
@@ -66,6 +73,17 @@ QListWidget* WelcomeWindow::makeCatalogue() {
 void WelcomeWindow::openRow(QListWidgetItem* row) {
     const auto id = static_cast<WindowId>(row->data(Qt::UserRole).toInt());
     guarded(this, [this, id] { desk_.open(id); });
+}
+
+void WelcomeWindow::previewSite() {
+    try {
+        const QUrl address = preview_.show();
+        if (!QDesktopServices::openUrl(address))
+            app_.platform().say("The site is shown to browsers on this machine at " +
+                                fromQt(address.toString()) + ".");
+    } catch (const PreviewError& error) {
+        app_.platform().say(error.what());
+    }
 }
 
 void WelcomeWindow::waitForSplash(std::function<void()> shown) {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "desktop/Desk.h"
+#include "desktop/PreviewServer.h"
 
 #include <QTimer>
 #include <QWidget>
@@ -11,13 +12,13 @@ class QPushButton;
 
 namespace iceline::desktop {
 
-/// The main window: the catalogue of the other windows, "Generate Webpages" and "E&xit". It waits hidden
-/// until the splash window has rolled its credits.
+/// The main window: the catalogue of the other windows, "Generate Webpages", "Preview Site" and "E&xit". It
+/// waits hidden until the splash window has rolled its credits.
 class WelcomeWindow : public QWidget {
     Q_OBJECT
 
 public:
-    explicit WelcomeWindow(Application& application);
+    WelcomeWindow(Application& application, PreviewServer& preview);
 
     Desk& desk() { return desk_; }
 
@@ -31,9 +32,14 @@ protected:
 private:
     void layOut();
     QListWidget* makeCatalogue();
+    QPushButton* addButton(QLayout& layout, const QString& name, const QString& caption);
     void openRow(QListWidgetItem* row);
 
+    /// Shows the site in the browser.
+    void previewSite();
+
     Application& app_;
+    PreviewServer& preview_;
     Desk desk_;
     QTimer timer1_;
 };

@@ -1,5 +1,4 @@
 #include "desktop/DesktopTest.h"
-#include "desktop/WelcomeWindow.h"
 #include "leaders/LeadersSupport.h"
 
 #include <QTabWidget>
@@ -89,14 +88,6 @@ TEST_F(RankingsWindowTest, OfThePlayoffsClosesByItsButton) {
     EXPECT_EQ(window.windowTitle(), QStringLiteral("Playoff Rankings"));
     click(window, "Command2");
     EXPECT_FALSE(league.app.windows().isLoaded(WindowId::PlayoffRankings));
-}
-
-TEST_F(RankingsWindowTest, TheMainWindowGeneratesTheWebpages) {
-    WelcomeWindow window(league.app);
-    click(window, "Command1");
-    EXPECT_THAT(league.said(), testing::ElementsAre("All Webpages have been generated and are located in the "
-                                                    "IcelineWebpages directory."));
-    EXPECT_TRUE(league.files.isFile("IcelineWebPages/index.htm"));
 }
 
 } // namespace
