@@ -7,6 +7,10 @@
 
 #include <gmock/gmock.h>
 
+#include <array>
+#include <functional>
+#include <map>
+
 namespace iceline::test {
 
 namespace {
@@ -176,36 +180,104 @@ TEST_F(OptionsTest, ClearsTheWholeLeagueButCoachesAndRosters) {
     EXPECT_EQ(league.files.files["League Records.txt"], "kept\r\n");
 }
 
-/// Every file operation of a whole clearing fails once: the league is as before or as after, never between.
-TEST_F(OptionsTest, AFailureLeavesTheLeagueWhole) {
-    playSomeGames();
-    const auto before = league.files.files;
-    window().ClearTeamSelect = AllTeamsEntry;
-    window().Command8_Click();
-    const auto after = league.files.files;
-    bool failed = true;
-    int walked = 0;
-    for (int n = 1; failed; ++n, ++walked) {
+/// Something that the window does to the league.
+struct Deed {
+    const char* name;
+    std::function<void(Options&)> done;
+    int leastUses; ///< of the disk; fewer would mean that the walk did not reach it
+};
+
+const std::array Deeds{
+    Deed{"create",
+         [](Options& window) {
+             window.NewC = "Cy";
+             window.Command1_Click();
+         },
+         20},
+    Deed{"rename",
+         [](Options& window) {
+             window.Combo1 = 0;
+             window.NewC = "Bea";
+             window.Command2_Click();
+         },
+         20},
+    Deed{"delete",
+         [](Options& window) {
+             window.Combo1 = 0;
+             window.DeleteCoach_Click();
+         },
+         10},
+    Deed{"clear coach",
+         [](Options& window) {
+             window.Combo1 = 0;
+             window.CoachTeam_Click();
+         },
+         10},
+    Deed{"season length",
+         [](Options& window) {
+             window.SeasonLength = "40";
+             window.EnterSeasonLength_Click();
+         },
+         5},
+    Deed{"go to the play-offs", [](Options& window) { window.GoToPlayoffs_Click(); }, 20},
+    Deed{"clear team",
+         [](Options& window) {
+             window.ClearTeamSelect = Boston;
+             window.Command8_Click();
+         },
+         20},
+    Deed{"clear league",
+         [](Options& window) {
+             window.ClearTeamSelect = AllTeamsEntry;
+             window.Command8_Click();
+         },
+         100},
+};
+
+class OptionsFaultsTest : public OptionsTest, public testing::WithParamInterface<FailingFiles::Failure> {
+protected:
+    using Contents = std::map<std::string, std::string>;
+
+    /// A run of the program in which the n-th use of the disk fails (0: none): true when it did. `found` is
+    /// the league at the next start.
+    bool fails(const Deed& deed, int n, Contents& found) {
         MemoryFiles files = league.files;
-        files.files = before;
         FailingFiles failing(files);
         TestPlatform platform;
         Application app(failing, league.siteTemplate, platform);
         app.state.ShowWindows = true;
         auto& options = static_cast<Options&>(app.windows().use(WindowId::Options));
-        options.ClearTeamSelect = AllTeamsEntry;
-        failing.failAt(n, FailingFiles::Failure::Crash);
+        failing.failAt(n, GetParam());
+        bool threw = false;
         try {
-            options.Command8_Click();
-            failed = false;
+            deed.done(options);
         } catch (const FileError&) {
-            failed = true;
+            threw = true;
         }
+        EXPECT_EQ(threw, failing.hasFailed()) << deed.name << ", use " << n << " failed unseen";
         Journal(files).recover();
-        EXPECT_TRUE(files.files == before || files.files == after) << "operation " << n;
+        found = files.files;
+        return threw;
     }
-    EXPECT_GT(walked, 100);
+};
+
+TEST_P(OptionsFaultsTest, LeaveTheLeagueAsBeforeOrAsAfterWhicheverUseOfTheDiskFails) {
+    playSomeGames();
+    const Contents before = league.files.files;
+    for (const Deed& deed : Deeds) {
+        Contents after;
+        fails(deed, 0, after);
+        ASSERT_NE(after, before) << deed.name;
+        Contents found;
+        int uses = 1;
+        for (; fails(deed, uses, found); ++uses)
+            EXPECT_TRUE(found == before || found == after) << deed.name << ", use " << uses;
+        EXPECT_GT(uses, deed.leastUses) << deed.name;
+    }
 }
+
+INSTANTIATE_TEST_SUITE_P(Faults, OptionsFaultsTest,
+                         testing::Values(FailingFiles::Failure::Once, FailingFiles::Failure::Crash));
 
 } // namespace
 
