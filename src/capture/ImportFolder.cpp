@@ -11,16 +11,27 @@ namespace iceline {
 
 namespace {
 
-/// Takes a step; the file error that it ends with, none when it goes well.
-template <class Step>
-std::exception_ptr failureOf(Step step) {
-    try {
-        step();
-    } catch (const FileError&) {
-        return std::current_exception();
+/// Takes steps that are worth taking whatever became of the ones before, and keeps the first file error.
+class Steps {
+public:
+    template <class Step>
+    void take(Step step) {
+        try {
+            step();
+        } catch (const FileError&) {
+            if (!failure_)
+                failure_ = std::current_exception();
+        }
     }
-    return nullptr;
-}
+
+    void rethrowFailure() const {
+        if (failure_)
+            std::rethrow_exception(failure_);
+    }
+
+private:
+    std::exception_ptr failure_;
+};
 
 /// The import of the files of a folder, one after the other.
 class FolderRun {
@@ -35,13 +46,12 @@ public:
     FolderRun(const FolderRun&) = delete;
     FolderRun& operator=(const FolderRun&) = delete;
 
-    /// The file error that ended the run, none when it went through. What was imported until then stays.
-    std::exception_ptr run() {
+    /// What was imported until a file error stays.
+    void run(Steps& steps) {
         const BusyPointer busy(app_.platform());
         app_.journal().beginRun();
-        const auto failure = failureOf([this] { importFiles(); });
-        const auto failureAtEnd = failureOf([this] { app_.journal().endRun(); });
-        return failure ? failure : failureAtEnd;
+        steps.take([this] { importFiles(); });
+        steps.take([this] { app_.journal().endRun(); });
     }
 
 private:
@@ -88,12 +98,14 @@ void StatExtractor::ImportFolder_Click() {
     const std::string question = "Are you sure you want import all files in " + *folder + "?";
     if (app_.platform().ask({question, Buttons::YesNo, "Import"}) != Answer::Yes)
         return;
-    const std::exception_ptr failure = FolderRun(app_, *this, *folder).run();
+    Steps steps;
+    FolderRun(app_, *this, *folder).run(steps);
     app_.platform().say(std::to_string(ImportCount) + " Files imported");
-    if (failure)
-        std::rethrow_exception(failure);
-    app_.windows().standings().DivisionStandingsUpdate();
-    updateStandings();
+    steps.take([this] {
+        app_.windows().standings().DivisionStandingsUpdate();
+        updateStandings();
+    });
+    steps.rethrowFailure();
 }
 
 } // namespace iceline

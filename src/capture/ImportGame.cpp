@@ -37,6 +37,11 @@ void keepGameNumber(Application& app, int number) {
     }
 }
 
+/// Whether a list can hold the name of the game's page, which is the save state's.
+bool canBeListed(const std::string& saveState) {
+    return saveState.find_first_of("\"\r\n", saveState.rfind('/') + 1) == std::string::npos;
+}
+
 std::string seasonCompleted(const std::string& teams, const std::string& verb) {
     return "Cannot import file because " + teams + " " + verb +
            " completed the regular season\nTo change the season length check the options window from the "
@@ -86,6 +91,8 @@ std::optional<Refusal> GameInHand::import() {
 std::optional<Refusal> GameInHand::refusal(const SaveState& save) {
     if (const auto wrong = save.refusal())
         return Refusal{*wrong};
+    if (!canBeListed(app_.state.SaveStatePath))
+        return Refusal{"Cannot import file because its name holds a double quote or a line end."};
     takeTeams(save);
     if (auto seasonOver = seasonRefusal())
         return seasonOver;

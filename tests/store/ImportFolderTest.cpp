@@ -1,3 +1,4 @@
+#include "standings/Standings.h"
 #include "store/FileError.h"
 #include "store/ImportLeague.h"
 
@@ -161,6 +162,26 @@ TEST_F(ImportFolder, AFileErrorEndsTheRunAndKeepsWhatWasImported) {
     EXPECT_EQ(gameNumber(), 2);
     EXPECT_EQ(window().ImportMode, 0);
     EXPECT_FALSE(files().isFile(Journal::FileName)) << "the run was brought to its end";
+}
+
+TEST_F(ImportFolder, TheStandingsCountTheGamesBeforeAFileError) {
+    save("Games/1.gs0", lovelyGame());
+    save("Games/2.gs0", GameSheet(3, 4));
+    files().files["Chicago Blackhawks/Player Stats.txt"] = "torn";
+    EXPECT_THROW(run(), FileError);
+    int games = 0;
+    for (const DivisionRows& division : league.app.windows().standings().content().divisions)
+        for (const StandingsRow& row : division)
+            games += row.GP;
+    EXPECT_EQ(games, 2) << "one for each of two teams";
+}
+
+TEST_F(ImportFolder, AGameWhosePageNoListCanNameIsRefused) {
+    save("Games/1 \"final\".gs0", lovelyGame());
+    save("Games/2.gs0", lovelyGame());
+    run();
+    EXPECT_EQ(league.said()[1], "Cannot import file because its name holds a double quote or a line end.");
+    EXPECT_EQ(lastSaid(), "1 Files imported");
 }
 
 } // namespace
