@@ -1,6 +1,6 @@
 # What every target of ours is compiled with.
 add_library(iceline_warnings INTERFACE)
-target_compile_options(iceline_warnings INTERFACE -Wall -Wextra -Wpedantic -Wshadow=local -Wconversion
+target_compile_options(iceline_warnings INTERFACE -Wall -Wextra -Wpedantic $<IF:$<CXX_COMPILER_ID:GNU>,-Wshadow=local,-Wshadow> -Wconversion
     -Wno-sign-conversion -Wnon-virtual-dtor -Woverloaded-virtual -Wold-style-cast)
 # GCC 12 takes some sums of texts for overlapping copies once it optimises.
 if(CMAKE_CXX_COMPILER_ID STREQUAL GNU AND CMAKE_CXX_COMPILER_VERSION VERSION_LESS 13)
