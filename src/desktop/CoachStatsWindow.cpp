@@ -84,6 +84,8 @@ QWidget* CoachStatsWindow::makeRanking() {
         rankingForm(object_.content().coaches),
         [this](int head) { run([this, head] { object_.tmLeadersCol_Click(head); }); }, area);
     area->setWidget(ranking_);
+    ranking_->setAutoFillBackground(false);
+    area->viewport()->setAutoFillBackground(false); // the frame's white shows through
     rows->addWidget(area);
     return box;
 }

@@ -33,6 +33,7 @@ void WelcomeWindow::layOut() {
     columns->addWidget(makeCatalogue(), 1);
 
     auto* side = new QVBoxLayout;
+    side->setSpacing(12);
     auto* picture = new QLabel(this);
     picture->setObjectName(QStringLiteral("Picture1"));
     picture->setPixmap(pictures::named("league-logo"));
