@@ -153,5 +153,11 @@ def write_gif(image, path):
     colours.save(path, "GIF", transparency=GIF_COLOURS, optimize=False)
 
 
+def write_ico(images, path):
+    """Writes an icon file of square images, the largest last."""
+    _make_folder(path)
+    images[-1].save(path, "ICO", sizes=[image.size for image in images], append_images=images[:-1])
+
+
 def _make_folder(path):
     Path(path).parent.mkdir(parents=True, exist_ok=True)

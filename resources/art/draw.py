@@ -15,9 +15,10 @@ from pathlib import Path
 import figures
 import icon
 import pictures
-from canvas import write_gif, write_png
+from canvas import write_gif, write_ico, write_png
 
 RESOURCES = Path(__file__).resolve().parent.parent
+FAVICON_SIZES = (16, 32, 48)
 ICON_SIZES = (16, 22, 24, 32, 48, 64, 128, 256)
 LOGO, BIG_LOGO = 96, 160
 
@@ -57,6 +58,8 @@ def draw_site(teams, site):
             write_gif(pictures.mini_logo(team), site / "LogoMinis" / file)
     for name in figures.FIGURES:
         write_gif(figures.card(name), site / "PlayerCards" / f"{name}.gif")
+    write_ico([icon.png(size) for size in FAVICON_SIZES], site / "favicon.ico")
+    (site / "favicon.svg").write_text(icon.svg())
 
 
 def window_pictures(teams):
