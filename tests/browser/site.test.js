@@ -53,44 +53,48 @@ const SORTED = ['LeagueLeaders.htm', 'PlayoffLeagueLeaders.htm', 'PStats/index.p
 const browser = await launch();
 after(() => browser.close());
 
-/** The table as it stands: how its columns say that they are sorted, with the arrow, and the texts of its rows. */
+/** The table as it stands: which columns say that they are sorted, how, with which arrow, and the texts of its rows. */
 const tableOnView = (table) => table.evaluate((element) => ({
-  sorted: [...element.querySelectorAll('th[aria-sort]')].map((head) =>
-    [head.textContent, head.ariaSort, getComputedStyle(head.firstElementChild, '::before').content]),
+  sorted: [...element.querySelectorAll('th[aria-sort]')].map((head) => ({
+    caption: head.textContent,
+    direction: head.ariaSort,
+    arrow: getComputedStyle(head.firstElementChild, '::before').content[1],
+  })),
   rows: [...element.tBodies[0].rows].map((row) =>
     [...row.cells].map((cell) => cell.textContent.trim() || cell.dataset.team || '')),
 }));
 
-const ARROWS = {descending: '▼', ascending: '▲'};
-
-/** Asserts that the figures of a column stand in order, and gives its values, each run of equal ones once. */
-function orderOfColumn({sorted, rows}, column) {
-  const [[caption, direction, arrow]] = sorted;
-  assert.equal(sorted.length, 1);
-  assert.match(arrow, new RegExp(ARROWS[direction]));
+/**
+ * Clicks a head. Asserts that its column, and no other, is then sorted in `direction`, by its arrow, by the address and
+ * by its figures, and gives the column's values, each run of equal ones once.
+ */
+async function sortBy(page, table, head, direction) {
+  await head.getByRole('link').click();
+  await page.waitForFunction(() => !document.querySelector('[aria-busy]'));
+  const [{column, caption, orders}, id] = await Promise.all([
+    head.evaluate((cell) => ({column: cell.cellIndex, caption: cell.textContent, orders: {...cell.dataset}})),
+    table.getAttribute('id'),
+  ]);
+  const {sorted, rows} = await tableOnView(table);
+  assert.deepEqual(sorted, [{caption, direction, arrow: {descending: '▼', ascending: '▲'}[direction]}]);
+  assert.equal(new URL(page.url()).searchParams.get(id), orders[direction], page.url());
   const values = rows.map((cells) => cells[column]);
   assert.ok(values.length > 1, `${values.length} rows by ${caption}`);
   assertOrder(values, direction, caption);
   return runs(values);
 }
 
-/** Clicks a head and waits for its rows. */
-async function sortBy(page, table, head) {
-  await head.getByRole('link').click();
-  await page.waitForFunction(() => !document.querySelector('[aria-busy]'));
-  return tableOnView(table);
-}
-
-/** Sorts every table of a page by its first head, both ways round. Its address then leads to the same tables. */
+/** Sorts every table of a page by a figure, both ways round. Its address then leads to the same tables. */
 async function checkSorting(page) {
   const tablesOf = (shown) => shown.locator('table:has(th[data-descending])').all();
   const tables = await tablesOf(page);
   assert.ok(tables.length > 1);
   for (const table of tables) {
-    const head = table.locator('th[data-descending]').first();
-    const column = await head.evaluate((cell) => cell.cellIndex);
-    const first = orderOfColumn(await sortBy(page, table, head), column);
-    assert.deepEqual(orderOfColumn(await sortBy(page, table, head), column), first.reverse());
+    const head = table.locator('th[data-descending]:not([data-ascending-first])').first();
+    const [first, second] = await head.getAttribute('aria-sort') ? ['ascending', 'descending'] :
+      ['descending', 'ascending'];
+    const values = await sortBy(page, table, head, first);
+    assert.deepEqual(await sortBy(page, table, head, second), values.reverse());
   }
   const again = await visit(browser, page.url());
   for (const [i, table] of (await tablesOf(again)).entries()) {
@@ -154,7 +158,7 @@ function checkSite(open, url, look) {
 
   test('an order that no head has is not looked for', async () => {
     const page = await open('LeagueLeaders.htm?players=../Teams0&goalies=99');
-    const {sorted: [[caption, direction]]} = await tableOnView(page.locator('#players'));
+    const {sorted: [{caption, direction}]} = await tableOnView(page.locator('#players'));
     assert.deepEqual([caption, direction], ['Pts.', 'descending']);
     assert.deepEqual(page.faults, []);
     await page.close();
