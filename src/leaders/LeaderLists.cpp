@@ -16,6 +16,7 @@ std::vector<int> orderOf(std::span<const LeaderRow<Columns>> rows, LeaderSort so
         order = naturalOrder(static_cast<int>(rows.size()), sort.ascending);
     } else {
         std::vector<int> values;
+        values.reserve(rows.size());
         for (const LeaderRow<Columns>& row : rows)
             values.push_back(row.values.at(sort.column));
         order =
@@ -29,6 +30,7 @@ template <class Stats, std::size_t Columns>
 std::vector<std::string> shownFigures(const std::array<LeaderColumn<Stats>, Columns>& columns,
                                       const std::array<int, Columns>& values) {
     std::vector<std::string> figures;
+    figures.reserve(Columns);
     for (std::size_t column = 0; column < Columns; ++column)
         figures.push_back(numberText(static_cast<double>(values[column]) / columns[column].scale));
     return figures;
@@ -40,6 +42,7 @@ LeaderList listOf(const std::array<LeaderColumn<Stats>, Columns>& columns,
                   bool (*isShown)(const LeaderRow<Columns>&)) {
     const std::vector<int> order = orderOf(rows, sort, places);
     LeaderList list;
+    list.lines.reserve(order.size());
     list.startsWithFirstTurn = !order.empty() && isShown(rows[order.front()]);
     for (const int place : order) {
         const LeaderRow<Columns>& row = rows[place];

@@ -139,7 +139,7 @@ void Rankings::ThreeStarSort_Click() {
 void Rankings::writeFragment(const std::string& name) {
     const std::string folder = part_ == PartOfYear::Season ? "Rankings/" : "PlayoffRankings/";
     writePage(app_.files(), paths::page(folder + name + ".php"), page_.text());
-    page_ = {};
+    page_.clear();
 }
 
 // A fragment's number stands for its order: from 0 the columns with the highest value first, behind them the
@@ -202,7 +202,7 @@ void Rankings::writeHomePage() {
     page_.add(homePageEnd());
     HomePageMode = false;
     writePage(app_.files(), paths::page(season ? "index.htm" : "Playoffs.htm"), page_.text());
-    page_ = {};
+    page_.clear();
 }
 
 } // namespace iceline

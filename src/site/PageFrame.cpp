@@ -66,10 +66,8 @@ std::string PageFrame::text() const {
 }
 
 void writePage(Files& files, const std::string& path, std::string_view text) {
-    const bool canBeSame = files.size(path) == text.size() && (!text.empty() || files.isFile(path));
-    if (canBeSame && files.read(path) == text)
-        return;
-    files.write(path, text, Durability::Unsynced);
+    if (!files.holds(path, text))
+        files.write(path, text, Durability::Unsynced);
 }
 
 } // namespace iceline

@@ -18,6 +18,9 @@ public:
     /// Adds text and ends the line.
     PageText& line(std::string_view text = "");
 
+    /// Begins anew, in the room that the text has taken.
+    void clear() { text_.clear(); }
+
     const std::string& text() const { return text_; }
 
 private:

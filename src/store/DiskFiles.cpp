@@ -45,17 +45,24 @@ auto at(const fs::path& root, const std::string& path, const Task& task, Action 
     }
 }
 
-void replaceFile(const fs::path& file, std::string_view content, bool synced) {
+/// A file is written beside its place and then moved there, so that nobody finds a part of it. One that is
+/// new and need not outlast a power cut goes into its place at once, since nothing can be lost there.
+void replaceFile(const fs::path& file, std::string_view content, Durability durability) {
+    const bool synced = durability == Durability::Now;
+    const bool inPlace = durability == Durability::Unsynced && !fs::exists(fs::symlink_status(file));
     fs::path fresh = file;
-    fresh += DiskFiles::TemporarySuffix;
+    if (!inPlace)
+        fresh += DiskFiles::TemporarySuffix;
     try {
         OpenFile out(fresh, Purpose::Create);
-        out.takePermissions(file);
+        if (!inPlace)
+            out.takePermissions(file);
         out.write(content);
         if (synced)
             out.sync();
         out.close();
-        disk::require(disk::rename(fresh, file));
+        if (!inPlace)
+            disk::require(disk::rename(fresh, file));
     } catch (const std::system_error&) {
         std::error_code ignored;
         fs::remove(fresh, ignored);
@@ -113,9 +120,16 @@ std::string DiskFiles::readFirst(const std::string& path, std::size_t limit) {
               [&](const fs::path& file) { return OpenFile(file, Purpose::Read).read(limit); });
 }
 
+bool DiskFiles::holds(const std::string& path, std::string_view content) {
+    return at(root_, path, Reading, [&](const fs::path& place) {
+        const int handle = disk::open(place, Purpose::Read);
+        return handle >= 0 && OpenFile(handle).holds(content);
+    });
+}
+
 void DiskFiles::write(const std::string& path, std::string_view content, Durability durability) {
     at(root_, path, Writing, [&](const fs::path& file) {
-        replaceFile(file, content, durability == Durability::Now);
+        replaceFile(file, content, durability);
         if (durability != Durability::Later)
             return;
         unsyncedFiles_.insert(file.native());

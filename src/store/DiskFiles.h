@@ -23,6 +23,7 @@ public:
 
     std::string read(const std::string& path) override;
     std::string readFirst(const std::string& path, std::size_t limit) override;
+    bool holds(const std::string& path, std::string_view content) override;
     void write(const std::string& path, std::string_view content, Durability durability) override;
     void extend(const std::string& path, std::uintmax_t length, std::string_view content,
                 Durability durability) override;

@@ -50,6 +50,10 @@ bool hasZero(const std::string& path) {
 
 } // namespace
 
+bool Files::holds(const std::string& path, std::string_view content) {
+    return size(path) == content.size() && isFile(path) && read(path) == content;
+}
+
 bool isInLeague(const std::string& path) {
     return !hasRoot(path) && !climbs(path) && !hasZero(path);
 }

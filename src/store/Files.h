@@ -28,8 +28,11 @@ public:
     /// The first `limit` bytes of a file, or all of it when it is shorter.
     virtual std::string readFirst(const std::string& path, std::size_t limit) = 0;
 
+    /// Whether there is a file of exactly that content.
+    virtual bool holds(const std::string& path, std::string_view content);
+
     /// Makes `content` the content of the file, new or not. A reader sees the old content or the new one,
-    /// never a part. The folder must exist.
+    /// never a part; only a file that is new and Unsynced can be seen while it grows. The folder must exist.
     virtual void write(const std::string& path, std::string_view content,
                        Durability durability = Durability::Now) = 0;
 

@@ -1,9 +1,11 @@
 #include "store/Numbers.h"
 
+#include <algorithm>
 #include <array>
 #include <charconv>
 #include <cmath>
 #include <cstdint>
+#include <string_view>
 
 namespace iceline {
 
@@ -17,6 +19,12 @@ int decimalsFor(double value) {
     const double size = std::fabs(value);
     const int wholeDigits = static_cast<int>(std::floor(std::log10(size))) + 1;
     return std::max(0, SignificantDigits - wholeDigits);
+}
+
+int significantDigits(std::string_view text) {
+    const auto first = text.find_first_of("123456789");
+    const auto digits = text.substr(std::min(first, text.size()));
+    return static_cast<int>(digits.size() - std::ranges::count(digits, '.'));
 }
 
 void dropTrailingZeros(std::string& text) {
@@ -57,9 +65,14 @@ std::string clockText(int seconds) {
 std::string numberText(double value) {
     if (value == std::trunc(value) && std::fabs(value) < FirstBeyondSignificantDigits)
         return std::to_string(static_cast<std::int64_t>(value));
-    std::array<char, 400> buffer{};
-    const auto end = std::to_chars(buffer.data(), buffer.data() + buffer.size(), value,
-                                   std::chars_format::fixed, decimalsFor(value));
+    std::array<char, 400> buffer;
+    char* const last = buffer.data() + buffer.size();
+    // The shortest text that stands for the value is the one sought, unless it needs more digits.
+    const auto shortest = std::to_chars(buffer.data(), last, value, std::chars_format::fixed);
+    if (const std::string_view text(buffer.data(), shortest.ptr);
+        significantDigits(text) <= SignificantDigits)
+        return std::string(text);
+    const auto end = std::to_chars(buffer.data(), last, value, std::chars_format::fixed, decimalsFor(value));
     std::string text(buffer.data(), end.ptr);
     dropTrailingZeros(text);
     return text == "-0" ? "0" : text;

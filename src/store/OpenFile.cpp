@@ -1,6 +1,7 @@
 #include "store/OpenFile.h"
 
 #include <algorithm>
+#include <array>
 #include <cerrno>
 #include <system_error>
 #include <utility>
@@ -31,20 +32,39 @@ std::uintmax_t OpenFile::size() const {
     return static_cast<std::uintmax_t>(size);
 }
 
+std::size_t OpenFile::readSome(char* bytes, std::size_t size) {
+    for (;;) {
+        const std::ptrdiff_t count = disk::read(handle_, bytes, size);
+        if (count < 0 && errno == EINTR)
+            continue;
+        require(count >= 0);
+        return static_cast<std::size_t>(count);
+    }
+}
+
 std::string OpenFile::read(std::size_t limit) {
     std::string content(std::min<std::uintmax_t>(limit, size()), '\0');
     std::size_t length = 0;
     while (length < content.size()) {
-        const std::ptrdiff_t count = disk::read(handle_, content.data() + length, content.size() - length);
-        if (count < 0 && errno == EINTR)
-            continue;
-        require(count >= 0);
+        const std::size_t count = readSome(content.data() + length, content.size() - length);
         if (count == 0)
             break;
-        length += static_cast<std::size_t>(count);
+        length += count;
     }
     content.resize(length);
     return content;
+}
+
+bool OpenFile::holds(std::string_view content) {
+    std::array<char, 16384> part;
+    for (;;) {
+        const std::size_t count = readSome(part.data(), part.size());
+        if (count == 0)
+            return content.empty();
+        if (!content.starts_with(std::string_view(part.data(), count)))
+            return false;
+        content.remove_prefix(count);
+    }
 }
 
 void OpenFile::write(std::string_view content) {

@@ -15,6 +15,10 @@ class OpenFile {
 public:
     /// With Purpose::Create, what stands in the file's place is removed first.
     OpenFile(const std::filesystem::path& path, Purpose purpose);
+
+    /// Takes over what disk::open() has given.
+    explicit OpenFile(int handle) : handle_(handle) {}
+
     ~OpenFile();
     OpenFile(const OpenFile&) = delete;
     OpenFile& operator=(const OpenFile&) = delete;
@@ -23,6 +27,9 @@ public:
 
     /// What stands behind the file's position, at most `limit` bytes.
     std::string read(std::size_t limit);
+
+    /// Whether exactly this stands behind the file's position.
+    bool holds(std::string_view content);
 
     /// Writes all of `content` at the file's position.
     void write(std::string_view content);
@@ -41,6 +48,9 @@ public:
     void close();
 
 private:
+    /// Reads up to `size` bytes, 0 at the end of the file.
+    std::size_t readSome(char* bytes, std::size_t size);
+
     int handle_;
 };
 

@@ -114,24 +114,25 @@ void PlayerStats::writeFragments() {
         PlayersTeamSelect = team;
         PlayersTeamSelect_Click();
         writePage(files, stem + "_leaders.php", leadersText(content_.leaders));
+        const auto skaters = skaterRowTexts(skaterTable_, team, part_);
+        const auto goalies = goalieRowTexts(goalieTable_, team, part_);
         for (const bool ascending : {true, false}) {
             SkaterSortAscending = TeamGoalieSortAscending = ascending;
-            writeOrders(stem);
+            writeOrders(stem, skaters, goalies);
         }
     }
 }
 
 /// The fragments of all orders in the direction of the sort state: 0 to 13 descending, 14 to 27 ascending.
-void PlayerStats::writeOrders(const std::string& stem) {
+void PlayerStats::writeOrders(const std::string& stem, const std::vector<std::string>& skaters,
+                              const std::vector<std::string>& goalies) {
     for (int column = 0; column < Orders; ++column) {
         const std::string number = std::to_string(SkaterSortAscending ? column + Orders : column) + ".php";
         SkaterSortColumn = TeamGoalieSortColumn = column;
-        SkaterUpdate();
-        GoalieUpdate();
         writePage(app_.files(), stem + "_N" + number,
-                  skaterFragment(content_.skaters, PlayersTeamSelect, part_));
+                  playerFragment(skaters, skaterTable_.order(column, SkaterSortAscending)));
         writePage(app_.files(), stem + "_G" + number,
-                  goalieFragment(content_.goalies, PlayersTeamSelect, part_));
+                  playerFragment(goalies, goalieTable_.order(column, TeamGoalieSortAscending)));
     }
 }
 

@@ -53,7 +53,8 @@ public:
 
 private:
     void writeFragments();
-    void writeOrders(const std::string& stem);
+    void writeOrders(const std::string& stem, const std::vector<std::string>& skaters,
+                     const std::vector<std::string>& goalies);
 
     PartOfYear part_;
     PlayerTable skaterTable_;

@@ -127,12 +127,15 @@ std::vector<int> PlayerTable::valuesOf(int column) const {
     return values;
 }
 
-std::vector<PlayerTableRow> PlayerTable::ordered(int column, bool ascending) const {
+std::vector<int> PlayerTable::order(int column, bool ascending) const {
     const auto direction = ascending ? Direction::LowestFirst : Direction::HighestFirst;
-    const std::vector<int> order =
-        column == NameColumn ? naturalOrder(count(), ascending) : selectionOrder(valuesOf(column), direction);
+    return column == NameColumn ? naturalOrder(count(), ascending)
+                                : selectionOrder(valuesOf(column), direction);
+}
+
+std::vector<PlayerTableRow> PlayerTable::ordered(int column, bool ascending) const {
     std::vector<PlayerTableRow> rows;
-    for (const int row : order)
+    for (const int row : order(column, ascending))
         rows.push_back(rows_[row]);
     return rows;
 }

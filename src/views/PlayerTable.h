@@ -45,7 +45,13 @@ public:
 
     int count() const { return static_cast<int>(rows_.size()); }
 
-    /// The rows ordered by a column; of equal values the one higher on the roster comes first.
+    /// In the order of the roster.
+    const std::vector<PlayerTableRow>& rows() const { return rows_; }
+
+    /// The places of the rows ordered by a column; of equal values the one higher on the roster comes first.
+    std::vector<int> order(int column, bool ascending) const;
+
+    /// The rows in that order.
     std::vector<PlayerTableRow> ordered(int column, bool ascending) const;
 
     /// Name and text of the row with the highest value of a column, "" and "0" when there is no row.
@@ -62,8 +68,11 @@ private:
     std::vector<std::array<int, PlayerTableColumns>> values_;
 };
 
-/// The rows of a team's fragment.
-std::string skaterFragment(const std::vector<PlayerTableRow>& rows, TeamIndex team, PartOfYear part);
-std::string goalieFragment(const std::vector<PlayerTableRow>& rows, TeamIndex team, PartOfYear part);
+/// The texts of a team's rows as they stand in all its fragments behind the cell of the number.
+std::vector<std::string> skaterRowTexts(const PlayerTable& table, TeamIndex team, PartOfYear part);
+std::vector<std::string> goalieRowTexts(const PlayerTable& table, TeamIndex team, PartOfYear part);
+
+/// A team's fragment: its rows in an order, numbered from 1.
+std::string playerFragment(const std::vector<std::string>& rowTexts, const std::vector<int>& order);
 
 } // namespace iceline

@@ -94,6 +94,8 @@ TEST_F(DiskFaultsTest, AFullDiskLeavesEverythingAsItWas) {
                       "Records.txt: cannot be written: the disk is full");
             EXPECT_EQ(errorMessage([&] { files.extend("BoxScores.htm", 7, big, durability); }),
                       "BoxScores.htm: cannot be written: the disk is full");
+            EXPECT_EQ(errorMessage([&] { files.write("New.htm", big, durability); }),
+                      "New.htm: cannot be written: the disk is full");
         }
         Journal journal(files);
         EXPECT_EQ(errorMessage([&] {

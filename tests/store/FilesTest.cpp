@@ -89,6 +89,20 @@ TEST_P(AllFiles, GiveBackWhatWasWritten) {
     EXPECT_THAT(files.filesIn(""), ElementsAre("a.txt"));
 }
 
+TEST_P(AllFiles, TellAFileFromOneOfOtherContent) {
+    const std::string page(50'000, 'x');
+    files.write("page.htm", page, Durability::Unsynced);
+    EXPECT_TRUE(files.holds("page.htm", page));
+    EXPECT_FALSE(files.holds("page.htm", page + "x"));
+    EXPECT_FALSE(files.holds("page.htm", page.substr(1)));
+    EXPECT_FALSE(files.holds("page.htm", std::string(49'999, 'x') + "y"));
+    files.write("empty.htm", "");
+    EXPECT_TRUE(files.holds("empty.htm", ""));
+    EXPECT_FALSE(files.holds("missing.htm", ""));
+    files.makeFolder("folder.htm");
+    EXPECT_FALSE(files.holds("folder.htm", ""));
+}
+
 TEST_P(AllFiles, ExtendBehindALength) {
     files.extend("list.txt", 0, "first\n");
     EXPECT_EQ(files.read("list.txt"), "first\n");
