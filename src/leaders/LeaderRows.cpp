@@ -1,6 +1,5 @@
 #include "leaders/LeaderRows.h"
 
-#include "site/PageFrame.h"
 #include "site/PlayerNames.h"
 
 namespace iceline {
@@ -72,8 +71,7 @@ constexpr LeaderRowForm StarRowForm{
     .defaultCard = defaultSkaterCard,
 };
 
-std::string leaderFragment(const LeaderRowForm& form, const LeaderList& list) {
-    PageText text;
+void addLeaderFragment(PageText& text, const LeaderRowForm& form, const LeaderList& list) {
     for (const LeaderLine& line : list.lines) {
         text.add(form.beforeNumber).add(std::to_string(line.number));
         text.add(form.beforeAbbr).add(TeamAbbr[line.team]).add(form.behindAbbr).add(line.name);
@@ -81,7 +79,6 @@ std::string leaderFragment(const LeaderRowForm& form, const LeaderList& list) {
             text.add(form.beforeFigure).add(line.figures[column]).add(form.behindFigure);
         text.line(form.rowEnd);
     }
-    return text.text();
 }
 
 std::string leaderBlock(const LeaderRowForm& form, const LeaderList& list, std::size_t column,

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "leaders/LeaderLists.h"
+#include "site/PageFrame.h"
 #include "store/Files.h"
 
 #include <span>
@@ -35,8 +36,8 @@ extern const LeaderRowForm GoalieRowForm;
 extern const LeaderRowForm TeamRowForm;
 extern const LeaderRowForm StarRowForm;
 
-/// The text of a fragment.
-std::string leaderFragment(const LeaderRowForm& form, const LeaderList& list);
+/// Adds the rows of a fragment, all of its text.
+void addLeaderFragment(PageText& text, const LeaderRowForm& form, const LeaderList& list);
 
 /// The rows of a home page's block, which show one column; `pictureRow` stands above them unless it is empty.
 std::string leaderBlock(const LeaderRowForm& form, const LeaderList& list, std::size_t column,

@@ -113,7 +113,7 @@ void Rankings::put(const LeaderRowForm& form, Table& table, const LeaderList& li
         page_.add(leaderBlock(form, list, sort.column,
                               leaderPictureRow(form, list, app_.files(), app_.platform())));
     else
-        page_.add(leaderFragment(form, list));
+        addLeaderFragment(page_, form, list);
 }
 
 void Rankings::tmLeadersCol_Click(int Index) {
