@@ -1,5 +1,5 @@
+#include "files/DiskFiles.h"
 #include "site/GenerateWebpages.h"
-#include "store/DiskFiles.h"
 #include "support/TemporaryFolder.h"
 #include "support/TestLeague.h"
 

@@ -1,9 +1,9 @@
 #include "cli/Command.h"
 #include "cli/UseWindow.h"
 #include "cli/WindowPrinters.h"
-#include "views/CoachStats.h"
-#include "views/Coaches.h"
-#include "views/Options.h"
+#include "coaches/CoachStats.h"
+#include "coaches/Coaches.h"
+#include "season/Options.h"
 
 namespace iceline::cli {
 

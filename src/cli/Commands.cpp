@@ -1,7 +1,7 @@
 #include "cli/Commands.h"
 
 #include "cli/Command.h"
-#include "store/FileError.h"
+#include "files/FileError.h"
 
 #include <algorithm>
 

@@ -1,8 +1,8 @@
-#include "capture/StatExtractor.h"
 #include "cli/Command.h"
 #include "cli/UseWindow.h"
 #include "cli/WindowPrinters.h"
-#include "store/FileError.h"
+#include "files/FileError.h"
+#include "games/StatExtractor.h"
 
 namespace iceline::cli {
 

@@ -1,5 +1,5 @@
+#include "app/WelcomeWindow.h"
 #include "cli/Command.h"
-#include "shell/WelcomeWindow.h"
 #include "site/SiteTemplate.h"
 
 namespace iceline::cli {

@@ -1,7 +1,7 @@
 #include "cli/TextTable.h"
 #include "cli/WindowPrinters.h"
-#include "views/PlayerProfiles.h"
-#include "views/PlayerStats.h"
+#include "players/PlayerProfiles.h"
+#include "players/PlayerStats.h"
 
 namespace iceline::cli {
 

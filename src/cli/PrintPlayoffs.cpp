@@ -1,6 +1,6 @@
 #include "cli/TextTable.h"
 #include "cli/WindowPrinters.h"
-#include "standings/Playoffs.h"
+#include "playoffs/Playoffs.h"
 
 #include <bit>
 

@@ -1,7 +1,7 @@
 #include "cli/TextTable.h"
 #include "cli/WindowPrinters.h"
-#include "views/AllTimeRecords.h"
-#include "views/Options.h"
+#include "records/AllTimeRecords.h"
+#include "season/Options.h"
 
 namespace iceline::cli {
 

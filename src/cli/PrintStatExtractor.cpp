@@ -1,6 +1,6 @@
-#include "capture/StatExtractor.h"
 #include "cli/TextTable.h"
 #include "cli/WindowPrinters.h"
+#include "games/StatExtractor.h"
 
 #include <algorithm>
 

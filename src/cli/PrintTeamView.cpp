@@ -1,7 +1,7 @@
 #include "cli/TextTable.h"
 #include "cli/WindowPrinters.h"
-#include "views/CoachStats.h"
-#include "views/TeamStats.h"
+#include "coaches/CoachStats.h"
+#include "teams/TeamStats.h"
 
 #include <map>
 

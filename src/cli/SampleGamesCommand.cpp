@@ -1,5 +1,5 @@
-#include "capture/SampleGames.h"
 #include "cli/Command.h"
+#include "samples/SampleGames.h"
 
 namespace iceline::cli {
 

@@ -1,7 +1,7 @@
 #include "cli/Script.h"
 
 #include "cli/Command.h"
-#include "store/FileError.h"
+#include "files/FileError.h"
 
 #include <algorithm>
 #include <sstream>

@@ -1,6 +1,6 @@
 #include "cli/Command.h"
 #include "cli/UseWindow.h"
-#include "views/Options.h"
+#include "season/Options.h"
 
 namespace iceline::cli {
 

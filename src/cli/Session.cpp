@@ -1,7 +1,7 @@
 #include "cli/Session.h"
 
-#include "shell/ProgramFolder.h"
-#include "shell/Startup.h"
+#include "app/ProgramFolder.h"
+#include "app/Startup.h"
 #include "store/LeaguePaths.h"
 
 namespace iceline::cli {

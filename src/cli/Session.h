@@ -1,9 +1,9 @@
 #pragma once
 
 #include "cli/ConsolePlatform.h"
+#include "files/DiskFiles.h"
+#include "files/LeagueLock.h"
 #include "shell/Application.h"
-#include "store/DiskFiles.h"
-#include "store/LeagueLock.h"
 
 #include <filesystem>
 #include <optional>

@@ -1,6 +1,6 @@
+#include "app/WelcomeWindow.h"
 #include "cli/Command.h"
 #include "cli/WindowPrinters.h"
-#include "shell/WelcomeWindow.h"
 
 namespace iceline::cli {
 

@@ -1,15 +1,15 @@
 #include "cli/WindowPrinters.h"
 
-#include "capture/StatExtractor.h"
+#include "coaches/CoachStats.h"
+#include "games/StatExtractor.h"
 #include "leaders/Rankings.h"
-#include "standings/Playoffs.h"
+#include "players/PlayerProfiles.h"
+#include "players/PlayerStats.h"
+#include "playoffs/Playoffs.h"
+#include "records/AllTimeRecords.h"
+#include "season/Options.h"
 #include "standings/Standings.h"
-#include "views/AllTimeRecords.h"
-#include "views/CoachStats.h"
-#include "views/Options.h"
-#include "views/PlayerProfiles.h"
-#include "views/PlayerStats.h"
-#include "views/TeamStats.h"
+#include "teams/TeamStats.h"
 
 #include <algorithm>
 

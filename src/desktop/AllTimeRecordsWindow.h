@@ -1,7 +1,7 @@
 #pragma once
 
 #include "desktop/LeagueWindow.h"
-#include "views/AllTimeRecords.h"
+#include "records/AllTimeRecords.h"
 
 class QGroupBox;
 

@@ -4,7 +4,7 @@
 #include "desktop/Pictures.h"
 #include "desktop/QtPlatform.h"
 #include "desktop/SeriesBox.h"
-#include "standings/PlayoffResult.h"
+#include "playoffs/PlayoffResult.h"
 
 #include <QGridLayout>
 #include <QPainter>

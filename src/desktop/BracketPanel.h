@@ -1,6 +1,6 @@
 #pragma once
 
-#include "standings/Playoffs.h"
+#include "playoffs/Playoffs.h"
 
 #include <QWidget>
 

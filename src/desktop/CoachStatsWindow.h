@@ -1,7 +1,7 @@
 #pragma once
 
+#include "coaches/CoachStats.h"
 #include "desktop/LeagueWindow.h"
-#include "views/CoachStats.h"
 
 class QComboBox;
 class QLineEdit;

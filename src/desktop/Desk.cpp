@@ -1,8 +1,8 @@
 #include "desktop/Desk.h"
 
+#include "app/WelcomeWindow.h"
 #include "desktop/Controls.h"
 #include "desktop/WindowMakers.h"
-#include "shell/WelcomeWindow.h"
 
 namespace iceline::desktop {
 

@@ -1,14 +1,14 @@
 #include "desktop/Desktop.h"
 
+#include "app/ProgramFolder.h"
+#include "app/Startup.h"
 #include "desktop/Guard.h"
 #include "desktop/QtPlatform.h"
 #include "desktop/SplashScreen.h"
 #include "desktop/Style.h"
 #include "desktop/WelcomeWindow.h"
-#include "shell/ProgramFolder.h"
-#include "shell/Startup.h"
-#include "store/DiskFiles.h"
-#include "store/LeagueLock.h"
+#include "files/DiskFiles.h"
+#include "files/LeagueLock.h"
 #include "store/LeaguePaths.h"
 
 #include <QApplication>

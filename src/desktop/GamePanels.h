@@ -1,6 +1,6 @@
 #pragma once
 
-#include "capture/GameReport.h"
+#include "games/GameReport.h"
 
 #include <QWidget>
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "store/FileError.h"
+#include "files/FileError.h"
 
 class QWidget;
 

@@ -1,9 +1,9 @@
 #include "desktop/OptionsWindow.h"
 
+#include "coaches/Coaches.h"
 #include "desktop/Controls.h"
 #include "desktop/Pictures.h"
 #include "desktop/QtPlatform.h"
-#include "views/Coaches.h"
 
 #include <QComboBox>
 #include <QGridLayout>

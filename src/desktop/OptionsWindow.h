@@ -1,7 +1,7 @@
 #pragma once
 
 #include "desktop/LeagueWindow.h"
-#include "views/Options.h"
+#include "season/Options.h"
 
 class QComboBox;
 class QGroupBox;

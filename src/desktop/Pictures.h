@@ -1,6 +1,6 @@
 #pragma once
 
-#include "shell/TeamTable.h"
+#include "league/TeamTable.h"
 
 #include <QPixmap>
 

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "desktop/LeagueWindow.h"
-#include "views/PlayerProfiles.h"
+#include "players/PlayerProfiles.h"
 
 class QComboBox;
 class QGroupBox;

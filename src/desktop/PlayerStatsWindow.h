@@ -2,7 +2,7 @@
 
 #include "desktop/Controls.h"
 #include "desktop/LeagueWindow.h"
-#include "views/PlayerStats.h"
+#include "players/PlayerStats.h"
 
 #include <vector>
 

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "desktop/LeagueWindow.h"
-#include "standings/Playoffs.h"
+#include "playoffs/Playoffs.h"
 
 class QLabel;
 

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "shell/TeamTable.h"
-#include "standings/Bracket.h"
+#include "league/TeamTable.h"
+#include "playoffs/Bracket.h"
 
 #include <QFrame>
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "shell/SplashScreen.h"
+#include "app/SplashScreen.h"
 
 #include <QTimer>
 #include <QWidget>

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "capture/StatExtractor.h"
 #include "desktop/LeagueWindow.h"
+#include "games/StatExtractor.h"
 
 class QComboBox;
 class QLabel;

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "views/TeamView.h"
+#include "teams/TeamView.h"
 
 #include <QWidget>
 

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "desktop/LeagueWindow.h"
-#include "views/TeamStats.h"
+#include "teams/TeamStats.h"
 
 class QComboBox;
 class QLabel;

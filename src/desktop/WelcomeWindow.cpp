@@ -1,10 +1,10 @@
 #include "desktop/WelcomeWindow.h"
 
+#include "app/WelcomeWindow.h"
 #include "desktop/Controls.h"
 #include "desktop/Guard.h"
 #include "desktop/Pictures.h"
 #include "desktop/QtPlatform.h"
-#include "shell/WelcomeWindow.h"
 
 #include <QApplication>
 #include <QCloseEvent>

@@ -1,7 +1,7 @@
 #include "leaders/LeaderLists.h"
 
-#include "store/Numbers.h"
-#include "store/Selection.h"
+#include "league/Numbers.h"
+#include "league/Selection.h"
 
 #include <algorithm>
 

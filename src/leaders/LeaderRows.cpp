@@ -1,6 +1,6 @@
 #include "leaders/LeaderRows.h"
 
-#include "site/PlayerNames.h"
+#include "players/PlayerNames.h"
 
 namespace iceline {
 

@@ -1,8 +1,8 @@
 #pragma once
 
+#include "files/Files.h"
 #include "leaders/LeaderLists.h"
-#include "site/PageFrame.h"
-#include "store/Files.h"
+#include "page/PageFrame.h"
 
 #include <span>
 #include <string>

@@ -1,7 +1,7 @@
 #include "leaders/LeaderTables.h"
 
-#include "store/FileError.h"
-#include "store/Numbers.h"
+#include "files/FileError.h"
+#include "league/Numbers.h"
 
 #include <cmath>
 #include <limits>

@@ -1,9 +1,9 @@
 #include "leaders/Rankings.h"
 
+#include "leaders/HomePages.h"
 #include "leaders/LeaderTables.h"
+#include "league/Selection.h"
 #include "shell/Application.h"
-#include "site/HomePages.h"
-#include "store/Selection.h"
 
 #include <algorithm>
 

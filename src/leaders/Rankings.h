@@ -1,8 +1,8 @@
 #pragma once
 
 #include "leaders/LeaderRows.h"
+#include "page/PageFrame.h"
 #include "shell/Window.h"
-#include "site/PageFrame.h"
 
 namespace iceline {
 

@@ -1,11 +1,11 @@
 #pragma once
 
+#include "files/Files.h"
+#include "files/Journal.h"
+#include "files/StagedFiles.h"
 #include "shell/ApplicationState.h"
 #include "shell/Platform.h"
 #include "shell/Windows.h"
-#include "store/Files.h"
-#include "store/Journal.h"
-#include "store/StagedFiles.h"
 
 #include <vector>
 

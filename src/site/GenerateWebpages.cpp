@@ -1,13 +1,13 @@
 #include "site/GenerateWebpages.h"
 
+#include "files/FileError.h"
+#include "page/PageFrame.h"
+#include "players/PlayerNames.h"
+#include "players/PlayerPages.h"
+#include "players/RosterPages.h"
 #include "shell/Application.h"
-#include "site/PageFrame.h"
-#include "site/PlayerNames.h"
-#include "site/PlayerPages.h"
 #include "site/ReadCache.h"
-#include "site/RosterPages.h"
 #include "site/SiteTemplate.h"
-#include "store/FileError.h"
 #include "store/PlayerFiles.h"
 
 namespace iceline {

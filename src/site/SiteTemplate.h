@@ -1,6 +1,6 @@
 #pragma once
 
-#include "store/Files.h"
+#include "files/Files.h"
 
 namespace iceline {
 

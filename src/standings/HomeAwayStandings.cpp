@@ -1,7 +1,7 @@
 #include "standings/HomeAwayStandings.h"
 
+#include "league/Selection.h"
 #include "standings/StandingsTable.h"
-#include "store/Selection.h"
 #include "store/TeamFiles.h"
 
 #include <algorithm>

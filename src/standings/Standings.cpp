@@ -1,7 +1,7 @@
 #include "standings/Standings.h"
 
+#include "page/PageFrame.h"
 #include "shell/Application.h"
-#include "site/PageFrame.h"
 #include "standings/ClinchMarks.h"
 #include "standings/StandingsTable.h"
 

@@ -1,7 +1,7 @@
 #include "standings/StandingsPages.h"
 
-#include "site/PageFrame.h"
-#include "store/Numbers.h"
+#include "league/Numbers.h"
+#include "page/PageFrame.h"
 
 namespace iceline {
 

@@ -1,7 +1,7 @@
 #include "standings/StandingsRows.h"
 
+#include "league/Numbers.h"
 #include "standings/StandingsTable.h"
-#include "store/Numbers.h"
 
 namespace iceline {
 

@@ -1,6 +1,6 @@
 #include "standings/StandingsTable.h"
 
-#include "store/Numbers.h"
+#include "league/Numbers.h"
 #include "store/TeamFiles.h"
 
 #include <cmath>

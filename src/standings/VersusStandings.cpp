@@ -1,8 +1,8 @@
 #include "standings/VersusStandings.h"
 
+#include "league/Numbers.h"
+#include "league/Selection.h"
 #include "standings/StandingsTable.h"
-#include "store/Numbers.h"
-#include "store/Selection.h"
 #include "store/TeamFiles.h"
 
 namespace iceline {

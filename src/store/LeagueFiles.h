@@ -1,8 +1,8 @@
 #pragma once
 
-#include "shell/TeamTable.h"
+#include "files/Files.h"
+#include "league/TeamTable.h"
 #include "store/Fields.h"
-#include "store/Files.h"
 
 #include <array>
 #include <optional>

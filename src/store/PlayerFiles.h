@@ -1,7 +1,7 @@
 #pragma once
 
+#include "files/Files.h"
 #include "store/Fields.h"
-#include "store/Files.h"
 
 #include <array>
 #include <string>

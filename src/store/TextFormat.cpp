@@ -1,7 +1,7 @@
 #include "store/TextFormat.h"
 
-#include "store/FileError.h"
-#include "store/Numbers.h"
+#include "files/FileError.h"
+#include "league/Numbers.h"
 
 #include <charconv>
 #include <cmath>

@@ -1,7 +1,7 @@
 #include "CliTest.h"
 #include "cli/TextTable.h"
+#include "files/LeagueLock.h"
 #include "shell/Windows.h"
-#include "store/LeagueLock.h"
 
 #include <map>
 

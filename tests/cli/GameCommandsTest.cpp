@@ -1,6 +1,6 @@
 #include "CliTest.h"
-#include "capture/SampleGames.h"
-#include "store/DiskFiles.h"
+#include "files/DiskFiles.h"
+#include "samples/SampleGames.h"
 
 namespace iceline::cli {
 namespace {

@@ -1,6 +1,6 @@
 #include "cli/WindowPrinters.h"
-#include "standings/PlayoffResult.h"
-#include "standings/Playoffs.h"
+#include "playoffs/PlayoffResult.h"
+#include "playoffs/Playoffs.h"
 #include "standings/Standings.h"
 #include "support/TestLeague.h"
 

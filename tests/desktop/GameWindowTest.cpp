@@ -1,6 +1,6 @@
-#include "capture/SaveStateWriter.h"
-#include "capture/StatExtractor.h"
 #include "desktop/DesktopTest.h"
+#include "games/StatExtractor.h"
+#include "samples/SaveStateWriter.h"
 
 #include <QComboBox>
 #include <QPlainTextEdit>

@@ -1,6 +1,6 @@
+#include "app/SplashScreen.h"
 #include "desktop/DesktopTest.h"
-#include "shell/SplashScreen.h"
-#include "views/Options.h"
+#include "season/Options.h"
 
 #include <QComboBox>
 #include <QGroupBox>

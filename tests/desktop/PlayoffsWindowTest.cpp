@@ -1,5 +1,5 @@
 #include "desktop/DesktopTest.h"
-#include "standings/PlayoffResult.h"
+#include "playoffs/PlayoffResult.h"
 
 #include <QGroupBox>
 

@@ -1,5 +1,5 @@
 #include "FuzzLeague.h"
-#include "capture/SaveStateWriter.h"
+#include "samples/SaveStateWriter.h"
 
 #include <algorithm>
 #include <fuzzer/FuzzedDataProvider.h>

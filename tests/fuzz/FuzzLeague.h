@@ -1,7 +1,7 @@
 #pragma once
 
-#include "capture/StatExtractor.h"
-#include "store/FileError.h"
+#include "files/FileError.h"
+#include "games/StatExtractor.h"
 #include "support/TestLeague.h"
 
 #include <algorithm>

@@ -1,5 +1,5 @@
 #include "LeadersSupport.h"
-#include "store/FileError.h"
+#include "files/FileError.h"
 
 #include <gmock/gmock.h>
 

@@ -1,5 +1,5 @@
-#include "shell/WelcomeWindow.h"
-#include "store/FileError.h"
+#include "app/WelcomeWindow.h"
+#include "files/FileError.h"
 #include "support/TestLeague.h"
 
 #include <gmock/gmock.h>

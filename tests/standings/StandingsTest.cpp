@@ -1,8 +1,8 @@
 #include "standings/Standings.h"
 
-#include "shell/WelcomeWindow.h"
+#include "app/WelcomeWindow.h"
+#include "files/FileError.h"
 #include "standings/StandingsSupport.h"
-#include "store/FileError.h"
 #include "support/ErrorMessage.h"
 #include "support/TestLeague.h"
 

@@ -1,6 +1,6 @@
 #include "support/ErrorMessage.h"
 
-#include "store/FileError.h"
+#include "files/FileError.h"
 
 namespace iceline::test {
 

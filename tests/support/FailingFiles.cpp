@@ -1,6 +1,6 @@
 #include "support/FailingFiles.h"
 
-#include "store/FileError.h"
+#include "files/FileError.h"
 
 namespace iceline::test {
 

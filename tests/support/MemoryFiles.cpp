@@ -1,6 +1,6 @@
 #include "support/MemoryFiles.h"
 
-#include "store/FileError.h"
+#include "files/FileError.h"
 
 #include <algorithm>
 

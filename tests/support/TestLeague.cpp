@@ -1,7 +1,7 @@
 #include "support/TestLeague.h"
 
-#include "shell/Startup.h"
-#include "views/Coaches.h"
+#include "app/Startup.h"
+#include "coaches/Coaches.h"
 
 #include <fstream>
 #include <stdexcept>

@@ -1,0 +1,78 @@
+#include "app/Startup.h"
+
+#include "playoffs/SeasonEnd.h"
+#include "shell/Application.h"
+#include "site/SiteTemplate.h"
+#include "store/LeagueFiles.h"
+#include "store/LeagueLayout.h"
+
+namespace iceline {
+
+namespace {
+
+const Message MissingFilesQuestion{
+    "Some or all of the required data files are not present,\n"
+    "would you like the missing ones to be created?\n"
+    "\n"
+    "(There are several files, so make sure the .EXE is in a separate folder first!)",
+    Buttons::OkCancel, "Data files missing"};
+
+void recoverJournal(Application& app) {
+    switch (app.journal().recover()) {
+    case Recovery::Nothing:
+        break;
+    case Recovery::Finished:
+        app.platform().say("The last change to the league was interrupted. It has now been finished.");
+        break;
+    case Recovery::Dropped:
+        app.platform().say("The last change to the league was interrupted before it could be saved. "
+                           "The league is as it was before that change.");
+        break;
+    }
+}
+
+void make(const LeagueEntry& entry, Application& app) {
+    switch (entry.kind) {
+    case LeagueEntry::Kind::Folder:
+        app.files().makeFolder(entry.path);
+        break;
+    case LeagueEntry::Kind::Site:
+        copyMissingOfTemplate(app.siteTemplate(), app.files());
+        break;
+    case LeagueEntry::Kind::File:
+        app.files().write(entry.path, entry.initialContent());
+        break;
+    }
+}
+
+/// False when the user does not want the missing files made; nothing is then touched.
+bool makeWhatIsMissing(Application& app) {
+    Operation operation(app);
+    bool AskedOnce = false;
+    for (const LeagueEntry& entry : leagueLayout(app.files())) {
+        if (entry.existsIn(app.files()))
+            continue;
+        if (!AskedOnce && app.platform().ask(MissingFilesQuestion) != Answer::Ok)
+            return false;
+        AskedOnce = true;
+        make(entry, app);
+    }
+    operation.commit();
+    return true;
+}
+
+} // namespace
+
+bool startUp(Application& app) {
+    const BusyPointer busy(app.platform());
+    app.state.ShowWindows = true;
+    recoverJournal(app);
+    if (!makeWhatIsMissing(app))
+        return false;
+    app.state.SeasonLength = readNumber16(app.files(), paths::GamesUntilPlayoffs);
+    checkSeason(app);
+    app.state.StartupDone = true;
+    return true;
+}
+
+} // namespace iceline

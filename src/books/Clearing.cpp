@@ -1,0 +1,36 @@
+#include "books/Clearing.h"
+
+#include "page/BoxScoreList.h"
+#include "store/InitialFiles.h"
+#include "store/LeaguePaths.h"
+
+namespace iceline {
+
+namespace {
+
+void writeInitial(Files& files, const std::string& folder, std::span<const InitialFile> initial) {
+    for (const InitialFile& file : initial)
+        files.write(folder + "/" + file.name, file.content());
+}
+
+} // namespace
+
+void clearTeam(Files& files, TeamIndex team) {
+    for (const PartOfYear part : {PartOfYear::Season, PartOfYear::Playoffs})
+        writeInitial(files, paths::teamFolder(team) + seasonFolder(part), initialTeamFiles());
+}
+
+void clearLeague(Files& files) {
+    for (const InitialFile& file : initialLeagueFiles())
+        if (file.isCleared)
+            files.write(file.name, file.content());
+    files.write(paths::page("BoxScores.htm"), boxScoreListHead());
+    for (TeamIndex team = 0; team < LeagueTeams; ++team)
+        clearTeam(files, team);
+}
+
+void clearCoach(Files& files, const std::string& coach) {
+    writeInitial(files, paths::coachFolder(coach), initialCoachFiles());
+}
+
+} // namespace iceline

@@ -1,0 +1,26 @@
+#pragma once
+
+#include "league/GameSheet.h"
+#include "store/TeamRecord.h"
+
+#include <string>
+
+namespace iceline {
+
+/// Whose line of `Records.txt` a game moves: that of a team, or of the coach behind it.
+enum class RecordHolder { Team, Coach };
+
+/// The letter of a side's result: "W", "L" or "T". A game decided in overtime is won and lost like any other.
+std::string resultLetter(const GameSheet& game, Side side);
+
+/// Adds a game to the line of the side's holder: the running sums, then every average, percentage and power
+/// ranking anew from the new sums. Of the home and away figures only those of `side` move.
+///
+/// ArenaMeter is left to updateCrowdMeter(). A coach's line differs in four fields: LastResult holds the
+/// game's letter, SOGPct is rounded once, PenPG keeps its decimal, AuxAgainst is not counted.
+///
+/// Throws FileError naming the field when a sum is more than the file can hold.
+void updateTeamRecord(TeamRecord& record, const GameSheet& game, Side side, bool overtime,
+                      RecordHolder holder);
+
+} // namespace iceline

@@ -1,0 +1,39 @@
+#pragma once
+
+#include "files/Files.h"
+
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace iceline {
+
+/// A coach is a folder of the league: its name is the coach's name. Names that differ only in case are the
+/// same coach.
+
+/// Characters that a coach's name may have.
+inline constexpr int CoachNameLimit = 20;
+
+/// The coaches in the order of their names.
+std::vector<std::string> coachNames(Files& files);
+
+/// The coach of that name as his folder has it.
+std::optional<std::string> findCoach(Files& files, const std::string& name);
+
+/// A name as it is stored: each blank becomes "_".
+std::string storedCoachName(std::string name);
+
+/// Why a stored name cannot be a coach's, in a sentence that says what is allowed; none when it can. The name
+/// becomes a folder and a page, on any system.
+std::optional<std::string> coachNameProblem(const std::string& name);
+
+/// Creates the coach's folder and files. The name must be free and without a problem.
+void createCoach(Files& files, const std::string& name);
+
+/// Moves a coach's files to a folder of another name, which must be free and without a problem.
+void renameCoach(Files& files, const std::string& from, const std::string& to);
+
+/// Removes a coach with all his files.
+void deleteCoach(Files& files, const std::string& name);
+
+} // namespace iceline

@@ -1,0 +1,121 @@
+#include "files/Journal.h"
+
+#include "files/FileError.h"
+#include "files/JournalFormat.h"
+
+#include <algorithm>
+
+namespace iceline {
+
+namespace {
+
+using Kind = Change::Kind;
+
+void refuseForeign(const Change& change) {
+    if (!isInLeague(change.path) || change.path == Journal::FileName)
+        throw FileError(change.path, "is no file of the league");
+}
+
+/// Commits that stand in one journal are made again from the first to the last, on files that may already be
+/// those after the last. Only the removal of a folder could fail then, when a later commit has filled a
+/// folder of that name again.
+bool mustStandAlone(const std::vector<Change>& changes) {
+    return std::ranges::any_of(changes, [](const Change& c) { return c.kind == Kind::RemoveFolder; });
+}
+
+} // namespace
+
+void Journal::commit(const std::vector<Change>& changes) {
+    if (recover() == Recovery::Finished)
+        throw FileError(FileName,
+                        "an earlier change noted here has only now been finished. What was asked for "
+                        "now was not done; please do it again");
+    if (changes.empty())
+        return;
+    std::ranges::for_each(changes, refuseForeign);
+    const bool alone = mustStandAlone(changes);
+    if (alone && length_ > 0)
+        finish([&] { checkpoint(); });
+    append(changes);
+    finish([&] {
+        for (const Change& change : changes)
+            makeChange(change, files_);
+        if (alone || !inRun_ || length_ >= CheckpointBytes)
+            checkpoint();
+    });
+}
+
+void Journal::beginRun() {
+    inRun_ = true;
+}
+
+void Journal::endRun() {
+    inRun_ = false;
+    if (recover() == Recovery::Nothing && length_ > 0)
+        finish([&] { checkpoint(); });
+}
+
+Recovery Journal::recover() {
+    if (!unfinished_)
+        return Recovery::Nothing;
+    if (!files_.isFile(FileName)) {
+        length_ = 0;
+        unfinished_ = false;
+        return Recovery::Nothing;
+    }
+    const std::vector<Change> changes = wholeCommits(files_.read(FileName));
+    finish([&] {
+        for (const Change& change : changes) {
+            if (change.kind == Kind::Write || change.kind == Kind::Extend)
+                files_.makeFolder(folderOf(change.path));
+            makeChange(change, files_);
+        }
+        checkpoint();
+    });
+    return changes.empty() ? Recovery::Dropped : Recovery::Finished;
+}
+
+void Journal::append(const std::vector<Change>& changes) {
+    const std::string entry = (length_ == 0 ? std::string(JournalHeading) : "") + journalEntry(changes);
+    try {
+        files_.extend(FileName, length_, entry, Durability::Now);
+    } catch (const FileError&) {
+        dropScraps();
+        throw;
+    }
+    length_ += entry.size();
+}
+
+/// Where a part of an entry cannot even be removed, the next entry overwrites it, or recover() drops it.
+void Journal::dropScraps() {
+    try {
+        if (length_ == 0)
+            files_.remove(FileName);
+    } catch (const FileError&) {
+        return;
+    }
+}
+
+/// Brings the files to the disk and forgets the journal; its removal too must be on the disk before anything
+/// else is changed, or a later start would make old changes again.
+void Journal::checkpoint() {
+    files_.sync();
+    files_.remove(FileName);
+    files_.sync();
+    length_ = 0;
+}
+
+/// Takes steps that must all be done before the journal is of no more use.
+template <class Steps>
+void Journal::finish(Steps steps) {
+    unfinished_ = true;
+    try {
+        steps();
+    } catch (const FileError& error) {
+        throw FileError(error.what() + (". The change is noted in \"" + std::string(FileName) +
+                                        "\" and will be finished before the next one or at the next start"));
+    }
+    unfinished_ = false;
+}
+
+} // namespace iceline

@@ -1,0 +1,107 @@
+#include "files/OpenFile.h"
+
+#include <algorithm>
+#include <array>
+#include <cerrno>
+#include <system_error>
+#include <utility>
+
+namespace iceline::disk {
+
+void require(bool done) {
+    if (!done)
+        throw std::system_error(errno, std::generic_category());
+}
+
+OpenFile::OpenFile(const std::filesystem::path& path, Purpose purpose) : handle_(open(path, purpose)) {
+    if (handle_ < 0 && errno == EEXIST && purpose == Purpose::Create) {
+        std::filesystem::remove(path);
+        handle_ = open(path, purpose);
+    }
+    require(handle_ >= 0);
+}
+
+OpenFile::~OpenFile() {
+    if (handle_ >= 0)
+        disk::close(handle_);
+}
+
+std::uintmax_t OpenFile::size() const {
+    const std::intmax_t size = disk::size(handle_);
+    require(size >= 0);
+    return static_cast<std::uintmax_t>(size);
+}
+
+std::size_t OpenFile::readSome(char* bytes, std::size_t size) {
+    for (;;) {
+        const std::ptrdiff_t count = disk::read(handle_, bytes, size);
+        if (count < 0 && errno == EINTR)
+            continue;
+        require(count >= 0);
+        return static_cast<std::size_t>(count);
+    }
+}
+
+std::string OpenFile::read(std::size_t limit) {
+    std::string content(std::min<std::uintmax_t>(limit, size()), '\0');
+    std::size_t length = 0;
+    while (length < content.size()) {
+        const std::size_t count = readSome(content.data() + length, content.size() - length);
+        if (count == 0)
+            break;
+        length += count;
+    }
+    content.resize(length);
+    return content;
+}
+
+bool OpenFile::holds(std::string_view content) {
+    std::array<char, 16384> part;
+    for (;;) {
+        const std::size_t count = readSome(part.data(), part.size());
+        if (!content.starts_with(std::string_view(part.data(), count)))
+            return false;
+        content.remove_prefix(count);
+        if (count < part.size())
+            return content.empty(); // a file gives less than asked for at its end alone
+    }
+}
+
+void OpenFile::write(std::string_view content) {
+    while (!content.empty()) {
+        const std::ptrdiff_t count = disk::write(handle_, content.data(), content.size());
+        if (count < 0 && errno == EINTR)
+            continue;
+        require(count >= 0);
+        content.remove_prefix(static_cast<std::size_t>(count));
+    }
+}
+
+void OpenFile::cut(std::uintmax_t length) {
+    require(tryToCut(length));
+}
+
+bool OpenFile::tryToCut(std::uintmax_t length) noexcept {
+    return disk::cut(handle_, length);
+}
+
+void OpenFile::takePermissions(const std::filesystem::path& replaced) {
+    require(disk::takePermissions(handle_, replaced));
+}
+
+void OpenFile::sync() {
+    require(disk::sync(handle_));
+}
+
+bool OpenFile::lock() {
+    if (disk::lock(handle_))
+        return true;
+    require(errno == EWOULDBLOCK);
+    return false;
+}
+
+void OpenFile::close() {
+    require(disk::close(std::exchange(handle_, -1)));
+}
+
+} // namespace iceline::disk

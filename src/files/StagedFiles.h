@@ -1,0 +1,89 @@
+#pragma once
+
+#include "files/Files.h"
+
+#include <cstdint>
+#include <map>
+#include <string>
+#include <vector>
+
+namespace iceline {
+
+/// One step of what an operation does to the disk.
+struct Change {
+    enum class Kind { MakeFolder, Write, Extend, Remove, RemoveFolder };
+
+    Kind kind = Kind::Write;
+    std::string path;
+    std::uintmax_t length = 0; ///< Extend: the file's length before the content
+    std::string content;       ///< Write, Extend
+
+    friend bool operator==(const Change&, const Change&) = default;
+};
+
+/// Makes a change; Files::sync() brings it to the disk.
+void makeChange(const Change& change, Files& files);
+
+/// The files as one operation sees them: reads see what the operation has written, and nothing reaches the
+/// files beneath. However often an operation touches a file, the file beneath is read at most once and
+/// stands at most once in changes(). Files outside the league folder can be read and not written, and what is
+/// a file beneath cannot become a folder in the same operation, nor a folder a file.
+class StagedFiles : public Files {
+public:
+    explicit StagedFiles(Files& beneath) : beneath_(beneath) {}
+
+    std::string read(const std::string& path) override;
+    std::string readFirst(const std::string& path, std::size_t limit) override;
+    void write(const std::string& path, std::string_view content, Durability durability) override;
+    void extend(const std::string& path, std::uintmax_t length, std::string_view content,
+                Durability durability) override;
+    void remove(const std::string& path) override;
+    void makeFolder(const std::string& path) override;
+    void removeFolder(const std::string& path) override;
+    bool isFile(const std::string& path) override;
+    bool isFolder(const std::string& path) override;
+    std::uintmax_t size(const std::string& path) override;
+    std::vector<std::string> filesIn(const std::string& folder) override;
+    std::vector<std::string> foldersIn(const std::string& folder) override;
+    void sync() override {}
+
+    /// What brings the files beneath to the state seen here, in the order in which it must be done. A file
+    /// whose content is what it was is left out.
+    std::vector<Change> changes();
+
+    /// Forgets everything that was written here, and what was read beneath.
+    void discard();
+
+private:
+    enum class State { Whole, Extended, Removed };
+
+    /// What the operation has made of a file.
+    struct Staged {
+        State state = State::Whole;
+        std::uintmax_t length = 0; ///< Extended: bytes kept of the file beneath
+        std::string content;       ///< Whole: the file. Extended: what stands behind the kept bytes
+    };
+
+    /// What has been read of a file beneath.
+    struct Read {
+        std::string content;
+        bool whole = false;
+    };
+
+    const Staged* staged(const std::string& path) const;
+
+    /// The entry of a file that is to be written, which must be able to stand at that path.
+    Staged& stage(const std::string& path);
+
+    const std::string& beneath(const std::string& path);
+    const std::string& firstBeneath(const std::string& path, std::size_t limit);
+    bool isUnchanged(const std::string& path, const Staged& file);
+    void requireFolder(const std::string& path);
+
+    Files& beneath_;
+    std::map<std::string, Staged> staged_;
+    std::map<std::string, bool> folders_; ///< made (true) or removed (false) by the operation
+    std::map<std::string, Read> read_;
+};
+
+} // namespace iceline

@@ -1,0 +1,111 @@
+#include "files/FileError.h"
+#include "games/SaveState.h"
+#include "games/StatExtractor.h"
+#include "games/ThreeStars.h"
+#include "shell/Application.h"
+#include "standings/Standings.h"
+
+#include <exception>
+
+namespace iceline {
+
+namespace {
+
+/// Takes steps that are worth taking whatever became of the ones before, and keeps the first file error.
+class Steps {
+public:
+    template <class Step>
+    void take(Step step) {
+        try {
+            step();
+        } catch (const FileError&) {
+            if (!failure_)
+                failure_ = std::current_exception();
+        }
+    }
+
+    void rethrowFailure() const {
+        if (failure_)
+            std::rethrow_exception(failure_);
+    }
+
+private:
+    std::exception_ptr failure_;
+};
+
+/// The import of the files of a folder, one after the other.
+class FolderRun {
+public:
+    FolderRun(Application& app, StatExtractor& window, const std::string& folder)
+        : app_(app), window_(window), folder_(folder) {
+        window_.ImportMode = 1;
+        window_.ImportCount = 0;
+        window_.ImportAnswer = Answer::Ok;
+    }
+    ~FolderRun() { window_.ImportMode = 0; }
+    FolderRun(const FolderRun&) = delete;
+    FolderRun& operator=(const FolderRun&) = delete;
+
+    /// What was imported until a file error stays.
+    void run(Steps& steps) {
+        const BusyPointer busy(app_.platform());
+        app_.journal().beginRun();
+        steps.take([this] { importFiles(); });
+        steps.take([this] { app_.journal().endRun(); });
+    }
+
+private:
+    void importFiles() {
+        const std::vector<std::string> names = app_.files().filesIn(folder_);
+        ProgressRun progress(app_.platform(), "Importing games", static_cast<int>(names.size()), true);
+        for (const std::string& name : names) {
+            if (window_.ImportAnswer == Answer::Cancel || !progress.next(name))
+                return;
+            importFile(name);
+            window_.checkSeason();
+        }
+    }
+
+    void importFile(const std::string& name) {
+        app_.state.SaveStatePath = folder_ + "/" + name;
+        window_.SaveStateFileName = name;
+        window_.GameLoaded = true;
+        chooseStars();
+        window_.ImportStats_Click();
+    }
+
+    void chooseStars() {
+        const SaveState save = SaveState::read(app_.files(), app_.state.SaveStatePath);
+        if (!save.refusal())
+            selectStars(app_.state, save, readRosters(app_.files(), save));
+    }
+
+    Application& app_;
+    StatExtractor& window_;
+    std::string folder_;
+};
+
+} // namespace
+
+void StatExtractor::ImportFolder_Click() {
+    if (Exhibition && T1Coach < 1 && T2Coach < 1) {
+        app_.platform().say("Please select at least one coach first to import exhibition game to");
+        return;
+    }
+    const auto folder = app_.platform().chooseFolder("Select folder to import");
+    if (!folder)
+        return;
+    const std::string question = "Are you sure you want import all files in " + *folder + "?";
+    if (app_.platform().ask({question, Buttons::YesNo, "Import"}) != Answer::Yes)
+        return;
+    Steps steps;
+    FolderRun(app_, *this, *folder).run(steps);
+    app_.platform().say(std::to_string(ImportCount) + " Files imported");
+    steps.take([this] {
+        app_.windows().standings().DivisionStandingsUpdate();
+        updateStandings();
+    });
+    steps.rethrowFailure();
+}
+
+} // namespace iceline

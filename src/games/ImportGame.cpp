@@ -1,0 +1,227 @@
+#include "books/GameImport.h"
+#include "files/FileError.h"
+#include "games/GameSheetReader.h"
+#include "games/StatExtractor.h"
+#include "playoffs/PlayoffResult.h"
+#include "shell/Application.h"
+#include "standings/Standings.h"
+
+#include <limits>
+
+namespace iceline {
+
+namespace {
+
+/// Why a game is not imported.
+struct Refusal {
+    std::string text;
+    bool keepsGame = false;  ///< the game stays in hand and can be imported once the reason is gone
+    bool seasonEnds = false; ///< a team has played all its games, so the season may be over
+};
+
+int raisedGameNumber(Files& files) {
+    const int number = readNumber32(files, paths::OverallGameNumber);
+    if (number == std::numeric_limits<int>::max())
+        throw FileError(paths::OverallGameNumber, "the file can hold no higher number");
+    return number + 1;
+}
+
+/// Keeps the raised number of an import that broke. Where that breaks as well the first error says enough.
+void keepGameNumber(Application& app, int number) {
+    try {
+        Operation operation(app);
+        app.files().write(paths::OverallGameNumber, numberLine(number));
+        operation.commit();
+    } catch (const FileError&) {
+        return;
+    }
+}
+
+/// Whether a list can hold the name of the game's page, which is the save state's.
+bool canBeListed(const std::string& saveState) {
+    return saveState.find_first_of("\"\r\n", saveState.rfind('/') + 1) == std::string::npos;
+}
+
+std::string seasonCompleted(const std::string& teams, const std::string& verb) {
+    return "Cannot import file because " + teams + " " + verb +
+           " completed the regular season\nTo change the season length check the options window from the "
+           "welcome screen";
+}
+
+/// The import of the game that the window holds.
+class GameInHand {
+public:
+    GameInHand(Application& app, StatExtractor& window) : app_(app), window_(window) {}
+
+    /// Stages everything that the game changes, or says why it is refused, having staged nothing.
+    std::optional<Refusal> import();
+
+    /// To be called once the changes are on the disk.
+    void keepSeries() { app_.state.PlayoffSeries = series_; }
+
+private:
+    std::optional<Refusal> refusal(const SaveState& save);
+    std::optional<Refusal> seasonRefusal() const;
+    bool hasGamesLeft(TeamIndex team) const;
+    void takeTeams(const SaveState& save);
+    void publish();
+    void fold(const SaveState& save);
+
+    Application& app_;
+    StatExtractor& window_;
+    TeamIndex home_ = 0;
+    TeamIndex away_ = 0;
+    PlayoffSeriesTable series_;
+    std::optional<SeriesOfGame> seriesOfGame_;
+};
+
+std::optional<Refusal> GameInHand::import() {
+    if (window_.Exhibition && window_.T1Coach < 1 && window_.T2Coach < 1)
+        return Refusal{"Please select at least one coach first to import exhibition game to", true};
+    if (!window_.GameLoaded)
+        return Refusal{"Please load a file first!"};
+    const SaveState save = SaveState::read(app_.files(), app_.state.SaveStatePath);
+    if (auto refused = refusal(save))
+        return refused;
+    publish();
+    fold(save);
+    return std::nullopt;
+}
+
+std::optional<Refusal> GameInHand::refusal(const SaveState& save) {
+    if (const auto wrong = save.refusal())
+        return Refusal{*wrong};
+    if (!canBeListed(app_.state.SaveStatePath))
+        return Refusal{"Cannot import file because its name holds a double quote or a line end."};
+    takeTeams(save);
+    if (auto seasonOver = seasonRefusal())
+        return seasonOver;
+    readPlayoffRecords(app_.files(), app_.state.PlayoffSeries);
+    series_ = app_.state.PlayoffSeries;
+    if (!window_.Season || !app_.state.PlayoffMode)
+        return std::nullopt;
+    seriesOfGame_ = seriesOfGame(series_, home_, away_);
+    if (!seriesOfGame_)
+        return Refusal{"Cannot import file because this is not a valid post season game."};
+    return std::nullopt;
+}
+
+void GameInHand::takeTeams(const SaveState& save) {
+    home_ = save.team(Side::Home);
+    away_ = save.team(Side::Away);
+    app_.state.HomeName = TeamName[home_];
+    app_.state.AwayName = TeamName[away_];
+}
+
+bool GameInHand::hasGamesLeft(TeamIndex team) const {
+    return app_.state.TeamLeaderTable[team][0] < app_.state.SeasonLength;
+}
+
+std::optional<Refusal> GameInHand::seasonRefusal() const {
+    const bool homePlays = hasGamesLeft(home_);
+    const bool awayPlays = hasGamesLeft(away_);
+    if ((homePlays && awayPlays) || window_.Exhibition || app_.state.PlayoffMode)
+        return std::nullopt;
+    const std::string& home = app_.state.HomeName;
+    const std::string& away = app_.state.AwayName;
+    const std::string text = homePlays   ? seasonCompleted(away, "has")
+                             : awayPlays ? seasonCompleted(home, "has")
+                                         : seasonCompleted(home + " and " + away, "have");
+    return Refusal{.text = text, .seasonEnds = true};
+}
+
+/// Writes the game's page, its list row and the recent games, and chooses its stars.
+void GameInHand::publish() {
+    window_.FillWindow = false;
+    window_.LoadStats_Click();
+    window_.FillWindow = true;
+}
+
+void GameInHand::fold(const SaveState& save) {
+    const ApplicationState& state = app_.state;
+    const ImportedGame game{readGameSheet(save),
+                            readRosters(app_.files(), save),
+                            state.partOfYear(),
+                            window_.Season,
+                            state.GameLastPeriod == OvertimePeriod,
+                            state.SeasonLength,
+                            {window_.homeCoach(), window_.awayCoach()},
+                            state.Star,
+                            state.StarSlot};
+    importGame(app_.files(), game);
+    if (seriesOfGame_)
+        recordResult(series_, *seriesOfGame_, game.sheet.home.Goals, game.sheet.away.Goals);
+    if (window_.Season)
+        app_.files().write(paths::PlayoffRecords, textOf(series_));
+}
+
+/// The state of the window and the run when an import ends, however it ends.
+class ImportEnd {
+public:
+    ImportEnd(Application& app, StatExtractor& window) : app_(app), window_(window) {}
+    ~ImportEnd() {
+        window_.FillWindow = true;
+        window_.GameLoaded = window_.GameLoaded && keepsGame;
+        app_.state.GameLastPeriod = 0;
+    }
+    ImportEnd(const ImportEnd&) = delete;
+    ImportEnd& operator=(const ImportEnd&) = delete;
+
+    bool keepsGame = false;
+
+private:
+    Application& app_;
+    StatExtractor& window_;
+};
+
+/// Imports the game in hand with the raised number, all or nothing of it; of a refused game and of one that
+/// broke the raised number stays alone.
+std::optional<Refusal> importGameInHand(Application& app, StatExtractor& window) {
+    const BusyPointer busy(app.platform());
+    const int number = raisedGameNumber(app.files());
+    try {
+        Operation operation(app);
+        GameInHand game(app, window);
+        app.files().write(paths::OverallGameNumber, numberLine(number));
+        auto refusal = game.import();
+        operation.commit();
+        if (!refusal)
+            game.keepSeries();
+        return refusal;
+    } catch (const FileError&) {
+        keepGameNumber(app, number);
+        throw;
+    }
+}
+
+} // namespace
+
+void StatExtractor::ImportStats_Click() {
+    const bool single = ImportMode != 1;
+    ImportEnd end(app_, *this);
+    if (const auto refusal = importGameInHand(app_, *this)) {
+        end.keepsGame = refusal->keepsGame;
+        const Answer answer = app_.platform().ask({refusal->text, single ? Buttons::Ok : Buttons::OkCancel});
+        if (!single)
+            ImportAnswer = answer;
+        else if (refusal->seasonEnds)
+            checkSeason();
+        return;
+    }
+    ++ImportCount;
+    if (!single)
+        return;
+    app_.platform().say("The game has been imported and stats have been saved.");
+    checkSeason();
+    updateStandings();
+}
+
+void StatExtractor::updateStandings() {
+    Standings& standings = app_.windows().standings();
+    standings.HomeAwayStandingsUpdate();
+    standings.vsConfLoad();
+    standings.EvE_Click();
+    standings.WvW_Click();
+}
+
+} // namespace iceline

@@ -1,0 +1,27 @@
+#pragma once
+
+#include "files/Files.h"
+#include "shell/Platform.h"
+
+#include <string>
+#include <string_view>
+
+/// Players' names where they become names of files. Titles and cells show a name as it stands.
+namespace iceline {
+
+/// The name of a player's page without its ending, for files and links: what a file system refuses
+/// (/ \ : * ? " < > | and control characters) becomes "_".
+std::string playerFileName(std::string_view name);
+
+/// True when the site has a card of that player: his exact name with ".gif" in PlayerCards.
+bool hasPlayerCard(Files& files, std::string_view name);
+
+/// The card of a skater who has none of his own: "Skater1" or "Skater2", by chance.
+std::string defaultSkaterCard(Platform& platform);
+
+inline constexpr std::string_view DefaultGoalieCard = "Goalie1";
+
+/// The card to show of a player, without its ending: his own or a default one.
+std::string playerCard(Files& files, Platform& platform, std::string_view name, bool isGoalie);
+
+} // namespace iceline

@@ -1,0 +1,42 @@
+#include "playoffs/SeasonEnd.h"
+
+#include "playoffs/Bracket.h"
+#include "shell/Application.h"
+#include "standings/Standings.h"
+#include "store/TeamFiles.h"
+
+namespace iceline {
+
+namespace {
+
+bool allTeamsAreDone(Application& app) {
+    for (TeamIndex team = 0; team < LeagueTeams; ++team)
+        if (readTopOfTeamRecord(app.files(), paths::teamFolder(team)).GP < app.state.SeasonLength)
+            return false;
+    return true;
+}
+
+/// The caption of the game window says that the play-offs are on.
+void redrawGameWindow(Windows& windows) {
+    if (!windows.isLoaded(WindowId::StatExtractor))
+        return;
+    if (const auto& redraw = windows.use(WindowId::StatExtractor).onChange)
+        redraw();
+}
+
+} // namespace
+
+void checkSeason(Application& app) {
+    if (app.state.PlayoffMode || !allTeamsAreDone(app))
+        return;
+    // First of all, since it reads files and can fail: the season then goes on as before.
+    app.windows().standings().DivisionStandingsUpdate();
+    if (app.state.StartupDone)
+        app.platform().say("Regular Season COMPLETE, Playoff Mode now active for the Postseason.");
+    app.state.PlayoffMode = true;
+    app.state.SeasonFolder = seasonFolder(PartOfYear::Playoffs);
+    seedFirstRound(app.state.PlayoffSeries, app.state.WalesSeeds, app.state.CampbellSeeds);
+    redrawGameWindow(app.windows());
+}
+
+} // namespace iceline

@@ -1,0 +1,217 @@
+#include "season/Options.h"
+
+#include "books/Clearing.h"
+#include "coaches/Coaches.h"
+#include "leaders/Rankings.h"
+#include "league/Numbers.h"
+#include "playoffs/SeasonEnd.h"
+#include "shell/Application.h"
+#include "standings/Standings.h"
+#include "store/LeagueFiles.h"
+
+#include <charconv>
+#include <limits>
+#include <optional>
+
+namespace iceline {
+
+namespace {
+
+constexpr int EndedByHand = -1;
+constexpr int SeasonLengthLimit = std::numeric_limits<std::int16_t>::max();
+
+void storeSeasonLength(Application& app, int length) {
+    Operation operation(app);
+    app.files().write(paths::GamesUntilPlayoffs, numberLine(length));
+    operation.commit();
+    app.state.SeasonLength = length;
+}
+
+bool confirms(Application& app, const std::string& question, const std::string& title = Message().title) {
+    return app.platform().ask({question, Buttons::YesNo, title}) == Answer::Yes;
+}
+
+} // namespace
+
+std::optional<int> seasonLengthOf(const std::string& typed) {
+    const auto first = typed.find_first_not_of(' ');
+    if (first == std::string::npos)
+        return std::nullopt;
+    const std::string text = typed.substr(first, typed.find_last_not_of(' ') - first + 1);
+    double value = 0;
+    const char* end = text.data() + text.size();
+    const auto [stop, error] = std::from_chars(text.data(), end, value, std::chars_format::fixed);
+    if (error != std::errc() || stop != end || value < EndedByHand - 0.5 || value > SeasonLengthLimit + 0.5)
+        return std::nullopt;
+    const int length = wholeNumber(value);
+    if (length < EndedByHand || length > SeasonLengthLimit)
+        return std::nullopt;
+    return length;
+}
+
+void Options::Form_Load() {
+    content_.coaches = coachNames(app_.files());
+    content_.CurrentSeasonLength = std::to_string(app_.state.SeasonLength);
+}
+
+std::string Options::chosenCoach() const {
+    return Combo1 == NotChosen ? "" : content_.coaches.at(Combo1);
+}
+
+void Options::refreshCoaches() {
+    content_.coaches = coachNames(app_.files());
+    Combo1 = NotChosen;
+}
+
+void Options::NewCoach_Click() {
+    content_.Command2Visible = false;
+    content_.Command1Visible = !content_.Command1Visible;
+    NewC.clear();
+    changed();
+}
+
+/// Puts the name as it will be stored into the input, and says why it cannot be taken when it cannot.
+bool Options::acceptsNewName() {
+    NewC = storedCoachName(NewC);
+    if (NewC.empty() || findCoach(app_.files(), NewC)) {
+        app_.platform().say(NewC + " already exists");
+        return false;
+    }
+    if (const auto problem = coachNameProblem(NewC)) {
+        app_.platform().say(*problem);
+        return false;
+    }
+    return true;
+}
+
+void Options::Command1_Click() {
+    if (acceptsNewName()) {
+        Operation operation(app_);
+        createCoach(app_.files(), NewC);
+        operation.commit();
+        refreshCoaches();
+    }
+    NewC.clear();
+    changed();
+}
+
+void Options::EditCoach_Click() {
+    if (Combo1 == NotChosen) {
+        app_.platform().say("Please select coach first!");
+        return;
+    }
+    content_.Command1Visible = false;
+    content_.Command2Visible = !content_.Command2Visible;
+    NewC = chosenCoach();
+    changed();
+}
+
+void Options::Command2_Click() {
+    if (Combo1 == NotChosen) {
+        app_.platform().say("Please select coach first!");
+        return;
+    }
+    if (acceptsNewName()) {
+        Operation operation(app_);
+        renameCoach(app_.files(), chosenCoach(), NewC);
+        operation.commit();
+        EditCoach_Click();
+        refreshCoaches();
+    }
+    changed();
+}
+
+void Options::DeleteCoach_Click() {
+    if (Combo1 == NotChosen) {
+        app_.platform().say("Please select coach first!");
+        return;
+    }
+    if (!confirms(app_, "Are you sure you want to delete coach " + chosenCoach() + "?"))
+        return;
+    Operation operation(app_);
+    deleteCoach(app_.files(), chosenCoach());
+    operation.commit();
+    refreshCoaches();
+    content_.Command2Visible = false;
+    changed();
+}
+
+void Options::CoachTeam_Click() {
+    if (Combo1 == NotChosen) {
+        app_.platform().say("Please select coach first.");
+        return;
+    }
+    const std::string coach = chosenCoach();
+    if (!confirms(app_, "Are you sure you want to clear all of Coach " + coach + "'s Stats?"))
+        return;
+    Operation operation(app_);
+    clearCoach(app_.files(), coach);
+    operation.commit();
+    app_.platform().say(coach + "'s Stats have been cleared.");
+}
+
+void Options::EnterSeasonLength_Click() {
+    const auto length = seasonLengthOf(SeasonLength);
+    if (!length) {
+        app_.platform().say("The season length must be a whole number from -1 to 32767, not \"" +
+                            SeasonLength + "\".");
+        return;
+    }
+    storeSeasonLength(app_, *length);
+    content_.CurrentSeasonLength = std::to_string(*length);
+    changed();
+    app_.platform().say("The Season Length has been updated.");
+}
+
+void Options::GoToPlayoffs_Click() {
+    if (!confirms(app_, "Are you sure you want to end the Regular Season and move to the Playoffs?"))
+        return;
+    storeSeasonLength(app_, EndedByHand);
+    checkSeason(app_);
+    app_.platform().say("The Regular Season is now over, proceed with the Playoffs.");
+}
+
+void Options::ClearTeamSelect_Click() {
+    changed();
+}
+
+void Options::Command8_Click() {
+    if (ClearTeamSelect == NotChosen) {
+        app_.platform().say("Please select a team or [ALL] first!");
+        return;
+    }
+    if (!confirms(app_, "Are you sure you want to reset everything back to 0?", "Reset Stats? - Yes or No"))
+        return;
+    if (ClearTeamSelect < LeagueTeams)
+        clearOneTeam(ClearTeamSelect);
+    else
+        clearWholeLeague();
+}
+
+void Options::clearOneTeam(TeamIndex team) {
+    Operation operation(app_);
+    clearTeam(app_.files(), team);
+    operation.commit();
+    app_.platform().say(std::string(TeamName[team]) + " stats cleared");
+    afterClearing();
+}
+
+void Options::clearWholeLeague() {
+    Operation operation(app_);
+    clearLeague(app_.files());
+    operation.commit();
+    content_.CurrentSeasonLength = std::to_string(readNumber16(app_.files(), paths::GamesUntilPlayoffs));
+    changed();
+    afterClearing();
+    app_.platform().say("All stats have been cleared.");
+}
+
+/// The league is back in its regular season, and the tables in memory follow the files.
+void Options::afterClearing() {
+    app_.state.PlayoffMode = false;
+    app_.state.SeasonFolder.clear();
+    app_.windows().standings().DivisionStandingsUpdate();
+    app_.windows().rankings(PartOfYear::Season).tmLeadersLoad();
+}
+
+} // namespace iceline

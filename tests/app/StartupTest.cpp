@@ -1,0 +1,272 @@
+#include "app/Startup.h"
+
+#include "files/FileError.h"
+#include "store/LeagueFiles.h"
+#include "support/TestLeague.h"
+
+#include <gmock/gmock.h>
+
+namespace iceline {
+namespace {
+
+using test::MemoryFiles;
+using test::TestLeague;
+using test::TestPlatform;
+using testing::Contains;
+using testing::ElementsAre;
+using testing::HasSubstr;
+using testing::IsEmpty;
+using testing::SizeIs;
+
+constexpr const char* Question =
+    "Some or all of the required data files are not present,\n"
+    "would you like the missing ones to be created?\n"
+    "\n"
+    "(There are several files, so make sure the .EXE is in a separate folder first!)";
+
+/// One run of the program up to the main window.
+struct ProgramRun {
+    explicit ProgramRun(MemoryFiles& files, std::deque<Answer> answers = {})
+        : app(files, siteTemplate, platform) {
+        platform.answers = std::move(answers);
+    }
+
+    MemoryFiles siteTemplate = test::smallSiteTemplate();
+    TestPlatform platform;
+    Application app;
+};
+
+std::string repeated(int times, const std::string& line) {
+    std::string text;
+    for (int i = 0; i < times; ++i)
+        text += line;
+    return text;
+}
+
+TEST(FirstRun, AsksOnceAndMakesEveryFolderAndFile) {
+    MemoryFiles files;
+    ProgramRun run(files, {Answer::Ok});
+
+    ASSERT_TRUE(startUp(run.app));
+
+    ASSERT_THAT(run.platform.messages, SizeIs(1));
+    const Message& question = run.platform.messages.front();
+    EXPECT_EQ(question.title, "Data files missing");
+    EXPECT_EQ(question.text, Question);
+    EXPECT_EQ(question.buttons, Buttons::OkCancel);
+    // Nine files a team, sixteen of the league and the template's three.
+    EXPECT_THAT(files.files, SizeIs(24 * 9 + 16 + 3));
+    EXPECT_EQ(files.foldersIn("IcelineWebPages/Profiles").size(), 24u);
+    EXPECT_EQ(files.foldersIn("IcelineWebPages/PlayoffProfiles").size(), 24u);
+    for (const char* folder : {"BoxScores", "CStats", "PlayoffTStats", "TStats"})
+        EXPECT_TRUE(files.isFolder(paths::page(folder))) << folder;
+    EXPECT_TRUE(files.isFolder("Coaches"));
+    EXPECT_FALSE(files.isFolder("All-Stars East"));
+    EXPECT_EQ(run.platform.busyDepth, 0);
+}
+
+TEST(FirstRun, FilesBeginWithTheirInitialContent) {
+    const TestLeague league;
+    const auto& files = league.files.files;
+    const std::string zeros = repeated(25, "0,0,0,0,0,0,0,0,0,0,0,0,0,0,0,0\r\n");
+    for (const std::string team : {"Boston Bruins", "St. Louis Blues/Post Season", "Winnipeg Jets"}) {
+        EXPECT_EQ(files.at(team + "/Last 10 Games.txt"), "");
+        EXPECT_EQ(files.at(team + "/Streak.txt"), "\"\",0\r\n");
+        EXPECT_EQ(files.at(team + "/Player Stats.txt"), zeros);
+        const std::string records = files.at(team + "/Records.txt");
+        EXPECT_EQ(records, repeated(13, "0,") + "\"\"," + repeated(79, "0,") + "\"0\"," + repeated(12, "0,") +
+                               "80,0,0,0,0,0,0\r\n");
+    }
+    EXPECT_THAT(files.at("Quebec Nordiques/Players List.txt"), testing::EndsWith("-----------,0,0,D\r\n"));
+
+    EXPECT_EQ(files.at("Last 10 Box.txt"), "");
+    EXPECT_EQ(files.at("Games Until Playoffs.txt"), "82\r\n");
+    EXPECT_EQ(files.at("Overall Game Number.txt"), "0\r\n");
+    EXPECT_EQ(files.at("Playoff Records.txt"), repeated(8, "0,0\r\n") + repeated(7, "0,0,30,30\r\n"));
+    for (const std::string twin : {"", "Playoff "}) {
+        const std::string zerosAnd80 = repeated(25, "0,") + "80\r\n";
+        EXPECT_EQ(files.at(twin + "League Record Crowd Meter.txt"), "80\r\n");
+        EXPECT_EQ(files.at(twin + "League Records.txt"), zerosAnd80);
+        EXPECT_EQ(files.at(twin + "All-Time League Records.txt"), zerosAnd80);
+        EXPECT_EQ(files.at(twin + "All-Time Goalie Records.txt"), repeated(4, "0,\"\",0,") + "0,\"\",0\r\n");
+        EXPECT_EQ(files.at(twin + "All-Time Player Records.txt"), repeated(6, "0,\"\",0,") + "0,\"\",0\r\n");
+        EXPECT_EQ(files.at(twin + "Coaches League Records.txt"),
+                  repeated(25, ",") + "80" + repeated(12, ",,\"\",0") + "\r\n");
+    }
+}
+
+TEST(FirstRun, TheSiteBeginsAsACopyOfTheTemplate) {
+    MemoryFiles files;
+    ProgramRun run(files);
+    run.siteTemplate.files["Rankings/.gitkeep"] = "";
+    ASSERT_TRUE(startUp(run.app));
+    EXPECT_EQ(files.read("IcelineWebPages/styles.css"), run.siteTemplate.files["styles.css"]);
+    EXPECT_EQ(files.read("IcelineWebPages/PStats/index.php"), run.siteTemplate.files["PStats/index.php"]);
+    EXPECT_TRUE(files.isFolder("IcelineWebPages/PlayoffRankings"));
+    EXPECT_FALSE(files.isFile("IcelineWebPages/Rankings/.gitkeep"));
+}
+
+TEST(FirstRun, CancelTouchesNothing) {
+    MemoryFiles files;
+    ProgramRun run(files, {Answer::Cancel});
+    EXPECT_FALSE(startUp(run.app));
+    EXPECT_THAT(files.files, IsEmpty());
+    EXPECT_THAT(files.folders, IsEmpty());
+    EXPECT_THAT(run.platform.messages, SizeIs(1));
+    EXPECT_FALSE(run.app.state.StartupDone);
+    EXPECT_EQ(run.platform.busyDepth, 0);
+}
+
+TEST(LaterRun, PassesInSilenceAndChangesNothing) {
+    TestLeague league;
+    league.addCoach("Gus");
+    const auto before = league.files.files;
+    ProgramRun run(league.files);
+    ASSERT_TRUE(startUp(run.app));
+    EXPECT_THAT(run.platform.messages, IsEmpty());
+    EXPECT_EQ(league.files.files, before);
+    EXPECT_TRUE(run.app.state.ShowWindows);
+    EXPECT_TRUE(run.app.state.StartupDone);
+    EXPECT_EQ(run.app.state.SeasonLength, 82);
+    EXPECT_FALSE(run.app.state.PlayoffMode);
+}
+
+/// A file that is missing from a league in use is asked for and made; every other file stays as it is.
+void expectRepairOf(const std::string& path, const std::string& content) {
+    TestLeague league;
+    league.addCoach("Gus");
+    for (auto& [name, text] : league.files.files)
+        if (name != "Games Until Playoffs.txt" && !name.ends_with("Records.txt"))
+            text += "kept";
+    auto expected = league.files.files;
+    expected[path] = content;
+    league.files.remove(path);
+
+    ProgramRun run(league.files, {Answer::Ok});
+    ASSERT_TRUE(startUp(run.app)) << path;
+    EXPECT_THAT(run.platform.said(), ElementsAre(Question)) << path;
+    EXPECT_EQ(league.files.files, expected) << path;
+}
+
+TEST(LaterRun, MakesAMissingFileAlone) {
+    expectRepairOf("Boston Bruins/Streak.txt", "\"\",0\r\n");
+    expectRepairOf("Playoff League Record Crowd Meter.txt", "80\r\n");
+    expectRepairOf("Coaches/Gus/Last 10 Games.txt", "");
+    expectRepairOf("Tampa Bay Lightning/Players List.txt",
+                   TestLeague().files.read("Tampa Bay Lightning/Players List.txt"));
+}
+
+TEST(LaterRun, ASiteThatExistsIsNotFilledFromTheTemplate) {
+    TestLeague league;
+    league.files.remove("IcelineWebPages/styles.css");
+    league.files.removeFolder("IcelineWebPages/CStats");
+    ProgramRun run(league.files);
+    ASSERT_TRUE(startUp(run.app));
+    EXPECT_THAT(run.platform.said(), ElementsAre(Question));
+    EXPECT_TRUE(league.files.isFolder("IcelineWebPages/CStats"));
+    EXPECT_FALSE(league.files.isFile("IcelineWebPages/styles.css"));
+}
+
+TEST(LaterRun, AnEmptiedFileCountsAsExisting) {
+    TestLeague league;
+    league.files.files["Boston Bruins/Streak.txt"].clear();
+    ProgramRun run(league.files);
+    ASSERT_TRUE(startUp(run.app));
+    EXPECT_THAT(run.platform.messages, IsEmpty());
+    EXPECT_EQ(league.files.read("Boston Bruins/Streak.txt"), "");
+}
+
+TEST(LaterRun, AnEmptiedSeasonLengthEndsTheStart) {
+    TestLeague league;
+    league.files.files["Games Until Playoffs.txt"].clear();
+    ProgramRun run(league.files);
+    try {
+        startUp(run.app);
+        FAIL() << "the start went on";
+    } catch (const FileError& error) {
+        EXPECT_THAT(error.what(), HasSubstr("Games Until Playoffs.txt"));
+    }
+    EXPECT_FALSE(run.app.state.StartupDone);
+}
+
+TEST(LaterRun, RestoresThePlayoffsWithoutAWord) {
+    TestLeague league;
+    league.files.files["Games Until Playoffs.txt"] = "2\r\n";
+    TeamRecord done;
+    done.GP = 2;
+    for (TeamIndex team = 0; team < LeagueTeams; ++team)
+        league.setRecord(team, PartOfYear::Season, done);
+    ProgramRun run(league.files);
+    ASSERT_TRUE(startUp(run.app));
+    EXPECT_THAT(run.platform.messages, IsEmpty());
+    EXPECT_TRUE(run.app.state.PlayoffMode);
+    EXPECT_EQ(run.app.state.SeasonFolder, "/Post Season");
+
+    done.GP = 1;
+    league.setRecord(23, PartOfYear::Season, done);
+    ProgramRun oneGameLeft(league.files);
+    ASSERT_TRUE(startUp(oneGameLeft.app));
+    EXPECT_FALSE(oneGameLeft.app.state.PlayoffMode);
+}
+
+TEST(LaterRun, ASeasonEndedByHandStaysEnded) {
+    TestLeague league;
+    league.files.files["Games Until Playoffs.txt"] = "-1\r\n";
+    ProgramRun run(league.files);
+    ASSERT_TRUE(startUp(run.app));
+    EXPECT_TRUE(run.app.state.PlayoffMode);
+    EXPECT_EQ(run.app.state.SeasonLength, -1);
+}
+
+/// A disk on which one file cannot be written.
+class DiskWithABadFile : public MemoryFiles {
+public:
+    using MemoryFiles::MemoryFiles;
+
+    void write(const std::string& path, std::string_view content, Durability durability) override {
+        if (path == badFile)
+            throw FileError(path, "cannot be written");
+        MemoryFiles::write(path, content, durability);
+    }
+
+    std::string badFile;
+};
+
+TEST(UnfinishedChange, IsFinishedAtTheNextStartWhenItsJournalIsWhole) {
+    const TestLeague league;
+    DiskWithABadFile disk;
+    disk.files = league.files.files;
+    disk.folders = league.files.folders;
+    disk.badFile = "Last 10 Box.txt";
+    {
+        ProgramRun broken(disk);
+        Operation operation(broken.app);
+        broken.app.files().write("Games Until Playoffs.txt", "60\r\n");
+        broken.app.files().write("Last 10 Box.txt", "0,1\r\n3,2\r\n\"BOS3.htm\"\r\n");
+        EXPECT_THROW(operation.commit(), FileError);
+    }
+    disk.badFile.clear();
+
+    ProgramRun next(disk);
+    ASSERT_TRUE(startUp(next.app));
+    EXPECT_THAT(next.platform.said(),
+                ElementsAre("The last change to the league was interrupted. It has now been finished."));
+    EXPECT_EQ(next.app.state.SeasonLength, 60);
+    EXPECT_EQ(disk.read("Last 10 Box.txt"), "0,1\r\n3,2\r\n\"BOS3.htm\"\r\n");
+    EXPECT_FALSE(disk.isFile(Journal::FileName));
+}
+
+TEST(UnfinishedChange, IsDroppedAtTheNextStartWhenItsJournalIsTorn) {
+    TestLeague league;
+    const auto before = league.files.files;
+    league.files.write(Journal::FileName, "torn", Durability::Now);
+    ProgramRun run(league.files);
+    ASSERT_TRUE(startUp(run.app));
+    EXPECT_THAT(run.platform.said(),
+                ElementsAre("The last change to the league was interrupted before it could be saved. "
+                            "The league is as it was before that change."));
+    EXPECT_EQ(league.files.files, before);
+}
+
+} // namespace
+} // namespace iceline

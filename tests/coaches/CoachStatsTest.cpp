@@ -1,0 +1,94 @@
+#include "coaches/CoachStats.h"
+
+#include "support/TestLeague.h"
+
+#include <gmock/gmock.h>
+
+namespace iceline::test {
+
+namespace {
+
+using testing::ElementsAre;
+using testing::HasSubstr;
+
+TeamRecord recordOf(int games, int points) {
+    TeamRecord record;
+    record.GP = record.GameCount = games;
+    record.Points = points;
+    record.WinPercent = 0.583;
+    record.GF = 7;
+    return record;
+}
+
+class CoachStatsTest : public testing::Test {
+protected:
+    CoachStatsTest() {
+        league.addCoach("Ann", recordOf(3, 4));
+        league.addCoach("Bob", recordOf(3, 4));
+        league.addCoach("Cy", recordOf(2, 1));
+        league.addCoach("New", recordOf(0, 0));
+    }
+
+    CoachStats& open() { return static_cast<CoachStats&>(league.app.windows().use(WindowId::CoachStats)); }
+
+    static std::vector<std::string> ranking(const CoachStats& window) {
+        std::vector<std::string> names;
+        for (const LeaderLine& line : window.content().ranking.lines)
+            names.push_back(std::to_string(line.number) + line.name);
+        return names;
+    }
+
+    TestLeague league;
+};
+
+TEST_F(CoachStatsTest, RanksThoseWhoHaveGames) {
+    CoachStats& window = open();
+    EXPECT_THAT(ranking(window), ElementsAre("1Ann", "2Bob", "3Cy"));
+    window.tmLeadersCol_Click(2);
+    EXPECT_THAT(ranking(window), ElementsAre("1Cy", "2Ann", "3Bob"))
+        << "of equal points the earlier in the list comes first in both directions";
+    window.tmLeadersCol_Click(0);
+    EXPECT_THAT(ranking(window), ElementsAre("1Cy", "2Bob", "3Ann"));
+    EXPECT_EQ(window.content().ranking.lines[0].figures[3], "3.5") << "goals a game";
+}
+
+TEST_F(CoachStatsTest, TheTableOfAllCoachesHasThoseWithoutGamesToo) {
+    league.app.state.ShowWindows = false;
+    open();
+    const std::string page = league.page("CoachingStats.htm");
+    EXPECT_THAT(page, HasSubstr("<img src='Headers/CoachingStats.gif'></img>"));
+    EXPECT_THAT(
+        page, HasSubstr("<tr><td><a href=\"./CStats/Ann.htm\" ><b>Ann</b></a></td><td><center>3</center></td>"
+                        "<td><center>0</center></td><td><center>0</center></td><td><center>0</center></td>"
+                        "<td><center>0.583</center></td>"));
+    EXPECT_THAT(page, HasSubstr("./CStats/New.htm"));
+    EXPECT_TRUE(page.ends_with("</center></td>\r\n</tr></table></font></center></body></html>\r\n"));
+    EXPECT_FALSE(league.files.isFile("IcelineWebPages/CStats/Ann.htm"));
+}
+
+TEST_F(CoachStatsTest, EveryChoiceOfACoachWritesHisPage) {
+    CoachStats& window = open();
+    window.TeamSelect_Click();
+    EXPECT_FALSE(window.content().coach);
+    league.files.files["Coaches/Bob/Last 10 Games.txt"] = "\"W\"\r\n\"L\"\r\n\"W\"\r\n";
+    window.TeamSelect = 1;
+    window.TeamSelect_Click();
+    EXPECT_EQ(window.CoachName(), "Bob");
+    EXPECT_EQ(window.content().coach->lastTen.wins, 2);
+    const std::string page = league.page("CStats/Bob.htm");
+    EXPECT_THAT(page,
+                HasSubstr("<table border = 1><tr><th><font size = 7>Bob</font></th></tr></table><BR>\r\n"
+                          "<table border = 1><tr><th><b>W - L - T</b></th>"));
+}
+
+TEST(CoachStats, ALeagueWithoutCoachesHasAnEmptyTable) {
+    TestLeague league;
+    league.app.state.ShowWindows = false;
+    league.app.windows().use(WindowId::CoachStats);
+    EXPECT_TRUE(league.page("CoachingStats.htm")
+                    .ends_with("</tr>\r\n</tr></table></font></center></body></html>\r\n"));
+}
+
+} // namespace
+
+} // namespace iceline::test

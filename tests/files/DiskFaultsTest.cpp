@@ -1,0 +1,270 @@
+// Faults that only a real disk has: full, read-only, forbidden, cut off. Each test takes them in a process of
+// its own, so that nothing of the machine is changed.
+
+#include "files/DiskFiles.h"
+#include "files/Journal.h"
+#include "files/LeagueLock.h"
+#include "support/ErrorMessage.h"
+#include "support/TemporaryFolder.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <chrono>
+#include <csignal>
+#include <cstdio>
+#include <fcntl.h>
+#include <fstream>
+#include <functional>
+#include <random>
+#include <sys/resource.h>
+#include <sys/stat.h>
+#include <sys/wait.h>
+#include <thread>
+#include <unistd.h>
+#ifdef __linux__
+#include <sched.h>
+#include <sys/mount.h>
+#endif
+
+namespace iceline::test {
+
+namespace {
+
+namespace fs = std::filesystem;
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+constexpr int Skipped = 77;
+
+/// Runs `body` in a child process. The child's failed expectations fail the test here; a `body` that gives
+/// false could not make the fault that it wants.
+void inChild(const std::function<bool()>& body) {
+    const pid_t child = fork();
+    ASSERT_GE(child, 0);
+    if (child == 0) {
+        const bool made = body();
+        std::fflush(nullptr);
+        _exit(testing::Test::HasFailure() ? 1 : made ? 0 : Skipped);
+    }
+    int status = 0;
+    ASSERT_EQ(waitpid(child, &status, 0), child);
+    ASSERT_TRUE(WIFEXITED(status));
+    if (WEXITSTATUS(status) == Skipped)
+        GTEST_SKIP() << "this fault cannot be made here";
+    EXPECT_EQ(WEXITSTATUS(status), 0) << "see the failures above";
+}
+
+/// Mounts a small disk over the folder, which this process alone sees.
+bool mountSmallDisk(const fs::path& folder) {
+#ifdef __linux__
+    return unshare(CLONE_NEWNS) == 0 && mount("none", "/", nullptr, MS_REC | MS_PRIVATE, nullptr) == 0 &&
+           mount("none", folder.c_str(), "tmpfs", 0, "size=64k") == 0;
+#else
+    return folder.empty();
+#endif
+}
+
+bool makeReadOnly(const fs::path& folder) {
+#ifdef __linux__
+    return mount("none", folder.c_str(), "tmpfs", MS_REMOUNT | MS_RDONLY, nullptr) == 0;
+#else
+    return folder.empty();
+#endif
+}
+
+class DiskFaultsTest : public testing::Test {
+protected:
+    TemporaryFolder folder;
+    DiskFiles disk{folder.path()};
+    Files& files = disk;
+};
+
+} // namespace
+
+TEST_F(DiskFaultsTest, AFullDiskLeavesEverythingAsItWas) {
+    inChild([&] {
+        if (!mountSmallDisk(folder.path()))
+            return false;
+        files.write("Records.txt", "0,0");
+        files.write("BoxScores.htm", "game 1\n");
+        const std::string big(100'000, 'x');
+        for (const auto durability : {Durability::Now, Durability::Later, Durability::Unsynced}) {
+            EXPECT_EQ(errorMessage([&] { files.write("Records.txt", big, durability); }),
+                      "Records.txt: cannot be written: the disk is full");
+            EXPECT_EQ(errorMessage([&] { files.extend("BoxScores.htm", 7, big, durability); }),
+                      "BoxScores.htm: cannot be written: the disk is full");
+            EXPECT_EQ(errorMessage([&] { files.write("New.htm", big, durability); }),
+                      "New.htm: cannot be written: the disk is full");
+        }
+        Journal journal(files);
+        EXPECT_EQ(errorMessage([&] {
+                      journal.commit({{Change::Kind::Write, "Records.txt", 0, big}});
+                  }),
+                  "Unfinished Changes.journal: cannot be written: the disk is full");
+        EXPECT_EQ(files.read("Records.txt"), "0,0");
+        EXPECT_EQ(files.read("BoxScores.htm"), "game 1\n");
+        EXPECT_THAT(files.filesIn(""), ElementsAre("BoxScores.htm", "Records.txt"));
+        EXPECT_FALSE(fs::exists(folder.path() / "Records.txt.new~"));
+
+        journal.commit({{Change::Kind::Write, "Records.txt", 0, "1,0"}});
+        EXPECT_EQ(files.read("Records.txt"), "1,0");
+        return true;
+    });
+}
+
+/// The journal fits on the disk and the file does not: the change is finished when there is room.
+TEST_F(DiskFaultsTest, AChangeThatFoundNoRoomIsFinishedLater) {
+    inChild([&] {
+        if (!mountSmallDisk(folder.path()))
+            return false;
+        files.write("ballast", std::string(20'000, 'x'));
+        const std::string page(24'000, 'p');
+        Journal journal(files);
+        EXPECT_EQ(errorMessage([&] {
+                      journal.commit({{Change::Kind::Write, "page.htm", 0, page}});
+                  }),
+                  "page.htm: cannot be written: the disk is full. The change is noted in \"Unfinished "
+                  "Changes.journal\" and will be finished before the next one or at the next start");
+        EXPECT_FALSE(files.isFile("page.htm"));
+        files.remove("ballast");
+        EXPECT_EQ(Journal(files).recover(), Recovery::Finished);
+        EXPECT_EQ(files.read("page.htm"), page);
+        return true;
+    });
+}
+
+TEST_F(DiskFaultsTest, AReadOnlyDiskIsReadAndNotWritten) {
+    inChild([&] {
+        if (!mountSmallDisk(folder.path()))
+            return false;
+        files.write("Records.txt", "0,0");
+        if (!makeReadOnly(folder.path()))
+            return false;
+        EXPECT_EQ(files.read("Records.txt"), "0,0");
+        EXPECT_EQ(errorMessage([&] { files.write("Records.txt", "1,0"); }),
+                  "Records.txt: cannot be written: the disk is read-only");
+        EXPECT_EQ(errorMessage([&] { files.extend("Records.txt", 3, "x"); }),
+                  "Records.txt: cannot be written: the disk is read-only");
+        EXPECT_EQ(errorMessage([&] { files.remove("Records.txt"); }),
+                  "Records.txt: cannot be removed: the disk is read-only");
+        EXPECT_EQ(errorMessage([&] { files.makeFolder("BOS"); }),
+                  "BOS: cannot be made: the disk is read-only");
+        EXPECT_EQ(errorMessage([&] { LeagueLock(folder.path(), "iceline"); }),
+                  "League in use.lock: the league folder cannot be written: the disk is read-only");
+        return true;
+    });
+}
+
+TEST_F(DiskFaultsTest, APartWrittenToTheLimitIsTakenBack) {
+    inChild([&] {
+        const rlimit limit{1000, 1000};
+        std::signal(SIGXFSZ, SIG_IGN);
+        if (setrlimit(RLIMIT_FSIZE, &limit) != 0)
+            return false;
+        files.write("BoxScores.htm", "game 1\n");
+        const std::string big(2000, 'x');
+        EXPECT_EQ(errorMessage([&] { files.extend("BoxScores.htm", 7, big); }),
+                  "BoxScores.htm: cannot be written: it would be too large");
+        EXPECT_EQ(errorMessage([&] { files.write("BoxScores.htm", big); }),
+                  "BoxScores.htm: cannot be written: it would be too large");
+        EXPECT_EQ(files.read("BoxScores.htm"), "game 1\n");
+        EXPECT_FALSE(fs::exists(folder.path() / "BoxScores.htm.new~"));
+        return true;
+    });
+}
+
+TEST_F(DiskFaultsTest, PermissionsAreKeptAndHeeded) {
+    files.write("shared.txt", "old");
+    ASSERT_EQ(chmod((folder.path() / "shared.txt").c_str(), 0664), 0);
+    files.write("shared.txt", "new");
+    EXPECT_EQ(fs::status(folder.path() / "shared.txt").permissions(), fs::perms(0664));
+
+    files.makeFolder("BOS");
+    files.write("secret.txt", "x");
+    files.write("fixed.txt", "x");
+    ASSERT_EQ(chmod(folder.path().c_str(), 0777), 0);
+    ASSERT_EQ(chmod((folder.path() / "secret.txt").c_str(), 0), 0);
+    ASSERT_EQ(chmod((folder.path() / "fixed.txt").c_str(), 0444), 0);
+    ASSERT_EQ(chmod((folder.path() / "BOS").c_str(), 0555), 0);
+    inChild([&] {
+        if (geteuid() == 0 && seteuid(65534) != 0)
+            return false;
+        EXPECT_EQ(errorMessage([&] { files.read("secret.txt"); }),
+                  "secret.txt: cannot be read: permission denied");
+        EXPECT_EQ(errorMessage([&] { files.write("fixed.txt", "y"); }),
+                  "fixed.txt: cannot be written: permission denied");
+        EXPECT_EQ(errorMessage([&] { files.write("BOS/Records.txt", "y"); }),
+                  "BOS/Records.txt: cannot be written: permission denied");
+        EXPECT_EQ(errorMessage([&] { files.makeFolder("BOS/Post Season"); }),
+                  "BOS/Post Season: cannot be made: permission denied");
+        EXPECT_EQ(errorMessage([&] { LeagueLock(folder.path() / "BOS", "iceline"); }),
+                  "League in use.lock: the league folder cannot be written: permission denied");
+        EXPECT_EQ(files.read("fixed.txt"), "x");
+        return true;
+    });
+}
+
+TEST_F(DiskFaultsTest, WhatIsNoRegularFileIsNeitherReadNorListed) {
+    ASSERT_EQ(mkfifo((folder.path() / "pipe").c_str(), 0600), 0);
+    fs::create_symlink("nowhere", folder.path() / "dangling");
+    fs::create_symlink("/etc/hostname", folder.path() / "Records.txt.new~");
+    EXPECT_THAT(files.filesIn(""), IsEmpty());
+    EXPECT_EQ(errorMessage([&] { files.read("pipe"); }), "pipe: cannot be read: it is not a regular file");
+    EXPECT_EQ(errorMessage([&] { files.read("dangling"); }), "dangling: the file is missing");
+    files.write("Records.txt", "0,0");
+    EXPECT_TRUE(fs::is_regular_file(fs::symlink_status(folder.path() / "Records.txt")));
+}
+
+TEST_F(DiskFaultsTest, ALockGoesWithItsProcess) {
+    const fs::path taken = folder.path() / "taken";
+    const pid_t child = fork();
+    ASSERT_GE(child, 0);
+    if (child == 0) {
+        alarm(30);
+        const LeagueLock lock(folder.path(), "iceline");
+        std::ofstream(taken) << "yes";
+        pause();
+    }
+    while (!fs::exists(taken))
+        std::this_thread::sleep_for(std::chrono::milliseconds(1));
+    EXPECT_THAT(errorMessage([&] { LeagueLock(folder.path(), "iceline"); }),
+                testing::HasSubstr("(process " + std::to_string(child) + " on "));
+    kill(child, SIGKILL);
+    waitpid(child, nullptr, 0);
+    EXPECT_EQ(errorMessage([&] { LeagueLock(folder.path(), "iceline"); }), "no error");
+}
+
+/// A program that is killed in the midst of commits has made each of them whole or not at all.
+TEST_F(DiskFaultsTest, AKilledProgramLeavesWholeCommits) {
+    std::mt19937 random(24);
+    files.write("list.txt", "");
+    for (int round = 0; round < 12; ++round) {
+        const pid_t child = fork();
+        ASSERT_GE(child, 0);
+        if (child == 0) {
+            alarm(30);
+            Journal journal(files);
+            if (round % 2 == 0)
+                journal.beginRun();
+            for (;;) {
+                journal.recover();
+                const std::uintmax_t length = files.size("list.txt");
+                const std::string commits = std::to_string(length + 1);
+                journal.commit({{Change::Kind::Extend, "list.txt", length, "x"},
+                                {Change::Kind::Write, "a.txt", 0, commits},
+                                {Change::Kind::Write, "b.txt", 0, commits}});
+            }
+        }
+        std::this_thread::sleep_for(std::chrono::microseconds(random() % 20'000));
+        kill(child, SIGKILL);
+        waitpid(child, nullptr, 0);
+        Journal(files).recover();
+        const std::uintmax_t commits = files.size("list.txt");
+        EXPECT_EQ(files.isFile("a.txt") ? files.read("a.txt") : "0", std::to_string(commits));
+        EXPECT_EQ(files.isFile("b.txt") ? files.read("b.txt") : "0", std::to_string(commits));
+    }
+    EXPECT_GT(files.size("list.txt"), 0u);
+}
+
+} // namespace iceline::test

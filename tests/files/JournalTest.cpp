@@ -1,0 +1,291 @@
+#include "files/Journal.h"
+
+#include "files/FileError.h"
+#include "support/FailingFiles.h"
+#include "support/MemoryFiles.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <functional>
+#include <map>
+#include <set>
+
+namespace iceline::test {
+
+namespace {
+
+using Failure = FailingFiles::Failure;
+using testing::AnyOf;
+using testing::Contains;
+using testing::HasSubstr;
+
+constexpr int Games = 4;
+
+/// A league of two teams, as far as a journal is concerned: records, a list and a coach.
+MemoryFiles league() {
+    MemoryFiles files;
+    files.folders = {"BOS", "MTL"};
+    files.files = {{"BOS/Records.txt", "BOS 0"}, {"MTL/Records.txt", "MTL 0"}, {"BoxScores.htm", "head\n"}};
+    return files;
+}
+
+/// What importing the n-th game changes; the first two games come with a coach who is new and then goes.
+void playGame(Files& files, int n) {
+    const std::string game = std::to_string(n);
+    files.write("BOS/Records.txt", "BOS " + game);
+    files.write("MTL/Records.txt", "MTL " + game + std::string(n * 10, '.'));
+    files.append("BoxScores.htm", "game " + game + "\n");
+    if (n == 1) {
+        files.makeFolder("Coaches/Lee");
+        files.write("Coaches/Lee/Records.txt", "0");
+    }
+    if (n == 2)
+        files.remove("Coaches/Lee/Records.txt");
+}
+
+void commitGame(Files& files, Journal& journal, int n) {
+    StagedFiles staged(files);
+    playGame(staged, n);
+    journal.commit(staged.changes());
+}
+
+/// Files and folders as they must be after n games.
+using State = std::pair<std::map<std::string, std::string>, std::set<std::string>>;
+
+State stateOf(const MemoryFiles& files) {
+    return {files.files, files.folders};
+}
+
+State afterGames(int n) {
+    MemoryFiles files = league();
+    for (int game = 1; game <= n; ++game)
+        playGame(files, game);
+    return stateOf(files);
+}
+
+std::vector<State> afterAnyNumberOfGames() {
+    std::vector<State> states;
+    for (int n = 0; n <= Games; ++n)
+        states.push_back(afterGames(n));
+    return states;
+}
+
+void attempt(const std::function<void()>& action) {
+    try {
+        action();
+    } catch (const FileError&) {
+        return;
+    }
+}
+
+/// The journal of a run of games that stopped before the files were brought to the disk.
+std::string journalOfRun() {
+    MemoryFiles files = league();
+    Journal journal(files);
+    journal.beginRun();
+    for (int game = 1; game <= Games; ++game)
+        commitGame(files, journal, game);
+    return files.files.at(Journal::FileName);
+}
+
+} // namespace
+
+TEST(JournalTest, MakesAllChangesAndGoes) {
+    MemoryFiles files = league();
+    Journal journal(files);
+    for (int game = 1; game <= Games; ++game) {
+        commitGame(files, journal, game);
+        EXPECT_EQ(stateOf(files), afterGames(game));
+    }
+    EXPECT_EQ(Journal(files).recover(), Recovery::Nothing);
+}
+
+TEST(JournalTest, CutAnywhereRecoversAWholeNumberOfGames) {
+    const std::string journal = journalOfRun();
+    const std::vector<State> whole = afterAnyNumberOfGames();
+    std::size_t games = 0;
+    for (std::size_t length = 0; length <= journal.size(); ++length) {
+        MemoryFiles files = league();
+        files.files[Journal::FileName] = journal.substr(0, length);
+        const Recovery recovery = Journal(files).recover();
+        if (games < Games && stateOf(files) == whole[games + 1])
+            ++games;
+        ASSERT_EQ(stateOf(files), whole[games]) << "cut at " << length;
+        EXPECT_EQ(recovery, games == 0 ? Recovery::Dropped : Recovery::Finished);
+    }
+    EXPECT_EQ(games, Games);
+}
+
+TEST(JournalTest, ADamagedByteEndsTheJournalThere) {
+    const std::string journal = journalOfRun();
+    const std::vector<State> whole = afterAnyNumberOfGames();
+    for (std::size_t at = 0; at < journal.size(); ++at) {
+        MemoryFiles files = league();
+        std::string damaged = journal;
+        damaged[at] = static_cast<char>(damaged[at] ^ (1 << at % 8));
+        files.files[Journal::FileName] = damaged;
+        Journal(files).recover();
+        const auto state = std::ranges::find(whole, stateOf(files));
+        ASSERT_NE(state, whole.end()) << "damaged at " << at;
+        EXPECT_NE(state, whole.end() - 1) << "damaged at " << at;
+    }
+}
+
+/// A power cut in a run leaves each file as it was after any of the games, torn or empty; of a list at least
+/// what stood there before the run.
+TEST(JournalTest, DoneAgainGivesTheSameFiles) {
+    const std::string journal = journalOfRun();
+    const std::vector<State> whole = afterAnyNumberOfGames();
+    for (const State& record : whole)
+        for (const State& list : whole)
+            for (const char* torn : {"", "torn\n"}) {
+                MemoryFiles files = league();
+                files.files["BOS/Records.txt"] = record.first.at("BOS/Records.txt");
+                files.files["MTL/Records.txt"] = torn;
+                files.files["BoxScores.htm"] = list.first.at("BoxScores.htm") + torn;
+                files.files[Journal::FileName] = journal;
+                EXPECT_EQ(Journal(files).recover(), Recovery::Finished);
+                EXPECT_EQ(stateOf(files), whole.back());
+            }
+}
+
+TEST(JournalTest, ACrashAnywhereLeavesTheFilesBeforeOrAfter) {
+    for (const bool run : {false, true}) {
+        bool crashed = true;
+        for (int n = 1; crashed; ++n) {
+            MemoryFiles disk = league();
+            FailingFiles files(disk);
+            Journal journal(files);
+            if (run)
+                journal.beginRun();
+            int committed = 0;
+            files.failAt(n, Failure::Crash);
+            attempt([&] {
+                for (; committed < Games; ++committed)
+                    commitGame(files, journal, committed + 1);
+                journal.endRun();
+            });
+            crashed = files.hasFailed();
+            Journal(disk).recover();
+            ASSERT_THAT(stateOf(disk),
+                        AnyOf(afterGames(committed), afterGames(std::min(committed + 1, Games))))
+                << "crash at use " << n << ", run: " << run;
+        }
+    }
+}
+
+TEST(JournalTest, ACrashInRecoveryIsRecoveredFrom) {
+    const std::string journal = journalOfRun();
+    bool crashed = true;
+    for (int n = 1; crashed; ++n) {
+        MemoryFiles disk = league();
+        disk.files[Journal::FileName] = journal;
+        FailingFiles files(disk);
+        files.failAt(n, Failure::Crash);
+        attempt([&] { Journal(files).recover(); });
+        crashed = files.hasFailed();
+        Journal(disk).recover();
+        ASSERT_EQ(stateOf(disk), afterGames(Games)) << "crash at use " << n;
+    }
+}
+
+/// After any single failure the user repeats what was refused, and every game is in the books once.
+TEST(JournalTest, AFailureHarmsNoLaterChange) {
+    for (const bool run : {false, true}) {
+        bool failed = true;
+        for (int n = 1; failed; ++n) {
+            MemoryFiles disk = league();
+            FailingFiles files(disk);
+            Journal journal(files);
+            if (run)
+                journal.beginRun();
+            files.failAt(n, Failure::Once);
+            const auto played = [&] { return std::ranges::count(disk.files["BoxScores.htm"], '\n') - 1; };
+            for (int tries = 0; tries < Games + 2; ++tries)
+                attempt([&] {
+                    journal.recover();
+                    if (played() < Games)
+                        commitGame(files, journal, static_cast<int>(played()) + 1);
+                });
+            attempt([&] { journal.endRun(); });
+            failed = files.hasFailed();
+            journal.endRun();
+            ASSERT_EQ(stateOf(disk), afterGames(Games)) << "failure at use " << n << ", run: " << run;
+        }
+    }
+}
+
+TEST(JournalTest, SaysThatAChangeIsNotedAndFinishesItFirst) {
+    MemoryFiles disk = league();
+    FailingFiles files(disk);
+    Journal journal(files);
+    journal.recover();
+    StagedFiles first(files), second(files);
+    playGame(first, 1);
+    playGame(second, 1);
+    const std::vector<Change> changes = first.changes();
+    const std::vector<Change> late = second.changes();
+
+    files.failAt(3, Failure::Once);
+    try {
+        journal.commit(changes);
+        FAIL() << "the disk had to fail";
+    } catch (const FileError& error) {
+        EXPECT_STREQ(error.what(),
+                     "Coaches/Lee: the disk fails for the test. The change is noted in \"Unfinished "
+                     "Changes.journal\" and will be finished before the next one or at the next start");
+    }
+    try {
+        journal.commit(late);
+        FAIL() << "changes worked out before the first were finished must not be made";
+    } catch (const FileError& error) {
+        EXPECT_THAT(error.what(), HasSubstr("please do it again"));
+    }
+    EXPECT_EQ(stateOf(disk), afterGames(1));
+    commitGame(files, journal, 2);
+    EXPECT_EQ(stateOf(disk), afterGames(2));
+}
+
+TEST(JournalTest, ARunSharesOneJournalUntilItHasGrown) {
+    MemoryFiles disk = league();
+    FailingFiles files(disk);
+    Journal journal(files);
+    journal.beginRun();
+    commitGame(files, journal, 1);
+    const auto length = disk.size(Journal::FileName);
+    EXPECT_GT(length, 0u);
+    commitGame(files, journal, 2);
+    EXPECT_GT(disk.size(Journal::FileName), length);
+
+    journal.commit({{Change::Kind::Write, "big.txt", 0, std::string(Journal::CheckpointBytes, 'x')}});
+    EXPECT_FALSE(disk.isFile(Journal::FileName));
+    commitGame(files, journal, 3);
+    EXPECT_TRUE(disk.isFile(Journal::FileName));
+    journal.endRun();
+    EXPECT_FALSE(disk.isFile(Journal::FileName));
+}
+
+TEST(JournalTest, ARemovedFolderMayComeBackInTheSameRun) {
+    MemoryFiles files = league();
+    Journal journal(files);
+    journal.beginRun();
+    journal.commit({{Change::Kind::MakeFolder, "Coaches", 0, ""}});
+    journal.commit({{Change::Kind::RemoveFolder, "Coaches", 0, ""}});
+    journal.commit(
+        {{Change::Kind::MakeFolder, "Coaches", 0, ""}, {Change::Kind::Write, "Coaches/Lee.txt", 0, "0"}});
+    EXPECT_EQ(Journal(files).recover(), Recovery::Finished);
+    EXPECT_EQ(files.read("Coaches/Lee.txt"), "0");
+}
+
+TEST(JournalTest, StaysInTheLeagueFolder) {
+    MemoryFiles files = league();
+    Journal journal(files);
+    const State before = stateOf(files);
+    for (const char* path : {"/etc/passwd", "../other/Records.txt", "BOS/../../x", Journal::FileName})
+        EXPECT_THROW(journal.commit({{Change::Kind::Write, path, 0, "x"}}), FileError) << path;
+    EXPECT_EQ(stateOf(files), before);
+}
+
+} // namespace iceline::test

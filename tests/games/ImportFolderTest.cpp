@@ -1,0 +1,188 @@
+#include "files/FileError.h"
+#include "games/ImportLeague.h"
+#include "standings/Standings.h"
+
+namespace iceline {
+namespace {
+
+using namespace test;
+using testing::ElementsAre;
+using testing::HasSubstr;
+
+class ImportFolder : public ImportLeague {
+protected:
+    ImportFolder() { choose(GameKind::Season); }
+
+    void run(const std::string& folder = "Games") {
+        files().makeFolder(folder);
+        league.platform.chosen.push_back(folder);
+        window().ImportFolder_Click();
+    }
+
+    std::string lastSaid() { return league.said().back(); }
+};
+
+TEST_F(ImportFolder, TakesAllFilesInTheOrderOfTheirNames) {
+    GameSheet lost(Montreal, Boston);
+    lost.addGoal(1, 5, Side::Home, Strength::Even, 4);
+    save("Games/b second.gs1", lovelyGame());
+    save("Games/A first", lost);
+    save("Games/c.third.gs2", lost);
+    run();
+    EXPECT_THAT(league.said(),
+                ElementsAre("Are you sure you want import all files in Games?", "3 Files imported"));
+    EXPECT_EQ(league.platform.messages[0].title, "Import");
+    EXPECT_EQ(league.platform.messages[0].buttons, Buttons::YesNo);
+    EXPECT_EQ(content("Boston Bruins/Last 10 Games.txt"), "\"L\"\r\n\"W\"\r\n\"L\"\r\n");
+    EXPECT_TRUE(files().isFile(paths::page("BoxScores/c.third.htm")));
+    EXPECT_EQ(gameNumber(), 3);
+    EXPECT_EQ(window().ImportMode, 0);
+    EXPECT_EQ(league.platform.busyDepth, 0);
+    EXPECT_FALSE(files().isFile(Journal::FileName));
+
+    ASSERT_EQ(league.platform.progressShown.size(), 3u);
+    EXPECT_EQ(league.platform.progressShown[1].item, "b second.gs1");
+    EXPECT_EQ(league.platform.progressShown[1].done, 1);
+    EXPECT_EQ(league.platform.progressShown[1].total, 3);
+    EXPECT_TRUE(league.platform.progressShown[1].cancellable);
+}
+
+TEST_F(ImportFolder, LeavesTheSameLeagueAsSingleImports) {
+    save("Games/1.gs0", lovelyGame());
+    save("Games/2.gs0", GameSheet(Montreal, Boston));
+    TestLeague other(files());
+    StatExtractor& single = other.app.windows().statExtractor();
+    single.Exhibition = false;
+    single.Season = true;
+    for (const char* path : {"Games/1.gs0", "Games/2.gs0"}) {
+        other.platform.chosen.push_back(path);
+        single.LoadStats_Click();
+        single.ImportStats_Click();
+    }
+    run();
+    EXPECT_EQ(files().files, other.files.files);
+}
+
+TEST_F(ImportFolder, AnEmptyFolderImportsNothing) {
+    run();
+    EXPECT_EQ(lastSaid(), "0 Files imported");
+    EXPECT_EQ(gameNumber(), 0);
+}
+
+TEST_F(ImportFolder, NothingHappensWithoutAFolderOrOnNo) {
+    save("Games/1.gs0", lovelyGame());
+    window().ImportFolder_Click();
+    EXPECT_TRUE(league.said().empty());
+    league.platform.answers.push_back(Answer::No);
+    run();
+    EXPECT_EQ(league.said().size(), 1u);
+    EXPECT_EQ(gameNumber(), 0);
+}
+
+TEST_F(ImportFolder, ExhibitionGamesNeedACoach) {
+    league.addCoach("Ann");
+    league.app.windows().unloadAll();
+    choose(GameKind::Exhibition);
+    save("Games/1.gs0", lovelyGame());
+    save("Games/2.gs0", lovelyGame());
+    run();
+    EXPECT_THAT(league.said(),
+                ElementsAre("Please select at least one coach first to import exhibition game to"));
+    league.platform.chosen.clear();
+    window().T2Coach = 1;
+    run();
+    EXPECT_EQ(lastSaid(), "2 Files imported");
+    EXPECT_EQ(league.coachRecord("Ann").Losses, 2);
+    EXPECT_EQ(league.record(Boston).GP, 0);
+}
+
+TEST_F(ImportFolder, ARefusedGameIsPassedOverOnOk) {
+    save("Games/1.gs0", GameSheet(25, Boston));
+    save("Games/2.gs0", lovelyGame());
+    run();
+    EXPECT_EQ(league.platform.messages[1].buttons, Buttons::OkCancel);
+    EXPECT_THAT(league.said()[1], HasSubstr("1.gs0"));
+    EXPECT_EQ(lastSaid(), "1 Files imported");
+    EXPECT_EQ(gameNumber(), 2);
+}
+
+TEST_F(ImportFolder, CancelAtARefusalEndsTheRun) {
+    state().TeamLeaderTable[Boston][0] = state().SeasonLength;
+    save("Games/1.gs0", GameSheet(Montreal, 3));
+    save("Games/2.gs0", lovelyGame());
+    save("Games/3.gs0", GameSheet(Montreal, 3));
+    league.platform.answers = {Answer::Yes, Answer::Cancel};
+    run();
+    EXPECT_THAT(league.said()[1], HasSubstr("Boston Bruins has completed the regular season"));
+    EXPECT_EQ(league.platform.messages[1].buttons, Buttons::OkCancel);
+    EXPECT_EQ(lastSaid(), "1 Files imported");
+    EXPECT_EQ(gameNumber(), 2);
+
+    state().TeamLeaderTable[Boston][0] = 0;
+    run();
+    EXPECT_EQ(lastSaid(), "3 Files imported") << "the answer speaks of its run alone";
+}
+
+TEST_F(ImportFolder, StoppingEndsTheRunAfterTheGameInHand) {
+    save("Games/1.gs0", lovelyGame());
+    save("Games/2.gs0", lovelyGame());
+    save("Games/3.gs0", lovelyGame());
+    league.platform.stopAfter = 2;
+    run();
+    EXPECT_EQ(lastSaid(), "2 Files imported");
+    EXPECT_EQ(league.record(Boston).GP, 2);
+}
+
+TEST_F(ImportFolder, ASeasonThatEndsInTheRunTurnsTheNextFileToThePlayoffs) {
+    TeamRecord done;
+    done.GP = 1;
+    for (TeamIndex team = 0; team < LeagueTeams; ++team)
+        if (team != Boston && team != Montreal)
+            league.setRecord(team, PartOfYear::Season, done);
+    window();
+    state().SeasonLength = 1;
+    save("Games/1.gs0", lovelyGame());
+    save("Games/2.gs0", GameSheet(Boston, 4)); // teams of two conferences
+    run();
+    EXPECT_THAT(league.said(), ElementsAre(testing::_,
+                                           "Regular Season COMPLETE, Playoff Mode now active for the "
+                                           "Postseason.",
+                                           "Cannot import file because this is not a valid post season game.",
+                                           "1 Files imported"));
+}
+
+TEST_F(ImportFolder, AFileErrorEndsTheRunAndKeepsWhatWasImported) {
+    save("Games/1.gs0", lovelyGame());
+    save("Games/2.gs0", GameSheet(3, 4));
+    save("Games/3.gs0", lovelyGame());
+    files().files["Chicago Blackhawks/Records.txt"] = "torn";
+    EXPECT_THROW(run(), FileError);
+    EXPECT_EQ(lastSaid(), "1 Files imported");
+    EXPECT_EQ(league.record(Boston).GP, 1);
+    EXPECT_EQ(gameNumber(), 2);
+    EXPECT_EQ(window().ImportMode, 0);
+    EXPECT_FALSE(files().isFile(Journal::FileName)) << "the run was brought to its end";
+}
+
+TEST_F(ImportFolder, TheStandingsCountTheGamesBeforeAFileError) {
+    save("Games/1.gs0", lovelyGame());
+    save("Games/2.gs0", GameSheet(3, 4));
+    files().files["Chicago Blackhawks/Player Stats.txt"] = "torn";
+    EXPECT_THROW(run(), FileError);
+    int games = 0;
+    for (const DivisionRows& division : league.app.windows().standings().content().divisions)
+        for (const StandingsRow& row : division)
+            games += row.GP;
+    EXPECT_EQ(games, 2) << "one for each of two teams";
+}
+
+TEST_F(ImportFolder, AGameWhosePageNoListCanNameIsRefused) {
+    save("Games/1 \"final\".gs0", lovelyGame());
+    save("Games/2.gs0", lovelyGame());
+    run();
+    EXPECT_EQ(league.said()[1], "Cannot import file because its name holds a double quote or a line end.");
+    EXPECT_EQ(lastSaid(), "1 Files imported");
+}
+
+} // namespace
+} // namespace iceline

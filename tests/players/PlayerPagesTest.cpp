@@ -1,0 +1,105 @@
+#include "players/PlayerPages.h"
+
+#include "players/RosterPages.h"
+
+#include <gmock/gmock.h>
+
+namespace iceline {
+namespace {
+
+using testing::EndsWith;
+using testing::HasSubstr;
+using testing::Not;
+using testing::StartsWith;
+
+constexpr TeamIndex MTL = 10;
+
+const std::string FrameTitled(const std::string& title) {
+    return "<html><head><title>" + title +
+           "</title><link rel=\"stylesheet\" href=\"../../styles.css\" type =\"Text/css\"></head>\r\n"
+           "<body link = BLACK vlink = BLACK alink = RED><font face = arial size = 2><center>\r\n"
+           "<p><a href=\"../../index.htm\"><b> Home</b></a> | ";
+}
+
+TEST(RosterPage, ListsPlayersUpToTheFirstEmptyRowOrName) {
+    Roster roster;
+    roster[0] = {"Al Masque", 1, 83, "G"};
+    roster[1] = {"Jan \"/\" Stick", 9, 70, "F"};
+    roster[2] = {"", 9, 70, "F"};
+    roster[3] = {"Below The Gap", 9, 70, "F"};
+
+    const std::string page = rosterPage(MTL, roster);
+
+    EXPECT_THAT(page, StartsWith(FrameTitled("Iceline - Montreal Canadiens Team Roster")));
+    EXPECT_THAT(
+        page, EndsWith("<br/><br/><img src=\"../../Headers/TeamRoster.gif\"></img></p><table border = 5><tr>"
+                       "<td><img src=\"../../BigBanners/MTL.gif\"></img></td></tr></table><br><table><tr>"
+                       "<td><img src=\"../../BigLogos/MTL.gif\"></img></td></tr></table>\r\n"
+                       "<br/><br/><table border = 1><tr><th>Pos.</th><th>#</th><th>Player</th>"
+                       "<th>Overall Rating</th></tr>\r\n"
+                       "<td>G</td><td>1</td><td><a href=\"./Al Masque.htm\">Al Masque</a></td><td>83</td>"
+                       "</tr>\r\n"
+                       "<td>F</td><td>9</td><td><a href=\"./Jan ___ Stick.htm\">Jan \"/\" Stick</a></td>"
+                       "<td>70</td></tr>\r\n"
+                       "</table></center></body></html>\r\n"));
+
+    roster[1] = {};
+    EXPECT_THAT(rosterPage(MTL, roster), Not(HasSubstr("Below The Gap")));
+    EXPECT_EQ(listedPlayers(roster).size(), 1u);
+}
+
+TEST(PlayerPage, AGoaliesFiguresAreItemsOfTheirOwn) {
+    GoalieStats stats{.GP = 10, .GA = 25, .SO = 1, .A = 2, .GW = 6, .GL = 3, .GT = 1, .SA = 250};
+    stats.GAA = 2.5;
+    stats.SvPct = 0.912;
+    stats.Rating = 1.5;
+    stats.StarPoints = 15;
+
+    const std::string page = playerPage(PartOfYear::Season, MTL, {"Al Masque", 1, 83, "G"}, stats, "Goalie1");
+
+    EXPECT_THAT(page, StartsWith(FrameTitled("Iceline - Al Masque Player Profile")));
+    EXPECT_THAT(
+        page,
+        EndsWith("<br/><br/><img src=\"../../Headers/PlayerProfiles.gif\"></img></p><table border = 5><tr>"
+                 "<td colspan =2><img src=\"../../BigBanners/MTL.gif\"></img></td></tr><br>\r\n"
+                 "<tr><td><img src=\"../../PlayerCards/Goalie1.gif\" width = 200 height = 200></img></td>\r\n"
+                 "<td><img src=\"../../BigLogos/MTL.gif\"></img></td></tr></table>\r\n"
+                 "<table border = 1><tr><th colspan = 3><font size = 5>Al Masque</font></th></tr><tr>"
+                 "<th>#</th><th>Position</th><th>Overall Rating</th></tr><tr><td>1</td><td>G</td><td>83"
+                 "</tr></table>\r\n"
+                 "<br><table border=1><tr><th>GP</th><th>Pow.Rank</th><th>W</th><th>L</th><th>T</th>"
+                 "<th>GAA</th><th>Sv%</th><th>SHO</th><th>SF</th><th>GA</th><th>A</th>"
+                 "<th>Three Star Pts.</tr>\r\n"
+                 "<tr><td> 10 </td><td> 1.5 </td><td> 6 </td><td> 3 </td><td> 1 </td><td> 2.5 </td>"
+                 "<td> .912 </td><td> 1 </td><td> 250 </td><td> 25 </td><td> 2 </td><td> 15 </td></tr>\r\n"
+                 "</table></center></body></html>\r\n"));
+}
+
+TEST(PlayerPage, ASkatersHasASecondHeadWithTheFiguresAGame) {
+    SkaterStats stats{.GP = 8, .G = 2, .A = 3, .Pts = 5, .SOG = 20, .PIM = 4, .PPG = 1, .StarPoints = 5};
+    stats.GPG = 0.25;
+    stats.APG = 0.38;
+    stats.PtsPG = 0.62;
+    stats.SOGPG = 2.5;
+    stats.ShotPct = 10;
+    stats.PIMPG = 0.5;
+    stats.Rating = -0.5;
+
+    const std::string page =
+        playerPage(PartOfYear::Playoffs, MTL, {"Jan Stick", 9, 70, "F"}, stats, "Jan Stick");
+
+    EXPECT_THAT(page, StartsWith(FrameTitled("Iceline - Jan Stick Playoff Player Profile")));
+    EXPECT_THAT(
+        page,
+        EndsWith("<br><table border=1><tr><th>GP</th><th>Pow.Rank</th><th>G</th><th>A</th><th>Pts.</th>"
+                 "<th>PP</th><th>SH</th><th>SOG</th><th>S%</th><th>PIM</th><th>Three Star Pts.</th></tr>\r\n"
+                 "<tr><td> 8 </td><td> -.5 </td><td> 2 </td><td> 3 </td><td> 5 </td><td> 1 </td>"
+                 "<td> 0 </td><td> 20 </td><td> 10 </td><td> 4 </td><td> 5 </td></tr>\r\n"
+                 "<tr><th></th><th></th><th>GPG</th><th>APG</th><th>PPG</th><th></th><th></th><th>SOGPG</th>"
+                 "<th></th><th>PIMPG</th></tr><tr><td></td><td></td><td> .25 </td><td> .38 </td>"
+                 "<td> .62 </td><td></td><td></td><td> 2.5 </td><td></td><td> .5 </td></tr>\r\n"
+                 "</table></center></body></html>\r\n"));
+}
+
+} // namespace
+} // namespace iceline

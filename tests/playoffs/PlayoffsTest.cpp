@@ -1,0 +1,249 @@
+#include "playoffs/Playoffs.h"
+
+#include "app/Startup.h"
+#include "app/WelcomeWindow.h"
+#include "files/FileError.h"
+#include "playoffs/PlayoffResult.h"
+#include "playoffs/SeasonEnd.h"
+#include "standings/StandingsSupport.h"
+#include "support/TestLeague.h"
+
+#include <gmock/gmock.h>
+
+namespace iceline::test {
+namespace {
+
+using testing::Each;
+using testing::ElementsAre;
+using testing::HasSubstr;
+using testing::StartsWith;
+
+constexpr const char* SeasonIsOver = "Regular Season COMPLETE, Playoff Mode now active for the Postseason.";
+
+/// A league whose teams stand in the order of the team table: Wales is seeded BOS LI BUF HFD MTL NJ NYR OTA,
+/// Campbell CGY CHI DET EDM LA MIN SJ STL.
+class SeasonEnd : public testing::Test {
+protected:
+    SeasonEnd() { setSeasonLength(10); }
+
+    void setSeasonLength(int games) {
+        league.files.files[paths::GamesUntilPlayoffs] = std::to_string(games) + "\r\n";
+        league.app.state.SeasonLength = games;
+    }
+
+    void play(TeamIndex team, int games) {
+        TeamRecord record;
+        record.GP = games;
+        record.Points = 2 * LeagueTeams - 2 * team;
+        league.setRecord(team, PartOfYear::Season, record);
+    }
+
+    void playSeason() {
+        for (TeamIndex team = 0; team < LeagueTeams; ++team)
+            play(team, 10);
+    }
+
+    TestLeague league;
+    ApplicationState& state = league.app.state;
+};
+
+TEST_F(SeasonEnd, WaitsForTheLastTeam) {
+    playSeason();
+    play(23, 9);
+    checkSeason(league.app);
+    EXPECT_FALSE(state.PlayoffMode);
+    EXPECT_EQ(state.SeasonFolder, "");
+    play(23, 10);
+    checkSeason(league.app);
+    EXPECT_TRUE(state.PlayoffMode);
+    EXPECT_EQ(state.SeasonFolder, "/Post Season");
+    EXPECT_THAT(league.said(), ElementsAre(SeasonIsOver));
+}
+
+TEST_F(SeasonEnd, FillsTheFirstRoundAndHappensOnce) {
+    playSeason();
+    checkSeason(league.app);
+    EXPECT_EQ(state.PlayoffSeries[0], (PlayoffSeriesRecord{0, 0, team("BOS"), team("OTA")}));
+    EXPECT_EQ(state.PlayoffSeries[3], (PlayoffSeriesRecord{0, 0, team("LI"), team("NYR")}));
+    EXPECT_EQ(state.PlayoffSeries[6], (PlayoffSeriesRecord{0, 0, team("DET"), team("MIN")}));
+    EXPECT_EQ(state.PlayoffSeries[8], PlayoffSeriesRecord());
+    checkSeason(league.app);
+    EXPECT_THAT(league.said(), ElementsAre(SeasonIsOver));
+}
+
+TEST_F(SeasonEnd, EndedByHandItTakesTheSeedsOfTheMoment) {
+    play(1, 3);
+    setSeasonLength(-1);
+    checkSeason(league.app);
+    EXPECT_TRUE(state.PlayoffMode);
+    EXPECT_EQ(state.PlayoffSeries[0].TeamA, team("BUF"));
+}
+
+TEST_F(SeasonEnd, NextRunFindsItOutWithoutAMessage) {
+    playSeason();
+    MemoryFiles siteTemplate;
+    TestPlatform platform;
+    Application nextRun(league.files, siteTemplate, platform);
+    ASSERT_TRUE(startUp(nextRun));
+    EXPECT_TRUE(nextRun.state.PlayoffMode);
+    EXPECT_EQ(nextRun.state.PlayoffSeries[0].TeamA, team("BOS"));
+    EXPECT_THAT(platform.said(), testing::IsEmpty());
+}
+
+TEST_F(SeasonEnd, RecordThatCannotBeReadLeavesTheRegularSeason) {
+    setSeasonLength(-1);
+    // Whole up to the games played, cut behind them.
+    league.files.files["Winnipeg Jets/Records.txt"] = "0,0,0,0,0,10\r\n";
+    EXPECT_THROW(checkSeason(league.app), FileError);
+    EXPECT_FALSE(state.PlayoffMode);
+    EXPECT_EQ(state.SeasonFolder, "");
+    EXPECT_EQ(state.PlayoffSeries[0].TeamA, BlankTeam);
+    EXPECT_THAT(league.said(), testing::IsEmpty());
+}
+
+class PlayoffsWindow : public SeasonEnd {
+protected:
+    const Playoffs::Content& open(TestLeague& on) {
+        on.app.windows().unload(WindowId::Playoffs);
+        return static_cast<Playoffs&>(WelcomeWindow(on.app).List1_Click(WindowId::Playoffs)).content();
+    }
+    const Playoffs::Content& open() { return open(league); }
+
+    /// Gives games of a series to its first or second team, as the import does.
+    void win(int number, SeriesTeam side, int games) {
+        PlayoffSeriesTable& table = state.PlayoffSeries;
+        readPlayoffRecords(league.files, table);
+        for (int i = 0; i < games; ++i)
+            recordResult(table, {number, true}, side == SeriesTeam::A ? 2 : 0, 1);
+        league.files.files[paths::PlayoffRecords] = textOf(table);
+    }
+
+    void startPlayoffs() {
+        playSeason();
+        checkSeason(league.app);
+    }
+
+    std::vector<std::string> pageLines() { return linesOf(league.page("PlayoffTree.htm")); }
+};
+
+/// What opens a row of the page, by round.
+std::string seed(int number) {
+    return "<tr><td><b><font size=4>" + std::to_string(number) + "</font></b></td><td>";
+}
+const std::string SecondRound = "<tr><td></td><td></td><td></td><td></td><td><td></td><td>";
+const std::string ConferenceFinal =
+    "<tr><td></td><td></td><td></td><td><td></td><td></td><td></td><td></td><td></td><td><td></td><td>";
+const std::string Final =
+    "<tr><td></td><td></td><td></td><td><td></td><td></td><td></td><td></td><td><td></td><td></td>"
+    "<td></td><td></td><td></td><td><td></td><td>";
+
+std::string row(const std::string& opening, const std::string& abbr, const std::string& wins = "") {
+    return opening + "<img src=\"./BannerMinis/" + abbr + ".gif\"></img></td><td>&nbsp;" + wins +
+           "</td></tr>";
+}
+
+TEST_F(PlayoffsWindow, DuringTheSeasonTheTreeIsThatOfTheMoment) {
+    playSeason();
+    play(1, 9);
+    const Playoffs::Content& content = open();
+    EXPECT_EQ(abbrs(content.EastFirstRound), "BOS LI BUF HFD MTL NJ NYR OTA");
+    EXPECT_EQ(abbrs(content.WestFirstRound), "CGY CHI DET EDM LA MIN SJ STL");
+    EXPECT_THAT(content.W1, Each(""));
+    EXPECT_THAT(content.T1, Each(BlankTeam));
+    EXPECT_EQ(content.StanleyCup, BlankTeam);
+    EXPECT_THAT(league.said(), testing::IsEmpty());
+
+    EXPECT_THAT(
+        pageLines(),
+        ElementsAre(
+            StartsWith("<html><head><title>Rinkstar - Playoff Tree</title>"),
+            "<body link = BLACK vlink = BLACK alink = RED><font face =arial size=2><center>",
+            StartsWith(R"(<p><a href="./index.htm">)"),
+            R"(<br/><br/><p><img src="Headers/PlayoffTree.gif"></img></p><br/><br/>)",
+            "<table border = 1><tr><th colspan=20><center><b>Eastern Conference</b></center></th></tr>",
+            row(seed(1), "BOS"), row(SecondRound, "Blank"), row(seed(8), "OTA"),
+            row(ConferenceFinal, "Blank"), row(seed(4), "HFD"), row(SecondRound, "Blank"),
+            row(seed(5), "MTL"), row(Final, "Blank"), row(seed(3), "BUF"), row(SecondRound, "Blank"),
+            row(seed(6), "NJ"), row(ConferenceFinal, "Blank"), row(seed(2), "LI"), row(SecondRound, "Blank"),
+            row(seed(7), "NYR"), "</table><BR><BR>",
+            R"(<table border = 1 align =right><tr><th>Stanley Cup Champions</th></tr><tr><td>)"
+            R"(<img src="./BannerMinis/Blank.gif"></img></td></tr></table>)",
+            "<BR><BR><BR><BR><BR><table border =1><tr><th colspan=20><center><b>Western Conference</b>"
+            "</center></th></tr>",
+            row(seed(1), "CGY"), row(SecondRound, "Blank"), row(seed(8), "STL"),
+            row(ConferenceFinal, "Blank"), row(seed(4), "EDM"), row(SecondRound, "Blank"), row(seed(5), "LA"),
+            row(Final, "Blank"), row(seed(3), "DET"), row(SecondRound, "Blank"), row(seed(6), "MIN"),
+            row(ConferenceFinal, "Blank"), row(seed(2), "CHI"), row(SecondRound, "Blank"), row(seed(7), "SJ"),
+            "</table></font></center></body></html>"));
+}
+
+TEST_F(PlayoffsWindow, OpeningItEndsASeasonThatIsOver) {
+    playSeason();
+    const Playoffs::Content& content = open();
+    EXPECT_TRUE(content.PlayoffMode);
+    EXPECT_THAT(league.said(), ElementsAre(SeasonIsOver));
+    EXPECT_EQ(content.W1[0], "0");
+    EXPECT_EQ(content.W1[8], "");
+}
+
+TEST_F(PlayoffsWindow, CountsOfALaterSeriesShowOnceBothTeamsAreKnown) {
+    startPlayoffs();
+    win(0, SeriesTeam::A, 4);
+    win(6, SeriesTeam::B, 3);
+    const Playoffs::Content& content = open();
+    EXPECT_EQ(content.T1[0], team("BOS"));
+    EXPECT_EQ(content.T2[0], BlankTeam);
+    EXPECT_EQ(content.W1[0], "4");
+    EXPECT_EQ(content.W1[8], "");
+    const auto lines = pageLines();
+    EXPECT_EQ(lines.at(5), row(seed(1), "BOS", "4"));
+    EXPECT_EQ(lines.at(6), row(SecondRound, "BOS"));
+    EXPECT_EQ(lines.at(10), row(SecondRound, "Blank"));
+    EXPECT_EQ(lines.at(33),
+              R"(<tr><td><b><font size=4>6</font></b></td><td><img src="./BannerMinis/MIN.gif"></img></td>)"
+              "<td>3</td></tr>");
+
+    win(1, SeriesTeam::B, 4);
+    EXPECT_EQ(open().T2[0], team("MTL"));
+    EXPECT_EQ(open().W1[8], "0");
+}
+
+TEST_F(PlayoffsWindow, AllRoundsAcrossRestartsToTheChampion) {
+    startPlayoffs();
+    for (int series = 0; series < 8; ++series)
+        win(series, series == 2 ? SeriesTeam::B : SeriesTeam::A, 4);
+    TestLeague afterFirstRound(league.files);
+    EXPECT_EQ(abbrs(open(afterFirstRound).T1), "BOS NJ CGY DET Blank Blank Blank");
+    EXPECT_EQ(abbrs(open(afterFirstRound).T2), "HFD LI EDM CHI Blank Blank Blank");
+
+    for (int series = 8; series < 12; ++series)
+        win(series, SeriesTeam::B, 4);
+    win(12, SeriesTeam::B, 4);
+    win(13, SeriesTeam::A, 4);
+    EXPECT_EQ(abbrs(open().T1), "BOS NJ CGY DET HFD EDM LI");
+    EXPECT_EQ(abbrs(open().T2), "HFD LI EDM CHI LI CHI EDM");
+    EXPECT_EQ(open().StanleyCup, BlankTeam);
+
+    win(14, SeriesTeam::A, 3);
+    win(14, SeriesTeam::B, 4);
+    TestLeague afterTheFinal(league.files);
+    const Playoffs::Content& content = open(afterTheFinal);
+    EXPECT_EQ(content.StanleyCup, team("EDM"));
+    EXPECT_EQ(content.W1[14] + "-" + content.W2[14], "3-4");
+    const auto lines = linesOf(afterTheFinal.page("PlayoffTree.htm"));
+    EXPECT_EQ(lines.at(12), row(Final, "LI", "3"));
+    EXPECT_THAT(lines.at(21), HasSubstr(R"(Champions</th></tr><tr><td><img src="./BannerMinis/EDM.gif">)"));
+    EXPECT_EQ(lines.at(30), row(Final, "EDM", "4"));
+}
+
+TEST_F(PlayoffsWindow, DamagedFileIsNamedAndNoPageIsWritten) {
+    startPlayoffs();
+    league.files.files[paths::PlayoffRecords] = "0,0\r\n0,x\r\n";
+    EXPECT_THAT([this] { open(); }, testing::ThrowsMessage<FileError>(
+                                        StartsWith("Playoff Records.txt, line 2, item 2 (WinsB): ")));
+    EXPECT_FALSE(league.files.isFile(paths::page("PlayoffTree.htm")));
+    EXPECT_FALSE(league.app.windows().isLoaded(WindowId::Playoffs));
+}
+
+} // namespace
+} // namespace iceline::test

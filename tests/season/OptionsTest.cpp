@@ -1,0 +1,284 @@
+#include "season/Options.h"
+
+#include "files/FileError.h"
+#include "page/BoxScoreList.h"
+#include "support/FailingFiles.h"
+#include "support/TestLeague.h"
+
+#include <gmock/gmock.h>
+
+#include <array>
+#include <functional>
+#include <map>
+
+namespace iceline::test {
+
+namespace {
+
+using testing::ElementsAre;
+using testing::HasSubstr;
+using testing::IsEmpty;
+
+constexpr TeamIndex Boston = 0;
+constexpr int AllTeamsEntry = 24;
+
+class OptionsTest : public testing::Test {
+protected:
+    Options& window() { return static_cast<Options&>(league.app.windows().use(WindowId::Options)); }
+
+    void playSomeGames() {
+        TeamRecord record;
+        record.GP = 5;
+        for (const PartOfYear part : {PartOfYear::Season, PartOfYear::Playoffs})
+            for (const TeamIndex team : {Boston, Boston + 1})
+                league.setRecord(team, part, record);
+        league.files.files[paths::OverallGameNumber] = "12\r\n";
+        league.files.files[paths::GamesUntilPlayoffs] = "20\r\n";
+        league.files.files["IcelineWebPages/BoxScores.htm"] += "<tr></tr>\r\n";
+        league.addCoach("Ann", record);
+    }
+
+    TestLeague league;
+};
+
+TEST_F(OptionsTest, CreatesCoachesWithFreeNamesOnly) {
+    window().NewCoach_Click();
+    EXPECT_TRUE(window().content().Command1Visible);
+    window().NewC = "Ann Lee";
+    window().Command1_Click();
+    EXPECT_THAT(window().content().coaches, ElementsAre("Ann_Lee"));
+    EXPECT_EQ(league.files.files["Coaches/Ann_Lee/Streak.txt"], "\"\",0\r\n");
+    EXPECT_EQ(league.files.files["Coaches/Ann_Lee/Last 10 Games.txt"], "");
+    EXPECT_TRUE(window().content().Command1Visible) << "the input row stays open";
+    EXPECT_THAT(league.said(), IsEmpty());
+
+    for (const char* name : {"ann lee", "", "CON", "../x"}) {
+        window().NewC = name;
+        window().Command1_Click();
+        EXPECT_EQ(window().NewC, "");
+    }
+    EXPECT_THAT(league.said(), ElementsAre("ann_lee already exists", " already exists",
+                                           HasSubstr("Windows keeps"), HasSubstr("signs other than")));
+    EXPECT_THAT(league.files.foldersIn("Coaches"), ElementsAre("Ann_Lee"));
+}
+
+TEST_F(OptionsTest, RenamesACoachWithHisFiles) {
+    TeamRecord record;
+    record.Wins = 9;
+    league.addCoach("Ann", record);
+    league.addCoach("Bob");
+    window().EditCoach_Click();
+    EXPECT_THAT(league.said(), ElementsAre("Please select coach first!"));
+
+    window().Combo1 = 0;
+    window().EditCoach_Click();
+    EXPECT_EQ(window().NewC, "Ann");
+    window().NewC = "BOB";
+    window().Command2_Click();
+    EXPECT_EQ(league.said().back(), "BOB already exists");
+    EXPECT_TRUE(window().content().Command2Visible);
+    window().NewC = "Zoe Q";
+    window().Command2_Click();
+    EXPECT_FALSE(window().content().inputRowVisible());
+    EXPECT_THAT(window().content().coaches, ElementsAre("Bob", "Zoe_Q"));
+    EXPECT_EQ(league.coachRecord("Zoe_Q").Wins, 9);
+    EXPECT_FALSE(league.files.isFolder("Coaches/Ann"));
+}
+
+TEST_F(OptionsTest, DeletesAndClearsACoachAfterAQuestion) {
+    TeamRecord record;
+    record.Wins = 9;
+    league.addCoach("Ann", record);
+    window().Combo1 = 0;
+    league.platform.answers = {Answer::No, Answer::No};
+    window().CoachTeam_Click();
+    window().DeleteCoach_Click();
+    EXPECT_EQ(league.coachRecord("Ann").Wins, 9);
+    window().CoachTeam_Click();
+    EXPECT_EQ(league.coachRecord("Ann").Wins, 0);
+    EXPECT_EQ(league.said().back(), "Ann's Stats have been cleared.");
+    window().DeleteCoach_Click();
+    EXPECT_THAT(league.said().back(), "Are you sure you want to delete coach Ann?");
+    EXPECT_FALSE(league.files.isFolder("Coaches/Ann"));
+    EXPECT_THAT(window().content().coaches, IsEmpty());
+}
+
+TEST_F(OptionsTest, TakesWholeSeasonLengthsInRange) {
+    struct Case {
+        const char* typed;
+        const char* stored;
+    };
+    for (const Case& each :
+         {Case{"20", "20\r\n"}, Case{" 41.5 ", "42\r\n"}, Case{"-1", "-1\r\n"}, Case{"32767", "32767\r\n"}}) {
+        window().SeasonLength = each.typed;
+        window().EnterSeasonLength_Click();
+        EXPECT_EQ(league.files.files[paths::GamesUntilPlayoffs], each.stored) << each.typed;
+        EXPECT_EQ(league.said().back(), "The Season Length has been updated.");
+    }
+    for (const char* typed : {"", " ", "ten", "-2", "32768", "1e3", "12x"}) {
+        window().SeasonLength = typed;
+        window().EnterSeasonLength_Click();
+        EXPECT_THAT(league.said().back(), HasSubstr("from -1 to 32767")) << typed;
+    }
+    EXPECT_EQ(league.app.state.SeasonLength, 32767);
+    EXPECT_EQ(window().content().CurrentSeasonLength, "32767");
+}
+
+TEST_F(OptionsTest, GoesToThePlayoffsByHandForGood) {
+    league.platform.answers = {Answer::No};
+    window().GoToPlayoffs_Click();
+    EXPECT_FALSE(league.app.state.PlayoffMode);
+    window().GoToPlayoffs_Click();
+    EXPECT_TRUE(league.app.state.PlayoffMode);
+    EXPECT_EQ(window().content().CurrentSeasonLength, "82") << "until the window is opened again";
+    EXPECT_THAT(league.said(),
+                ElementsAre(testing::_, testing::_,
+                            "Regular Season COMPLETE, Playoff Mode now active for the Postseason.",
+                            "The Regular Season is now over, proceed with the Playoffs."));
+    TestLeague nextRun(league.files);
+    EXPECT_TRUE(nextRun.app.state.PlayoffMode);
+}
+
+TEST_F(OptionsTest, ClearsOneTeamAndLeavesTheRest) {
+    playSomeGames();
+    league.app.state.PlayoffMode = true;
+    league.app.state.SeasonFolder = "/Post Season";
+    window().Command8_Click();
+    EXPECT_EQ(league.said().back(), "Please select a team or [ALL] first!");
+    window().ClearTeamSelect = Boston;
+    window().Command8_Click();
+    EXPECT_EQ(league.said().back(), "Boston Bruins stats cleared");
+    EXPECT_EQ(league.record(Boston).GP, 0);
+    EXPECT_EQ(league.record(Boston, PartOfYear::Playoffs).GP, 0);
+    EXPECT_EQ(league.record(Boston + 1).GP, 5);
+    EXPECT_FALSE(league.app.state.PlayoffMode);
+    EXPECT_EQ(league.app.state.SeasonFolder, "");
+    EXPECT_EQ(league.app.state.TeamLeaderTable[Boston + 1][0], 5)
+        << "the import's season test reads the new table";
+    EXPECT_EQ(league.files.files[paths::OverallGameNumber], "12\r\n");
+}
+
+TEST_F(OptionsTest, ClearsTheWholeLeagueButCoachesAndRosters) {
+    playSomeGames();
+    const std::string roster = league.files.files[paths::playersList(Boston)];
+    league.files.files["League Records.txt"] = "kept\r\n";
+    league.app.state.SeasonLength = -1;
+    window().ClearTeamSelect = AllTeamsEntry;
+    league.platform.answers = {Answer::No};
+    window().Command8_Click();
+    EXPECT_EQ(league.record(Boston).GP, 5);
+    window().Command8_Click();
+    EXPECT_EQ(league.said().back(), "All stats have been cleared.");
+    EXPECT_EQ(league.record(Boston + 1).GP, 0);
+    EXPECT_EQ(league.files.files[paths::OverallGameNumber], "0\r\n");
+    EXPECT_EQ(league.files.files[paths::GamesUntilPlayoffs], "82\r\n");
+    EXPECT_EQ(league.app.state.SeasonLength, -1) << "until the next start";
+    EXPECT_EQ(window().content().CurrentSeasonLength, "82");
+    EXPECT_EQ(league.page("BoxScores.htm"), boxScoreListHead());
+    EXPECT_EQ(league.coachRecord("Ann").GP, 5);
+    EXPECT_EQ(league.files.files[paths::playersList(Boston)], roster);
+    EXPECT_EQ(league.files.files["League Records.txt"], "kept\r\n");
+}
+
+/// Something that the window does to the league.
+struct Deed {
+    const char* name;
+    std::function<void(Options&)> done;
+    int leastUses; ///< of the disk; fewer would mean that the walk did not reach it
+};
+
+const std::array Deeds{
+    Deed{"create",
+         [](Options& window) {
+             window.NewC = "Cy";
+             window.Command1_Click();
+         },
+         20},
+    Deed{"rename",
+         [](Options& window) {
+             window.Combo1 = 0;
+             window.NewC = "Bea";
+             window.Command2_Click();
+         },
+         20},
+    Deed{"delete",
+         [](Options& window) {
+             window.Combo1 = 0;
+             window.DeleteCoach_Click();
+         },
+         10},
+    Deed{"clear coach",
+         [](Options& window) {
+             window.Combo1 = 0;
+             window.CoachTeam_Click();
+         },
+         10},
+    Deed{"season length",
+         [](Options& window) {
+             window.SeasonLength = "40";
+             window.EnterSeasonLength_Click();
+         },
+         5},
+    Deed{"go to the play-offs", [](Options& window) { window.GoToPlayoffs_Click(); }, 20},
+    Deed{"clear team",
+         [](Options& window) {
+             window.ClearTeamSelect = Boston;
+             window.Command8_Click();
+         },
+         20},
+    Deed{"clear league",
+         [](Options& window) {
+             window.ClearTeamSelect = AllTeamsEntry;
+             window.Command8_Click();
+         },
+         100},
+};
+
+class OptionsFaultsTest : public OptionsTest, public testing::WithParamInterface<FailingFiles::Failure> {
+protected:
+    using Contents = std::map<std::string, std::string>;
+
+    /// A run of the program in which the n-th use of the disk fails (0: none): true when it did. `found` is
+    /// the league at the next start.
+    bool fails(const Deed& deed, int n, Contents& found) {
+        MemoryFiles files = league.files;
+        FailingFiles failing(files);
+        TestPlatform platform;
+        Application app(failing, league.siteTemplate, platform);
+        app.state.ShowWindows = true;
+        auto& options = static_cast<Options&>(app.windows().use(WindowId::Options));
+        failing.failAt(n, GetParam());
+        bool threw = false;
+        try {
+            deed.done(options);
+        } catch (const FileError&) {
+            threw = true;
+        }
+        EXPECT_EQ(threw, failing.hasFailed()) << deed.name << ", use " << n << " failed unseen";
+        Journal(files).recover();
+        found = files.files;
+        return threw;
+    }
+};
+
+TEST_P(OptionsFaultsTest, LeaveTheLeagueAsBeforeOrAsAfterWhicheverUseOfTheDiskFails) {
+    playSomeGames();
+    const Contents before = league.files.files;
+    for (const Deed& deed : Deeds) {
+        Contents after;
+        fails(deed, 0, after);
+        ASSERT_NE(after, before) << deed.name;
+        Contents found;
+        int uses = 1;
+        for (; fails(deed, uses, found); ++uses)
+            EXPECT_TRUE(found == before || found == after) << deed.name << ", use " << uses;
+        EXPECT_GT(uses, deed.leastUses) << deed.name;
+    }
+}
+
+INSTANTIATE_TEST_SUITE_P(Faults, OptionsFaultsTest,
+                         testing::Values(FailingFiles::Failure::Once, FailingFiles::Failure::Crash));
+
+} // namespace
+
+} // namespace iceline::test
