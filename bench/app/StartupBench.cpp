@@ -1,3 +1,4 @@
+#include "app/Catalogue.h"
 #include "app/Startup.h"
 #include "files/DiskFiles.h"
 #include "support/TemporaryFolder.h"
@@ -16,7 +17,7 @@ void startLeague(benchmark::State& state) {
     test::MemoryFiles siteTemplate = test::smallSiteTemplate();
     test::TestPlatform platform;
     for (auto _ : state) {
-        Application app(disk, siteTemplate, platform);
+        Application app(disk, siteTemplate, platform, windowCatalogue());
         if (!startUp(app) || !platform.messages.empty())
             state.SkipWithError("the league is not whole");
     }

@@ -1,3 +1,4 @@
+#include "app/Catalogue.h"
 #include "files/DiskFiles.h"
 #include "games/GameReport.h"
 #include "games/GameSheetReader.h"
@@ -31,7 +32,7 @@ MemoryFiles leagueWithGame() {
 }
 
 StatExtractor& gameWindow(Application& app) {
-    StatExtractor& window = app.windows().statExtractor();
+    StatExtractor& window = StatExtractor::in(app);
     window.Exhibition = false;
     window.Season = true;
     return window;
@@ -54,7 +55,7 @@ constexpr int GamesPlayed = 500;
 void importGames(benchmark::State& state, Files& files) {
     MemoryFiles siteTemplate = test::smallSiteTemplate();
     test::TestPlatform platform;
-    Application app(files, siteTemplate, platform);
+    Application app(files, siteTemplate, platform, windowCatalogue());
     app.state.SeasonLength = 32767;
     app.state.ShowWindows = true;
     StatExtractor& window = gameWindow(app);
@@ -107,7 +108,7 @@ void importFolder(benchmark::State& state) {
         writeSampleGames(disk, "Games", games, Seed);
         MemoryFiles siteTemplate = test::smallSiteTemplate();
         TimingPlatform platform;
-        Application app(disk, siteTemplate, platform);
+        Application app(disk, siteTemplate, platform, windowCatalogue());
         app.state.SeasonLength = games;
         app.state.ShowWindows = true;
         platform.chosen.push_back("Games");

@@ -1,3 +1,4 @@
+#include "app/Catalogue.h"
 #include "files/DiskFiles.h"
 #include "site/GenerateWebpages.h"
 #include "support/TemporaryFolder.h"
@@ -126,7 +127,7 @@ void publishLeague(benchmark::State& state) {
         league.copyTo(disk);
         MemoryFiles siteTemplate = test::smallSiteTemplate();
         test::TestPlatform platform;
-        Application app(disk, siteTemplate, platform);
+        Application app(disk, siteTemplate, platform, windowCatalogue());
         app.state.SeasonLength = 164;
         app.state.ShowWindows = true;
 

@@ -1,3 +1,5 @@
+#include "app/Catalogue.h"
+
 #include "coaches/CoachStats.h"
 #include "games/StatExtractor.h"
 #include "leaders/Rankings.h"
@@ -6,9 +8,10 @@
 #include "playoffs/Playoffs.h"
 #include "records/AllTimeRecords.h"
 #include "season/Options.h"
-#include "shell/Windows.h"
 #include "standings/Standings.h"
 #include "teams/TeamStats.h"
+
+#include <algorithm>
 
 namespace iceline {
 
@@ -48,23 +51,27 @@ constexpr std::array<CatalogueRow, WindowCount> Catalogue{{
     {WindowId::Options, "Options", "Options", make<Options>},
 }};
 
+constexpr bool isInOrder() {
+    for (std::size_t i = 0; i < Catalogue.size(); ++i)
+        if (static_cast<std::size_t>(Catalogue[i].id) != i)
+            return false;
+    return true;
+}
+static_assert(isInOrder(), "a window is found by its place");
+
 } // namespace
 
-std::span<const CatalogueRow> windowCatalogue() {
+WindowCatalogue windowCatalogue() {
     return Catalogue;
 }
 
-StatExtractor& Windows::statExtractor() {
-    return static_cast<StatExtractor&>(use(WindowId::StatExtractor));
+const CatalogueRow& catalogueRow(WindowId id) {
+    return Catalogue[static_cast<std::size_t>(id)];
 }
 
-Standings& Windows::standings() {
-    return static_cast<Standings&>(use(WindowId::Standings));
-}
-
-Rankings& Windows::rankings(PartOfYear part) {
-    const WindowId id = part == PartOfYear::Season ? WindowId::Rankings : WindowId::PlayoffRankings;
-    return static_cast<Rankings&>(use(id));
+std::optional<WindowId> windowByName(std::string_view name) {
+    const auto row = std::ranges::find(Catalogue, name, &CatalogueRow::name);
+    return row == Catalogue.end() ? std::nullopt : std::optional(row->id);
 }
 
 } // namespace iceline

@@ -9,8 +9,8 @@ namespace iceline {
 Window& WelcomeWindow::List1_Click(WindowId id) {
     Window& window = app_.windows().open(id);
     if (id == WindowId::Standings) {
-        app_.windows().standings().DivisionStandingsUpdate();
-        app_.windows().standings().HomeAwayStandingsUpdate();
+        Standings::in(app_).DivisionStandingsUpdate();
+        Standings::in(app_).HomeAwayStandingsUpdate();
     }
     return window;
 }

@@ -2,9 +2,9 @@
 
 #include "books/RecordsUpdate.h"
 #include "files/Files.h"
-#include "games/GameReport.h"
 #include "league/GameSheet.h"
-#include "shell/ApplicationState.h"
+#include "league/PartOfYear.h"
+#include "league/StarOfGame.h"
 
 #include <array>
 

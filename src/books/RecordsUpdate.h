@@ -1,6 +1,5 @@
 #pragma once
 
-#include "games/GameReport.h"
 #include "league/GameSheet.h"
 #include "store/LeagueFiles.h"
 

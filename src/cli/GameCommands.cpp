@@ -19,7 +19,7 @@ struct Import {
 
 /// "Select Game". False when the file was refused.
 bool selectGame(Session& session, const std::string& file) {
-    StatExtractor& window = session.app().windows().statExtractor();
+    StatExtractor& window = StatExtractor::in(session.app());
     session.platform().choice = absolutePath(file);
     window.GameLoaded = false;
     window.LoadStats_Click();
@@ -29,7 +29,7 @@ bool selectGame(Session& session, const std::string& file) {
 Status read(Session& session, const std::string& file) {
     if (!selectGame(session, file))
         return Status::Refused;
-    printGame(session.app().windows().statExtractor(), session.out());
+    printGame(StatExtractor::in(session.app()), session.out());
     return Status::Done;
 }
 
@@ -45,7 +45,7 @@ void choose(Session& session, const Import& import) {
     const int home = coachPosition(session, import.homeCoach);
     if (home != 0 && home == away)
         throw UsageError("a coach cannot stand behind both teams");
-    StatExtractor& window = session.app().windows().statExtractor();
+    StatExtractor& window = StatExtractor::in(session.app());
     window.Season = !import.exhibition;
     window.Exhibition = import.exhibition;
     window.T1Coach_Click(home);
@@ -56,7 +56,7 @@ Status importGame(Session& session, const Import& import) {
     choose(session, import);
     if (!selectGame(session, import.path))
         return Status::Refused;
-    StatExtractor& window = session.app().windows().statExtractor();
+    StatExtractor& window = StatExtractor::in(session.app());
     const int before = window.ImportCount;
     window.ImportStats_Click();
     return window.ImportCount > before ? Status::Done : Status::Refused;
@@ -72,7 +72,7 @@ Status importFolder(Session& session, const Import& import) {
     platform.choice = folder;
     platform.respondent = import.stopOnRefusal ? Respondent::AlwaysCancel : Respondent::AlwaysOk;
     const int refusedBefore = platform.okCancelAsked;
-    session.app().windows().statExtractor().ImportFolder_Click();
+    StatExtractor::in(session.app()).ImportFolder_Click();
     const bool ran = !std::exchange(platform.choice, std::nullopt);
     return ran && platform.okCancelAsked == refusedBefore ? Status::Done : Status::Refused;
 }

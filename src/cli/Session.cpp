@@ -1,5 +1,6 @@
 #include "cli/Session.h"
 
+#include "app/Catalogue.h"
 #include "app/ProgramFolder.h"
 #include "app/Startup.h"
 #include "store/LeaguePaths.h"
@@ -10,7 +11,7 @@ namespace fs = std::filesystem;
 
 Session::League::League(const fs::path& folder, Platform& platform)
     : lock(folder, "iceline"), disk(folder), siteTemplate(siteTemplateFolder()),
-      app(disk, siteTemplate, platform) {}
+      app(disk, siteTemplate, platform, windowCatalogue()) {}
 
 Session::Session(Console& console, LeagueChoice choice)
     : console_(console), choice_(std::move(choice)), platform_(console) {}

@@ -1,3 +1,4 @@
+#include "app/Catalogue.h"
 #include "app/WelcomeWindow.h"
 #include "cli/Command.h"
 #include "cli/WindowPrinters.h"

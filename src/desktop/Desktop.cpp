@@ -1,5 +1,6 @@
 #include "desktop/Desktop.h"
 
+#include "app/Catalogue.h"
 #include "app/ProgramFolder.h"
 #include "app/Startup.h"
 #include "desktop/Guard.h"
@@ -50,7 +51,7 @@ int runLeague(const std::filesystem::path& folder) {
     DiskFiles disk(folder);
     DiskFiles siteTemplate(siteTemplateFolder());
     QtPlatform platform;
-    Application app(disk, siteTemplate, platform);
+    Application app(disk, siteTemplate, platform, windowCatalogue());
     PreviewServer preview(folder / paths::WebRoot);
     const Start start(app, preview);
     return QApplication::exec();

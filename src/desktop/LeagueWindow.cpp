@@ -1,5 +1,6 @@
 #include "desktop/LeagueWindow.h"
 
+#include "app/Catalogue.h"
 #include "desktop/Pictures.h"
 #include "desktop/QtPlatform.h"
 

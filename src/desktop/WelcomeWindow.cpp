@@ -1,5 +1,6 @@
 #include "desktop/WelcomeWindow.h"
 
+#include "app/Catalogue.h"
 #include "app/WelcomeWindow.h"
 #include "desktop/Controls.h"
 #include "desktop/Guard.h"

@@ -14,14 +14,6 @@ namespace iceline {
 /// The kinds of game, by what a game touches.
 enum class GameKind { Season, Exhibition, Playoff };
 
-/// The rosters of the two teams of a game.
-struct GameRosters {
-    Roster home;
-    Roster away;
-
-    const Roster& of(Side side) const { return side == Side::Home ? home : away; }
-};
-
 /// Reads the rosters of a game's teams; the game must be one that the league can take (SaveState::refusal).
 GameRosters readRosters(Files& files, const SaveState& save);
 

@@ -1,5 +1,6 @@
 #include "games/GameSheetReader.h"
 
+#include "games/SaveStateMap.h"
 #include "games/TeamSheetFields.h"
 
 namespace iceline {

@@ -102,7 +102,7 @@ void StatExtractor::ImportFolder_Click() {
     FolderRun(app_, *this, *folder).run(steps);
     app_.platform().say(std::to_string(ImportCount) + " Files imported");
     steps.take([this] {
-        app_.windows().standings().DivisionStandingsUpdate();
+        Standings::in(app_).DivisionStandingsUpdate();
         updateStandings();
     });
     steps.rethrowFailure();

@@ -217,7 +217,7 @@ void StatExtractor::ImportStats_Click() {
 }
 
 void StatExtractor::updateStandings() {
-    Standings& standings = app_.windows().standings();
+    Standings& standings = Standings::in(app_);
     standings.HomeAwayStandingsUpdate();
     standings.vsConfLoad();
     standings.EvE_Click();

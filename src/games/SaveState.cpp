@@ -1,5 +1,6 @@
 #include "games/SaveState.h"
 
+#include "games/SaveStateMap.h"
 #include "store/PlayerFiles.h"
 
 namespace iceline {
@@ -48,7 +49,7 @@ bool isRosterRow(int row) {
 }
 
 bool isAssist(int row) {
-    return row == SaveStateMap::NoAssist || isRosterRow(row);
+    return row == NoAssist || isRosterRow(row);
 }
 
 std::string teamRefusal(const std::string& side, TeamIndex team) {

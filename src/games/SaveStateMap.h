@@ -22,8 +22,6 @@ inline constexpr int PenaltyLength = 59501; ///< bytes in the penalty table
 inline constexpr int PenaltyTable = 59502;
 inline constexpr int PenaltyEntryBytes = 4; ///< time stamp (2), penalty type, player
 
-inline constexpr int NoAssist = 255;
-inline constexpr int AwaySide = 128; ///< bit of a goal or penalty type that is set for the away team
 inline constexpr int SecondsPerPeriodCode =
     16384; ///< a time stamp is (period - 1) times this, plus the seconds
 

@@ -1,6 +1,7 @@
 #include "games/StatExtractor.h"
 
 #include "games/BoxScorePage.h"
+#include "games/SaveStateMap.h"
 #include "games/Summaries.h"
 #include "games/ThreeStars.h"
 #include "playoffs/SeasonEnd.h"
@@ -25,6 +26,10 @@ void takeNames(const Roster& roster, std::array<std::string, RosterRows>& names)
 }
 
 } // namespace
+
+StatExtractor& StatExtractor::in(Application& app) {
+    return static_cast<StatExtractor&>(app.windows().use(WindowId::StatExtractor));
+}
 
 void StatExtractor::Form_Load() {
     const BusyPointer busy(app_.platform());

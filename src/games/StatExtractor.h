@@ -17,6 +17,9 @@ class StatExtractor : public Window {
 public:
     using Window::Window;
 
+    /// The application's game window, loaded.
+    static StatExtractor& in(Application& app);
+
     /// What the window shows.
     struct Content {
         std::string FileName = "[No File Loaded]";

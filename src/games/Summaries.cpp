@@ -91,7 +91,7 @@ template <class NameOf>
 std::string namesOf(const ScoringEntry& goal, NameOf name) {
     std::string text = name(goal.scorer);
     for (const int assistant : {goal.assist1, goal.assist2})
-        if (assistant != SaveStateMap::NoAssist)
+        if (assistant != NoAssist)
             text += ", " + name(assistant);
     return text;
 }

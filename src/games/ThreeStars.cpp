@@ -1,6 +1,7 @@
 #include "games/ThreeStars.h"
 
 #include "games/GameSheetReader.h"
+#include "games/SaveStateMap.h"
 
 #include <algorithm>
 #include <initializer_list>

@@ -1,6 +1,6 @@
 #include "leaders/LeaderRows.h"
 
-#include "players/PlayerNames.h"
+#include "players/PlayerCards.h"
 
 namespace iceline {
 

@@ -24,6 +24,11 @@ std::string inCapitals(std::string text) {
 
 } // namespace
 
+Rankings& Rankings::in(Application& app, PartOfYear part) {
+    const bool season = part == PartOfYear::Season;
+    return static_cast<Rankings&>(app.windows().use(season ? WindowId::Rankings : WindowId::PlayoffRankings));
+}
+
 void Rankings::Form_Load() {
     const BusyPointer busy(app_.platform());
     content_.title = part_ == PartOfYear::Season ? "Rankings" : "Playoff Rankings";

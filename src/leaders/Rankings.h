@@ -16,6 +16,9 @@ class Rankings : public Window {
 public:
     Rankings(Application& application, PartOfYear part) : Window(application), part_(part) {}
 
+    /// The application's leaders of that part of the year, loaded.
+    static Rankings& in(Application& app, PartOfYear part);
+
     /// A table as the window shows it.
     struct Table {
         std::vector<LeaderLine> rows; ///< names in capitals

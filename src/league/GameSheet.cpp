@@ -33,7 +33,7 @@ void GameSheet::addGoal(int period, int seconds, Side side, Strength strength, i
         ++team.PPG;
     ++at(team.G, scorer);
     for (const int assistant : {assist1, assist2})
-        if (assistant != SaveStateMap::NoAssist)
+        if (assistant != NoAssist)
             ++at(team.A, assistant);
     ++at(other.G, other.goalie);
 }

@@ -1,8 +1,8 @@
 #pragma once
 
+#include "league/Roster.h"
 #include "league/SummaryEntries.h"
 #include "league/TeamTable.h"
-#include "store/PlayerFiles.h"
 
 #include <array>
 #include <optional>
@@ -66,8 +66,8 @@ struct GameSheet {
 
     /// A goal and the shot that it was: the entry, the team's goals, power-play goals and shots, the figures
     /// of scorer and assistants, and those of the other team's goalie. Power plays are not counted.
-    void addGoal(int period, int seconds, Side side, Strength strength, int scorer,
-                 int assist1 = SaveStateMap::NoAssist, int assist2 = SaveStateMap::NoAssist);
+    void addGoal(int period, int seconds, Side side, Strength strength, int scorer, int assist1 = NoAssist,
+                 int assist2 = NoAssist);
 
     /// A penalty: the entry, the team's penalties and minutes, and the player's minutes. The other team's
     /// power plays are not counted.

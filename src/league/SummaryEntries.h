@@ -1,17 +1,16 @@
 #pragma once
 
-#include "games/SaveStateMap.h"
+#include "league/Side.h"
 
 #include <optional>
 
 namespace iceline {
 
-/// The two teams of a game.
-enum class Side { Home, Away };
+/// What stands in a summary entry's place of an assistant when there was none.
+inline constexpr int NoAssist = 255;
 
-inline constexpr Side otherSide(Side side) {
-    return side == Side::Home ? Side::Away : Side::Home;
-}
+/// The bit of a goal or penalty type that is set for the away team.
+inline constexpr int AwaySide = 128;
 
 /// Skaters of the scoring team against those of the other team; the numbers are those of the goal types.
 enum class Strength { TwoMenShort = 0, OneManShort = 1, Even = 2, PowerPlay = 3, TwoManPowerPlay = 4 };
@@ -39,17 +38,17 @@ inline constexpr int minutesOf(Infraction infraction) {
 
 /// The byte that says the side and the kind of a goal or penalty in one.
 inline constexpr int typeByte(Side side, int kind) {
-    return kind + (side == Side::Away ? SaveStateMap::AwaySide : 0);
+    return kind + (side == Side::Away ? AwaySide : 0);
 }
 
 /// The side that a type byte says.
 inline constexpr Side sideOf(int typeByte) {
-    return typeByte < SaveStateMap::AwaySide ? Side::Home : Side::Away;
+    return typeByte < AwaySide ? Side::Home : Side::Away;
 }
 
 /// What is left of a type byte without its side.
 inline constexpr int kindOf(int typeByte) {
-    return typeByte % SaveStateMap::AwaySide;
+    return typeByte % AwaySide;
 }
 
 /// The strength that a goal's type byte says; none for a byte that is no goal type.
@@ -65,8 +64,8 @@ struct ScoringEntry {
     int seconds = 0; ///< of the period's clock, 0 to 16383
     int type = 0;    ///< side and Strength; any other byte may stand there
     int scorer = 0;  ///< roster row in the scoring team
-    int assist1 = SaveStateMap::NoAssist;
-    int assist2 = SaveStateMap::NoAssist;
+    int assist1 = NoAssist;
+    int assist2 = NoAssist;
 
     friend bool operator==(const ScoringEntry&, const ScoringEntry&) = default;
 };

@@ -1,5 +1,5 @@
 #include "page/PageFrame.h"
-#include "players/PlayerNames.h"
+#include "page/PageNames.h"
 #include "players/PlayerTable.h"
 
 namespace iceline {

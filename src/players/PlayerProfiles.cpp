@@ -1,7 +1,7 @@
 #include "players/PlayerProfiles.h"
 
 #include "league/Numbers.h"
-#include "players/PlayerNames.h"
+#include "players/PlayerCards.h"
 #include "shell/Application.h"
 
 #include <algorithm>

@@ -1,7 +1,7 @@
 #include "players/RosterPages.h"
 
 #include "page/PageFrame.h"
-#include "players/PlayerNames.h"
+#include "page/PageNames.h"
 
 #include <algorithm>
 

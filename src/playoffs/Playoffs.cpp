@@ -26,7 +26,7 @@ void Playoffs::Form_Load() {
 
 void Playoffs::PlayoffTreeUpdate() {
     if (!app_.state.PlayoffMode)
-        app_.windows().standings().DivisionStandingsUpdate();
+        Standings::in(app_).DivisionStandingsUpdate();
     content_ = {};
     content_.PlayoffMode = app_.state.PlayoffMode;
     std::copy_n(app_.state.WalesSeeds.begin(), content_.EastFirstRound.size(),

@@ -30,7 +30,7 @@ void checkSeason(Application& app) {
     if (app.state.PlayoffMode || !allTeamsAreDone(app))
         return;
     // First of all, since it reads files and can fail: the season then goes on as before.
-    app.windows().standings().DivisionStandingsUpdate();
+    Standings::in(app).DivisionStandingsUpdate();
     if (app.state.StartupDone)
         app.platform().say("Regular Season COMPLETE, Playoff Mode now active for the Postseason.");
     app.state.PlayoffMode = true;

@@ -75,7 +75,7 @@ private:
     int pickAssistant(Side side, int scorer, int assistant);
     void raiseCrowd();
 
-    static constexpr int NoRow = SaveStateMap::NoAssist;
+    static constexpr int NoRow = NoAssist;
 
     SeededRandom random_;
     GameSheet game_;

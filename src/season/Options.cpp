@@ -210,8 +210,8 @@ void Options::clearWholeLeague() {
 void Options::afterClearing() {
     app_.state.PlayoffMode = false;
     app_.state.SeasonFolder.clear();
-    app_.windows().standings().DivisionStandingsUpdate();
-    app_.windows().rankings(PartOfYear::Season).tmLeadersLoad();
+    Standings::in(app_).DivisionStandingsUpdate();
+    Rankings::in(app_, PartOfYear::Season).tmLeadersLoad();
 }
 
 } // namespace iceline

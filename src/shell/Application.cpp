@@ -2,8 +2,9 @@
 
 namespace iceline {
 
-Application::Application(Files& disk, Files& siteTemplate, Platform& platform)
-    : inForce_{&disk}, siteTemplate_(siteTemplate), platform_(platform), journal_(disk), windows_(*this) {}
+Application::Application(Files& disk, Files& siteTemplate, Platform& platform, WindowCatalogue catalogue)
+    : inForce_{&disk}, siteTemplate_(siteTemplate), platform_(platform), journal_(disk),
+      windows_(*this, catalogue) {}
 
 Operation::Operation(Application& application)
     : app_(application), outermost_(!application.operationInHand()), beneath_(application.files()),

@@ -15,8 +15,8 @@ namespace iceline {
 class Application {
 public:
     /// `disk` is the league folder; `siteTemplate` the site as delivered with the program. All must outlive
-    /// the application.
-    Application(Files& disk, Files& siteTemplate, Platform& platform);
+    /// the application, which opens the windows of `catalogue`.
+    Application(Files& disk, Files& siteTemplate, Platform& platform, WindowCatalogue catalogue);
 
     /// The files as they stand for whoever asks now: those of the operation in hand, or the disk.
     Files& files() { return *inForce_.back(); }

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "league/TeamTable.h"
+#include "league/StarOfGame.h"
 #include "store/LeagueFiles.h"
 #include "store/LeaguePaths.h"
 
@@ -10,12 +10,6 @@
 #include <vector>
 
 namespace iceline {
-
-/// A star of the game.
-struct StarOfGame {
-    TeamIndex Team = 0;
-    std::string Name;
-};
 
 /// A row of a league table of players: whole numbers, fractions scaled, so that one comparison serves all
 /// columns.

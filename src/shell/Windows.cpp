@@ -2,14 +2,12 @@
 
 #include "shell/Application.h"
 
-#include <algorithm>
-
 namespace iceline {
 
 Window& Windows::use(WindowId id) {
     std::unique_ptr<Window>& window = slot(id);
     if (!window) {
-        window = catalogueRow(id).make(app_);
+        window = row(id).make(app_);
         try {
             window->Form_Load();
         } catch (...) {
@@ -38,20 +36,8 @@ void Windows::unload(WindowId id) {
 }
 
 void Windows::unloadAll() {
-    for (const CatalogueRow& row : windowCatalogue())
+    for (const CatalogueRow& row : catalogue_)
         unload(row.id);
-}
-
-const CatalogueRow& catalogueRow(WindowId id) {
-    return windowCatalogue()[static_cast<std::size_t>(id)];
-}
-
-std::optional<WindowId> windowByName(std::string_view name) {
-    const auto rows = windowCatalogue();
-    const auto row = std::ranges::find(rows, name, &CatalogueRow::name);
-    if (row == rows.end())
-        return std::nullopt;
-    return row->id;
 }
 
 } // namespace iceline

@@ -1,21 +1,16 @@
 #pragma once
 
 #include "shell/Window.h"
-#include "store/LeaguePaths.h"
 
 #include <array>
 #include <functional>
 #include <memory>
-#include <optional>
 #include <span>
 #include <string_view>
 
 namespace iceline {
 
 class Application;
-class Standings;
-class StatExtractor;
-class Rankings;
 
 /// The fifteen windows of the catalogue, in its order.
 enum class WindowId {
@@ -37,7 +32,7 @@ enum class WindowId {
 };
 inline constexpr std::size_t WindowCount = 15;
 
-/// A row of the catalogue.
+/// A row of the catalogue of windows.
 struct CatalogueRow {
     WindowId id;
     std::string_view entry; ///< "Stat Extractor"
@@ -45,18 +40,16 @@ struct CatalogueRow {
     std::unique_ptr<Window> (*make)(Application&);
 };
 
-/// The catalogue of the main window.
-std::span<const CatalogueRow> windowCatalogue();
-const CatalogueRow& catalogueRow(WindowId id);
-
-/// The window of that name ("PlayoffRankings"), to the letter.
-std::optional<WindowId> windowByName(std::string_view name);
+using WindowCatalogue = std::span<const CatalogueRow, WindowCount>;
 
 /// Owns the window objects. There is at most one of each; using one that is not loaded loads it first, which
 /// runs its whole load sequence.
 class Windows {
 public:
-    explicit Windows(Application& application) : app_(application) {}
+    /// `catalogue` has a row for each WindowId, in that order.
+    Windows(Application& application, WindowCatalogue catalogue) : app_(application), catalogue_(catalogue) {}
+
+    const CatalogueRow& row(WindowId id) const { return catalogue_[static_cast<std::size_t>(id)]; }
 
     /// The window, loaded. When its load throws, the window is not loaded.
     Window& use(WindowId id);
@@ -72,10 +65,6 @@ public:
     void unload(WindowId id);
     void unloadAll();
 
-    StatExtractor& statExtractor();
-    Standings& standings();
-    Rankings& rankings(PartOfYear part);
-
     /// Called before a window is unloaded; set by whoever shows windows.
     std::function<void(WindowId)> onUnload;
 
@@ -84,6 +73,7 @@ private:
     const std::unique_ptr<Window>& slot(WindowId id) const { return windows_[static_cast<std::size_t>(id)]; }
 
     Application& app_;
+    WindowCatalogue catalogue_;
     std::array<std::unique_ptr<Window>, WindowCount> windows_;
     std::array<bool, WindowCount> open_{};
 };

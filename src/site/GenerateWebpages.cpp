@@ -2,7 +2,8 @@
 
 #include "files/FileError.h"
 #include "page/PageFrame.h"
-#include "players/PlayerNames.h"
+#include "page/PageNames.h"
+#include "players/PlayerCards.h"
 #include "players/PlayerPages.h"
 #include "players/RosterPages.h"
 #include "shell/Application.h"
@@ -85,7 +86,7 @@ public:
 
 private:
     void writePagesOf(WindowId id) {
-        progress_.next(std::string(catalogueRow(id).entry));
+        progress_.next(std::string(app_.windows().row(id).entry));
         app_.state.ShowWindows = false;
         app_.windows().use(id);
         app_.windows().unload(id);

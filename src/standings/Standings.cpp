@@ -22,6 +22,10 @@ void showMarks(Tables& tables, const ApplicationState& state) {
 
 } // namespace
 
+Standings& Standings::in(Application& app) {
+    return static_cast<Standings&>(app.windows().use(WindowId::Standings));
+}
+
 bool Standings::writesPages() const {
     return !app_.state.ShowWindows;
 }

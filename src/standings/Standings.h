@@ -14,6 +14,9 @@ class Standings : public Window {
 public:
     using Window::Window;
 
+    /// The application's standings, loaded.
+    static Standings& in(Application& app);
+
     /// What the window shows.
     struct Content {
         std::array<DivisionRows, 4> divisions;     ///< by Division

@@ -1,14 +1,11 @@
 #pragma once
 
+#include "league/PartOfYear.h"
 #include "league/TeamTable.h"
 
 #include <string>
 
 namespace iceline {
-
-/// The two parts of a league's year. Twin windows, files and pages are the same thing for the one or the
-/// other.
-enum class PartOfYear { Season, Playoffs };
 
 /// The part of a path between a team's folder and its files: "" or "/Post Season".
 inline std::string seasonFolder(PartOfYear part) {

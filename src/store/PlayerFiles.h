@@ -1,6 +1,7 @@
 #pragma once
 
 #include "files/Files.h"
+#include "league/Roster.h"
 #include "store/Fields.h"
 
 #include <array>
@@ -10,27 +11,8 @@
 
 namespace iceline {
 
-/// Rows of a roster: the places in which the game holds a team's players.
-inline constexpr int RosterRows = 25;
-
-/// The name that marks an empty roster row.
-inline constexpr std::string_view EmptyRowName = "-----------";
-
-/// A line of `Players List.txt`; nothing in it is quoted. The default is the empty row.
-struct RosterRow {
-    std::string Name{EmptyRowName};
-    int Number = 0;             ///< sweater number
-    int Rating = 0;             ///< the game's rating of the player, 0 to 99
-    std::string Position = "D"; ///< "G", "F" or "D"
-
-    bool isEmpty() const { return Name == EmptyRowName; }
-    bool isGoalie() const { return Position == "G"; }
-};
-
 template <>
 std::span<const Field<RosterRow>> fieldsOf<RosterRow>();
-
-using Roster = std::array<RosterRow, RosterRows>;
 
 /// Reads the 25 rows of a `Players List.txt`. A name that holds a double quote is an error: the league's
 /// files could not hold it.

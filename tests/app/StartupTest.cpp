@@ -1,5 +1,6 @@
 #include "app/Startup.h"
 
+#include "app/Catalogue.h"
 #include "files/FileError.h"
 #include "store/LeagueFiles.h"
 #include "support/TestLeague.h"
@@ -27,7 +28,7 @@ constexpr const char* Question =
 /// One run of the program up to the main window.
 struct ProgramRun {
     explicit ProgramRun(MemoryFiles& files, std::deque<Answer> answers = {})
-        : app(files, siteTemplate, platform) {
+        : app(files, siteTemplate, platform, windowCatalogue()) {
         platform.answers = std::move(answers);
     }
 

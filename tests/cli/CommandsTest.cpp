@@ -1,4 +1,5 @@
 #include "CliTest.h"
+#include "app/Catalogue.h"
 #include "cli/TextTable.h"
 #include "files/LeagueLock.h"
 #include "shell/Windows.h"

@@ -1,3 +1,4 @@
+#include "app/Catalogue.h"
 #include "app/SplashScreen.h"
 #include "desktop/DesktopTest.h"
 #include "season/Options.h"

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "app/Catalogue.h"
 #include "files/FileError.h"
 #include "games/StatExtractor.h"
 #include "support/TestLeague.h"
@@ -23,7 +24,7 @@ inline void require(bool holds, const std::string& promise) {
 /// import; one that comes up behind it, when the season is looked at, leaves the game in the books.
 inline bool importFails(TestLeague& league, const std::string& path) {
     try {
-        StatExtractor& window = league.app.windows().statExtractor();
+        StatExtractor& window = StatExtractor::in(league.app);
         window.Exhibition = false;
         window.Season = true;
         window.T1Coach = 1;

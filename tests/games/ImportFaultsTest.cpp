@@ -1,3 +1,4 @@
+#include "app/Catalogue.h"
 #include "app/Startup.h"
 #include "files/FileError.h"
 #include "games/ImportLeague.h"
@@ -14,7 +15,7 @@ class FaultyRun {
 public:
     explicit FaultyRun(const MemoryFiles& league) : memory_(league) {
         startUp(app_);
-        StatExtractor& window = app_.windows().statExtractor();
+        StatExtractor& window = StatExtractor::in(app_);
         window.Exhibition = false;
         window.Season = true;
         window.T1Coach = 1;
@@ -25,7 +26,7 @@ public:
     void importFailingAt(int n, FailingFiles::Failure failure) {
         failing_.failAt(n, failure);
         try {
-            app_.windows().statExtractor().ImportStats_Click();
+            StatExtractor::in(app_).ImportStats_Click();
         } catch (const FileError&) {
             threw = true;
         }
@@ -46,7 +47,7 @@ private:
     MemoryFiles siteTemplate_ = smallSiteTemplate();
     TestPlatform platform_;
     FailingFiles failing_{memory_};
-    Application app_{failing_, siteTemplate_, platform_};
+    Application app_{failing_, siteTemplate_, platform_, windowCatalogue()};
 };
 
 class ImportFaults : public testing::TestWithParam<FailingFiles::Failure> {};

@@ -51,7 +51,7 @@ TEST_F(ImportFolder, LeavesTheSameLeagueAsSingleImports) {
     save("Games/1.gs0", lovelyGame());
     save("Games/2.gs0", GameSheet(Montreal, Boston));
     TestLeague other(files());
-    StatExtractor& single = other.app.windows().statExtractor();
+    StatExtractor& single = StatExtractor::in(other.app);
     single.Exhibition = false;
     single.Season = true;
     for (const char* path : {"Games/1.gs0", "Games/2.gs0"}) {
@@ -170,7 +170,7 @@ TEST_F(ImportFolder, TheStandingsCountTheGamesBeforeAFileError) {
     files().files["Chicago Blackhawks/Player Stats.txt"] = "torn";
     EXPECT_THROW(run(), FileError);
     int games = 0;
-    for (const DivisionRows& division : league.app.windows().standings().content().divisions)
+    for (const DivisionRows& division : Standings::in(league.app).content().divisions)
         for (const StandingsRow& row : division)
             games += row.GP;
     EXPECT_EQ(games, 2) << "one for each of two teams";

@@ -1,3 +1,4 @@
+#include "app/Catalogue.h"
 #include "app/Startup.h"
 #include "files/DiskFiles.h"
 #include "games/ImportLeague.h"
@@ -20,7 +21,7 @@ constexpr int LongestRunMicroseconds = 25'000;
 /// The program on a league, ready to import the game lying in it again and again.
 class Program {
 public:
-    explicit Program(Files& league) : app_(league, siteTemplate_, platform_) {
+    explicit Program(Files& league) : app_(league, siteTemplate_, platform_, windowCatalogue()) {
         startUp(app_);
         window().Exhibition = false;
         window().Season = true;
@@ -33,7 +34,7 @@ public:
     }
 
 private:
-    StatExtractor& window() { return app_.windows().statExtractor(); }
+    StatExtractor& window() { return StatExtractor::in(app_); }
 
     MemoryFiles siteTemplate_ = smallSiteTemplate();
     TestPlatform platform_;

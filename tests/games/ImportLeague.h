@@ -30,7 +30,7 @@ inline GameSheet lovelyGame() {
 /// A league in memory and its game window.
 class ImportLeague : public testing::Test {
 protected:
-    StatExtractor& window() { return league.app.windows().statExtractor(); }
+    StatExtractor& window() { return StatExtractor::in(league.app); }
     ApplicationState& state() { return league.app.state; }
     MemoryFiles& files() { return league.files; }
 

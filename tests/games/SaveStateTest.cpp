@@ -1,6 +1,7 @@
 #include "games/SaveState.h"
 
 #include "files/FileError.h"
+#include "games/SaveStateMap.h"
 #include "samples/SaveStateWriter.h"
 #include "support/MemoryFiles.h"
 

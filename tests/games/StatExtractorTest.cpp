@@ -43,7 +43,7 @@ protected:
         window().FillWindow = true;
     }
 
-    StatExtractor& window() { return league.app.windows().statExtractor(); }
+    StatExtractor& window() { return StatExtractor::in(league.app); }
     ApplicationState& state() { return league.app.state; }
 
     test::TestLeague league;

@@ -7,7 +7,7 @@ namespace {
 
 constexpr TeamIndex Boston = 0;
 constexpr TeamIndex LosAngeles = 8;
-constexpr int None = SaveStateMap::NoAssist;
+constexpr int None = NoAssist;
 
 const std::string ScoringHead =
     "Per Time Team             Goal/Assist                                     P/S\r\n";

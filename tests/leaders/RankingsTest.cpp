@@ -21,7 +21,7 @@ constexpr TeamIndex BUF = 1;
 constexpr TeamIndex CGY = 2;
 
 Rankings& rankings(TestLeague& league, PartOfYear part = PartOfYear::Season) {
-    return league.app.windows().rankings(part);
+    return Rankings::in(league.app, part);
 }
 
 TEST(PlayerLeaders, OfEqualPointsTheFirstTeamAndRosterRowComesFirstBothWays) {
@@ -122,7 +122,7 @@ TEST(ColumnHeads, ASecondClickTurnsTheDirectionAndAnotherColumnKeepsIt) {
     EXPECT_EQ(window.TeamSortColumn, NoColumn);
     window.ThreeStarSort_Click();
     EXPECT_TRUE(window.content().stars.sort.ascending);
-    EXPECT_FALSE(league.app.windows().rankings(PartOfYear::Playoffs).PlayerSortAscending);
+    EXPECT_FALSE(Rankings::in(league.app, PartOfYear::Playoffs).PlayerSortAscending);
 }
 
 TEST(GoalieLeaders, OneGameIsEnoughToLead) {

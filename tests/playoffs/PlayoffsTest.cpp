@@ -1,5 +1,6 @@
 #include "playoffs/Playoffs.h"
 
+#include "app/Catalogue.h"
 #include "app/Startup.h"
 #include "app/WelcomeWindow.h"
 #include "files/FileError.h"
@@ -83,7 +84,7 @@ TEST_F(SeasonEnd, NextRunFindsItOutWithoutAMessage) {
     playSeason();
     MemoryFiles siteTemplate;
     TestPlatform platform;
-    Application nextRun(league.files, siteTemplate, platform);
+    Application nextRun(league.files, siteTemplate, platform, windowCatalogue());
     ASSERT_TRUE(startUp(nextRun));
     EXPECT_TRUE(nextRun.state.PlayoffMode);
     EXPECT_EQ(nextRun.state.PlayoffSeries[0].TeamA, team("BOS"));

@@ -1,6 +1,7 @@
 #include "samples/SampleGames.h"
 
 #include "games/SaveState.h"
+#include "games/SaveStateMap.h"
 #include "samples/SaveStateWriter.h"
 #include "support/MemoryFiles.h"
 
@@ -47,11 +48,11 @@ const Roster& rosterOf(const TeamSheet& team) {
 }
 
 bool isSideOf(int type, Side side) {
-    return (type >= SaveStateMap::AwaySide) == (side == Side::Away);
+    return (type >= AwaySide) == (side == Side::Away);
 }
 
 int kindOf(int type) {
-    return type % SaveStateMap::AwaySide;
+    return type % AwaySide;
 }
 
 int playedSeconds(int period, int seconds) {
@@ -95,7 +96,7 @@ void expectGoalsOfSummaryPlayersAndTeamAgree(const GameSheet& game, Side side) {
         ++goals[goal.scorer];
         powerPlayGoals += kindOf(goal.type) >= 3;
         for (const int assistant : {goal.assist1, goal.assist2})
-            if (assistant != SaveStateMap::NoAssist)
+            if (assistant != NoAssist)
                 ++assists[assistant];
     }
     for (int row = 0; row < RosterRows; ++row)
@@ -249,9 +250,9 @@ TEST(SampleGames, GamesOfEveryKindOccur) {
         seen["goalie's assist"] += sumOver(game.home, game.home.A, true) > 0;
         for (const ScoringEntry& goal : game.goals) {
             ++seen["strength " + std::to_string(kindOf(goal.type))];
-            ++seen[goal.assist1 == SaveStateMap::NoAssist   ? "unassisted"
-                   : goal.assist2 == SaveStateMap::NoAssist ? "one assist"
-                                                            : "two assists"];
+            ++seen[goal.assist1 == NoAssist   ? "unassisted"
+                   : goal.assist2 == NoAssist ? "one assist"
+                                              : "two assists"];
         }
         for (const PenaltyEntry& penalty : game.penalties)
             ++seen["penalty " + std::to_string(kindOf(penalty.type))];

@@ -1,5 +1,6 @@
 #include "season/Options.h"
 
+#include "app/Catalogue.h"
 #include "files/FileError.h"
 #include "page/BoxScoreList.h"
 #include "support/FailingFiles.h"
@@ -244,7 +245,7 @@ protected:
         MemoryFiles files = league.files;
         FailingFiles failing(files);
         TestPlatform platform;
-        Application app(failing, league.siteTemplate, platform);
+        Application app(failing, league.siteTemplate, platform, windowCatalogue());
         app.state.ShowWindows = true;
         auto& options = static_cast<Options&>(app.windows().use(WindowId::Options));
         failing.failAt(n, GetParam());

@@ -1,3 +1,4 @@
+#include "app/Catalogue.h"
 #include "app/WelcomeWindow.h"
 #include "files/FileError.h"
 #include "support/TestLeague.h"
@@ -239,7 +240,9 @@ public:
 };
 
 struct RunOn {
-    explicit RunOn(OneBadFile& files) : app(files, siteTemplate, platform) { app.state.ShowWindows = true; }
+    explicit RunOn(OneBadFile& files) : app(files, siteTemplate, platform, windowCatalogue()) {
+        app.state.ShowWindows = true;
+    }
 
     MemoryFiles siteTemplate = test::smallSiteTemplate();
     test::TestPlatform platform;

@@ -31,7 +31,7 @@ protected:
     const Standings::Content& publish() {
         league.app.windows().unload(WindowId::Standings);
         league.app.state.ShowWindows = false;
-        return league.app.windows().standings().content();
+        return Standings::in(league.app).content();
     }
 
     std::string adams() { return teamsOfRows(open().content().divisions[0]); }
@@ -96,7 +96,7 @@ TEST_F(StandingsWindow, EveryProcedureReadsEachRecordOnceAndWritesNothing) {
 TEST_F(StandingsWindow, ClickInTheCatalogueBringsAnOpenWindowUpToDate) {
     const Standings& window = open();
     int redrawn = 0;
-    league.app.windows().standings().onChange = [&redrawn] { ++redrawn; };
+    Standings::in(league.app).onChange = [&redrawn] { ++redrawn; };
     TeamRecord record;
     record.Points = 2;
     record.HWinPercent = 1;
@@ -191,7 +191,7 @@ TEST_F(VersusTables, PageHoldsBothRankingsSideBySide) {
     const auto lines = linesOf(league.page("vsConfStandings.htm"));
     EXPECT_THAT(lines.at(8), testing::MatchesRegex(".*MTL.gif.* .333 .*QUE.gif.* .5 .*"));
     EXPECT_THAT(lines.at(25), testing::MatchesRegex(".*WPG.gif.* .333 .*CGY.gif.* .5 .*"));
-    EXPECT_THAT(teamsOfRows(league.app.windows().standings().content().versus[Wales]), StartsWith("MTL"));
+    EXPECT_THAT(teamsOfRows(Standings::in(league.app).content().versus[Wales]), StartsWith("MTL"));
 }
 
 TEST_F(StandingsWindow, PagesAreWrittenOnlyWhileTheSiteIs) {
@@ -205,7 +205,7 @@ TEST_F(StandingsWindow, PagesAreWrittenOnlyWhileTheSiteIs) {
         EXPECT_TRUE(league.files.isFile(paths::page(page))) << page;
 
     const std::string versusPage = league.page("vsConfStandings.htm");
-    league.app.windows().standings().EvW_Click();
+    Standings::in(league.app).EvW_Click();
     EXPECT_EQ(league.page("vsConfStandings.htm"), versusPage);
 }
 

@@ -1,5 +1,6 @@
 #include "support/TestLeague.h"
 
+#include "app/Catalogue.h"
 #include "app/Startup.h"
 #include "coaches/Coaches.h"
 
@@ -16,7 +17,7 @@ const MemoryFiles& newLeague() {
         MemoryFiles files;
         MemoryFiles siteTemplate = smallSiteTemplate();
         TestPlatform platform;
-        Application app(files, siteTemplate, platform);
+        Application app(files, siteTemplate, platform, windowCatalogue());
         startUp(app);
         return files;
     }();

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "app/Catalogue.h"
 #include "shell/Application.h"
 #include "store/PlayerFiles.h"
 #include "store/TeamFiles.h"
@@ -54,7 +55,7 @@ public:
     MemoryFiles files;
     MemoryFiles siteTemplate;
     TestPlatform platform;
-    Application app{files, siteTemplate, platform};
+    Application app{files, siteTemplate, platform, windowCatalogue()};
 };
 
 /// The text of a `Players List.txt`.

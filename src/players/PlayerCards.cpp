@@ -1,25 +1,9 @@
-#include "players/PlayerNames.h"
+#include "players/PlayerCards.h"
 
+#include "page/PageNames.h"
 #include "store/LeaguePaths.h"
 
-#include <algorithm>
-
 namespace iceline {
-
-namespace {
-
-bool isRefusedInFileNames(char c) {
-    return static_cast<unsigned char>(c) < 0x20 || c == 0x7f ||
-           std::string_view("/\\:*?\"<>|").find(c) != std::string_view::npos;
-}
-
-} // namespace
-
-std::string playerFileName(std::string_view name) {
-    std::string fileName(name);
-    std::ranges::replace_if(fileName, isRefusedInFileNames, '_');
-    return fileName;
-}
 
 bool hasPlayerCard(Files& files, std::string_view name) {
     return playerFileName(name) == name &&

@@ -1,0 +1,15 @@
+#pragma once
+
+#include "league/TeamTable.h"
+
+#include <string>
+
+namespace iceline {
+
+/// A star of the game.
+struct StarOfGame {
+    TeamIndex Team = 0;
+    std::string Name;
+};
+
+} // namespace iceline
