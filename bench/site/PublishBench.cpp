@@ -50,7 +50,7 @@ GoalieStats goalie(int n) {
 /// A full league at the end of its season: 24 skaters or goalies and more a team, all of whom have played.
 MemoryFiles fullLeague() {
     test::TestLeague league;
-    for (TeamIndex team = 0; team < LeagueTeams; ++team) {
+    for (const TeamIndex team : AllLeagueTeams) {
         Roster roster = league.roster(team);
         TeamPlayerStats stats;
         for (int row = 0; row < RosterRows; ++row) {

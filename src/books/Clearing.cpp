@@ -25,7 +25,7 @@ void clearLeague(Files& files) {
         if (file.isCleared)
             files.write(file.name, file.content());
     files.write(paths::page("BoxScores.htm"), boxScoreListHead());
-    for (TeamIndex team = 0; team < LeagueTeams; ++team)
+    for (const TeamIndex team : AllLeagueTeams)
         clearTeam(files, team);
 }
 

@@ -34,7 +34,7 @@ TextTable leaderTable(const std::vector<PlayerStats::Leader>& leaders) {
 
 void printTeamList(const std::string& prompt, std::ostream& out) {
     out << prompt << '\n';
-    for (TeamIndex team = 0; team < LeagueTeams; ++team)
+    for (const TeamIndex team : AllLeagueTeams)
         out << "  " << TeamName[team] << '\n';
 }
 

@@ -13,9 +13,8 @@ TextTable recordTable(const std::string& title, const std::vector<ShownRecord>& 
     TextTable table(
         {{padded(title, 24, Align::Left), Align::Left}, {"", Align::Left}, {"", Align::Left}, {""}});
     for (const ShownRecord& record : records)
-        table.addRow({std::string(record.caption),
-                      record.team < 0 ? std::string() : std::string(TeamAbbr[record.team]), record.name,
-                      record.value});
+        table.addRow({std::string(record.caption), std::string(record.team ? TeamAbbr[*record.team] : ""),
+                      record.name, record.value});
     return table;
 }
 

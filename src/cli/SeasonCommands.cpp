@@ -23,11 +23,11 @@ Status goToPlayoffs(Session& session, const NoArguments&) {
 }
 
 Status clearStats(Session& session, const std::string& team) {
-    const auto index = team == TeamAbbr[AllTeams] ? LeagueTeams : teamByName(team);
-    if (!index)
+    const auto index = teamByName(team);
+    if (!index && team != TeamAbbr[AllTeams])
         throw UsageError("there is no team '" + team + "'; give its full name, or ALL for the league");
     Options& options = use<Options>(session, WindowId::Options);
-    options.ClearTeamSelect = *index;
+    options.ClearTeamSelect = index ? index->number() : LeagueTeams;
     options.ClearTeamSelect_Click();
     options.Command8_Click();
     return Status::Done;

@@ -60,7 +60,7 @@ void AllTimeRecordsWindow::refresh() {
 void AllTimeRecordsWindow::show(const std::vector<ShownRecord>& records) {
     for (const ShownRecord& record : records) {
         if (!record.teamControl.empty())
-            findChild<QLabel*>(toQt(record.teamControl))->setPixmap(pictures::teamNameMini(record.team));
+            findChild<QLabel*>(toQt(record.teamControl))->setPixmap(pictures::teamNameMini(*record.team));
         if (!record.nameControl.empty())
             findChild<QLabel*>(toQt(record.nameControl))->setText(toQt(record.name));
         findChild<QLabel*>(toQt(record.valueControl))->setText(toQt(record.value));

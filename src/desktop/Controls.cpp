@@ -74,7 +74,7 @@ QComboBox* teamList(const char* objectName, const QString& prompt, QWidget* pare
     auto* list = new QComboBox(parent);
     list->setObjectName(QLatin1String(objectName));
     list->setPlaceholderText(prompt);
-    for (TeamIndex team = 0; team < LeagueTeams; ++team)
+    for (const TeamIndex team : AllLeagueTeams)
         list->addItem(toQt(TeamName[team]));
     list->setCurrentIndex(-1);
     list->setMinimumWidth(210);

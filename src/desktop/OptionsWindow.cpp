@@ -156,7 +156,8 @@ void OptionsWindow::refresh() {
 void OptionsWindow::showClearedTeam() {
     if (object_.ClearTeamSelect == Options::NotChosen)
         return;
-    const TeamIndex team = object_.ClearTeamSelect < LeagueTeams ? object_.ClearTeamSelect : AllTeams;
+    const bool oneTeam = object_.ClearTeamSelect < LeagueTeams;
+    const TeamIndex team = oneTeam ? TeamIndex(object_.ClearTeamSelect) : AllTeams;
     findChild<QLabel*>(QStringLiteral("ClearSelectedName"))->setPixmap(pictures::teamNameBig(team));
     for (const char* logo : {"ClearSelectedLogo", "ClearSelectedLogo2"})
         findChild<QLabel*>(QLatin1String(logo))->setPixmap(pictures::teamLogo(team));

@@ -149,9 +149,9 @@ QLayout* PlayerProfilesWindow::makePlayer() {
 
 void PlayerProfilesWindow::refresh() {
     const PlayerProfiles::Content& content = object_.content();
-    const TeamIndex team = object_.PlayersTeamSelect;
-    teams_->setCurrentIndex(team);
-    if (team != PlayerProfiles::NotChosen) {
+    const TeamIndex team(object_.PlayersTeamSelect);
+    teams_->setCurrentIndex(team.number());
+    if (team.number() != PlayerProfiles::NotChosen) {
         findChild<QLabel*>(QStringLiteral("PlayersTeamName"))->setPixmap(pictures::teamNameBig(team));
         for (const char* logo : {"PlayersTeamLogo", "PlayersTeamLogo2"})
             findChild<QLabel*>(QLatin1String(logo))->setPixmap(pictures::teamLogo(team));

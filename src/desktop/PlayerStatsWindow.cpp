@@ -141,9 +141,9 @@ QGroupBox* PlayerStatsWindow::makeLeaders() {
 }
 
 void PlayerStatsWindow::refresh() {
-    const TeamIndex team = object_.PlayersTeamSelect;
-    teams_->setCurrentIndex(team);
-    if (team != PlayerStats::NotChosen) {
+    const TeamIndex team(object_.PlayersTeamSelect);
+    teams_->setCurrentIndex(team.number());
+    if (team.number() != PlayerStats::NotChosen) {
         name_->setPixmap(pictures::teamNameBig(team));
         logo_->setPixmap(pictures::teamLogo(team).scaledToHeight(64, Qt::SmoothTransformation));
         logo2_->setPixmap(logo_->pixmap());

@@ -39,8 +39,9 @@ void TeamStatsWindow::refresh() {
     teams_->setCurrentIndex(object_.TeamSelect);
     if (!object_.content())
         return;
-    name_->setPixmap(pictures::teamNameBig(object_.TeamSelect));
-    logo_->setPixmap(pictures::teamLogo(object_.TeamSelect));
+    const TeamIndex team(object_.TeamSelect);
+    name_->setPixmap(pictures::teamNameBig(team));
+    logo_->setPixmap(pictures::teamLogo(team));
     figures_->show(*object_.content());
 }
 

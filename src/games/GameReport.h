@@ -39,7 +39,7 @@ struct GamePlayerRow {
 
 /// One side of a game.
 struct GameSide {
-    TeamIndex team = 0;
+    TeamIndex team;
     TeamGameStats stats;
     std::array<GamePlayerRow, RosterRows> players;
 };

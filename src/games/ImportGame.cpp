@@ -69,8 +69,8 @@ private:
 
     Application& app_;
     StatExtractor& window_;
-    TeamIndex home_ = 0;
-    TeamIndex away_ = 0;
+    TeamIndex home_;
+    TeamIndex away_;
     PlayoffSeriesTable series_;
     std::optional<SeriesOfGame> seriesOfGame_;
 };

@@ -119,7 +119,7 @@ int SaveState::figure(Side side, int homeOffset) const {
 }
 
 TeamIndex SaveState::team(Side side) const {
-    return byteAt(side == Side::Home ? SaveStateMap::HomeTeam : SaveStateMap::AwayTeam);
+    return TeamIndex(byteAt(side == Side::Home ? SaveStateMap::HomeTeam : SaveStateMap::AwayTeam));
 }
 
 std::vector<ScoringEntry> SaveState::scoringEntries() const {

@@ -84,7 +84,7 @@ LeaderList starLeaders(const ApplicationState& state, int count, LeaderSort sort
 
 LeaderList teamLeaders(const ApplicationState& state, LeaderSort sort, int places) {
     std::vector<TeamRow> rows;
-    for (TeamIndex team = 0; team < LeagueTeams; ++team)
+    for (const TeamIndex team : AllLeagueTeams)
         rows.push_back({team, "", state.TeamLeaderTable[team]});
     return listOf<TeamRecord, TeamLeaderColumns.size()>(TeamLeaderColumns, rows, sort, places, hasGames);
 }
@@ -93,7 +93,7 @@ LeaderList coachLeaders(const ApplicationState& state, const std::vector<std::st
                         CoachesListed listed) {
     std::vector<TeamRow> rows;
     for (std::size_t coach = 0; coach < names.size(); ++coach)
-        rows.push_back({static_cast<int>(coach), names[coach], state.CoachLeaderTable[coach]});
+        rows.push_back({TeamIndex(static_cast<int>(coach)), names[coach], state.CoachLeaderTable[coach]});
     return listOf<TeamRecord, TeamLeaderColumns.size()>(
         TeamLeaderColumns, rows, sort, static_cast<int>(rows.size()),
         listed == CoachesListed::All ? [](const TeamRow&) { return true; } : hasGames);

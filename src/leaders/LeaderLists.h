@@ -14,7 +14,7 @@ struct LeaderSort {
 /// A row of a leader table in its place.
 struct LeaderLine {
     int number = 0; ///< from 1
-    TeamIndex team = 0;
+    TeamIndex team;
     std::string name;                 ///< a player's or a coach's as it stands; empty in the teams' table
     std::vector<std::string> figures; ///< by column, as they are shown, with leading zero
 };

@@ -43,7 +43,7 @@ std::vector<LeaderRow<Columns>> readLeaders(Files& files, PartOfYear part,
                                             const std::array<LeaderColumn<Stats>, Columns>& columns,
                                             Takes takes) {
     std::vector<LeaderRow<Columns>> leaders;
-    for (TeamIndex team = 0; team < LeagueTeams; ++team) {
+    for (const TeamIndex team : AllLeagueTeams) {
         const std::string statsFile = paths::teamFile(team, part, paths::PlayerStats);
         const Roster roster = readRoster(files, paths::playersList(team));
         const TeamPlayerStats stats = readPlayerStats(files, statsFile, roster);
@@ -63,7 +63,7 @@ std::array<int, TeamLeaderColumns.size()> readTeamLeaderFigures(Files& files, co
 
 TeamLeaders readTeamLeaders(Files& files, PartOfYear part) {
     TeamLeaders leaders{};
-    for (TeamIndex team = 0; team < LeagueTeams; ++team)
+    for (const TeamIndex team : AllLeagueTeams)
         leaders[team] = readTeamLeaderFigures(files, paths::teamFolder(team) + seasonFolder(part));
     return leaders;
 }

@@ -21,9 +21,9 @@ constexpr BuiltInRoster Rosters[] = {
 
 } // namespace
 
-std::string_view defaultRoster(int row) {
-    if (row < 0 || row > AllTeams)
-        throw std::out_of_range("no built-in roster of row " + std::to_string(row));
+std::string_view defaultRoster(TeamIndex row) {
+    if (row < TeamIndex(0) || row > AllTeams)
+        throw std::out_of_range("no built-in roster of row " + std::to_string(row.number()));
     const auto roster = std::ranges::find(Rosters, TeamAbbr[row], &BuiltInRoster::abbr);
     if (roster == std::end(Rosters))
         throw std::out_of_range("no built-in roster named " + std::string(TeamAbbr[row]));

@@ -29,7 +29,7 @@ struct TeamFigures {
 struct TeamSheet : TeamFigures {
     using RowFigures = std::array<int, RosterRows>; ///< a figure of each roster row
 
-    TeamIndex team = 0;
+    TeamIndex team;
 
     RowFigures G{}; ///< goals; in a goalie's row those that he let in
     RowFigures A{};

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "league/Index.h"
 #include "league/Side.h"
 
 #include <array>
@@ -10,6 +11,12 @@ namespace iceline {
 
 /// Rows of a roster: the places in which the game holds a team's players.
 inline constexpr int RosterRows = 25;
+
+/// A row of a roster, by which the game knows a team's player.
+using RosterIndex = Index<struct RosterTable>;
+
+/// The rows of a roster, for a loop over them.
+inline constexpr FirstRows<RosterIndex> AllRosterRows{RosterRows};
 
 /// The name that marks an empty roster row.
 inline constexpr std::string_view EmptyRowName = "-----------";

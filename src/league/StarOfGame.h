@@ -8,7 +8,7 @@ namespace iceline {
 
 /// A star of the game.
 struct StarOfGame {
-    TeamIndex Team = 0;
+    TeamIndex Team;
     std::string Name;
 };
 

@@ -12,7 +12,7 @@ std::optional<TeamIndex> rowOf(const List& list, std::string_view text) {
     const auto found = std::find(list.begin(), end, text);
     if (found == end)
         return std::nullopt;
-    return static_cast<TeamIndex>(found - list.begin());
+    return TeamIndex(static_cast<int>(found - list.begin()));
 }
 
 } // namespace

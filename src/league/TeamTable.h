@@ -1,5 +1,7 @@
 #pragma once
 
+#include "league/Index.h"
+
 #include <array>
 #include <optional>
 #include <string_view>
@@ -7,16 +9,16 @@
 namespace iceline {
 
 /// A team's row in the team table, which is the number by which the game itself knows the team.
-using TeamIndex = int;
+using TeamIndex = Index<struct TeamTable>;
 
 /// Rows 0 to 23 are the teams of the league; 24 and 25 are the game's All-Star teams.
 inline constexpr int LeagueTeams = 24;
 
 /// Row of the word that stands for every team.
-inline constexpr TeamIndex AllTeams = 26;
+inline constexpr TeamIndex AllTeams{26};
 
 /// Row of a play-off slot whose team is not yet known.
-inline constexpr TeamIndex BlankTeam = 30;
+inline constexpr TeamIndex BlankTeam{30};
 
 /// Full names; the name of a team is also the name of its folder.
 inline constexpr std::array<std::string_view, 26> TeamName{
@@ -46,8 +48,11 @@ inline constexpr std::array<int, LeagueTeams> TeamConference{0, 0, 1, 1, 1, 1, 0
                                                              0, 0, 0, 0, 0, 1, 1, 1, 1, 1, 0, 1};
 
 inline constexpr bool isLeagueTeam(TeamIndex team) {
-    return team >= 0 && team < LeagueTeams;
+    return team.number() >= 0 && team.number() < LeagueTeams;
 }
+
+/// The teams of the league, for a loop over them.
+inline constexpr FirstRows<TeamIndex> AllLeagueTeams{LeagueTeams};
 
 /// The league's team of that full name, to the letter.
 std::optional<TeamIndex> teamByName(std::string_view name);

@@ -1,7 +1,5 @@
 #include "page/PageFrame.h"
 
-#include "store/TextFormat.h"
-
 #include <array>
 
 namespace iceline {
@@ -28,39 +26,23 @@ constexpr std::array<BarEntry, 10> Bar{{
 
 } // namespace
 
-PageText& PageText::line(std::string_view text) {
-    text_ += text;
-    text_ += LineEnd;
-    return *this;
-}
-
 std::string navigationBar(std::string_view prefix) {
-    std::string bar = "<p>";
-    for (const BarEntry& entry : Bar) {
-        if (bar.size() > 3)
-            bar += " | ";
-        bar += "<a href=\"";
-        bar += prefix;
-        bar += entry.file;
-        bar += "\"><b>";
-        bar += entry.caption;
-        bar += "</b></a>";
-    }
-    return bar + "</p>";
+    PageText bar;
+    for (const BarEntry& entry : Bar)
+        bar.add(R"({}<a href="{}{}"><b>{}</b></a>)", bar.text().empty() ? "" : " | ", prefix, entry.file,
+                entry.caption);
+    return "<p>" + bar.text() + "</p>";
 }
 
 std::string headerImage(std::string_view folder, std::string_view name) {
-    std::string image = "<br/><p><img src=\"";
-    image += folder;
-    image += name;
-    return image + ".gif\"></img></p><br/><br/>";
+    return markup(R"(<br/><p><img src="{}{}.gif"></img></p><br/><br/>)", folder, name);
 }
 
 std::string PageFrame::text() const {
     PageText page;
-    page.line(start + "<head><title>" + title + "</title><link rel=\"stylesheet\" href=\"" + styleSheet +
-              "\" type =\"Text/css\"></head>");
-    page.line("<body link = BLACK vlink = BLACK alink = RED>" + opening);
+    page.line(R"({}<head><title>{}</title><link rel="stylesheet" href="{}" type ="Text/css"></head>)", start,
+              title, styleSheet);
+    page.line("<body link = BLACK vlink = BLACK alink = RED>{}", opening);
     page.line(navigationBar(prefix));
     return page.text();
 }

@@ -1,31 +1,12 @@
 #pragma once
 
 #include "files/Files.h"
+#include "page/PageText.h"
 
 #include <string>
 #include <string_view>
 
 namespace iceline {
-
-/// The text of a page as it grows.
-class PageText {
-public:
-    PageText& add(std::string_view text) {
-        text_ += text;
-        return *this;
-    }
-
-    /// Adds text and ends the line.
-    PageText& line(std::string_view text = "");
-
-    /// Begins anew, in the room that the text has taken.
-    void clear() { text_.clear(); }
-
-    const std::string& text() const { return text_; }
-
-private:
-    std::string text_;
-};
 
 /// What all pages open with. The standard page is one in the site's root; pages that open their style link,
 /// font and centre tags in a variation of their own say so.

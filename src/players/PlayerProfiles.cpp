@@ -70,7 +70,7 @@ bool endsRoster(const RosterRow& row) {
 void PlayerProfiles::PlayersTeamSelect_Click() {
     if (PlayersTeamSelect == NotChosen)
         return;
-    const Roster roster = readRoster(app_.files(), paths::playersList(PlayersTeamSelect));
+    const Roster roster = readRoster(app_.files(), paths::playersList(TeamIndex(PlayersTeamSelect)));
     PlayersNameSelect = NotChosen;
     content_ = {{roster.begin(), std::ranges::find_if(roster, endsRoster)}, std::nullopt};
     changed();
@@ -80,8 +80,8 @@ void PlayerProfiles::PlayersNameSelect_Click() {
     if (PlayersNameSelect == NotChosen)
         return;
     Files& files = app_.files();
-    const Roster roster = readRoster(files, paths::playersList(PlayersTeamSelect));
-    const std::string path = paths::teamFile(PlayersTeamSelect, part_, paths::PlayerStats);
+    const Roster roster = readRoster(files, paths::playersList(TeamIndex(PlayersTeamSelect)));
+    const std::string path = paths::teamFile(TeamIndex(PlayersTeamSelect), part_, paths::PlayerStats);
     const TeamPlayerStats stats = readPlayerStats(files, path, roster);
     const RosterRow& row = content_.roster.at(PlayersNameSelect);
     const std::string card = playerCard(files, app_.platform(), row.Name, row.isGoalie());

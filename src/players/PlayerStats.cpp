@@ -64,8 +64,9 @@ void PlayerStats::PlayersTeamSelect_Click() {
         changed();
         return;
     }
-    const Roster roster = readRoster(app_.files(), paths::playersList(PlayersTeamSelect));
-    const std::string statsPath = paths::teamFile(PlayersTeamSelect, part_, paths::PlayerStats);
+    const TeamIndex team(PlayersTeamSelect);
+    const Roster roster = readRoster(app_.files(), paths::playersList(team));
+    const std::string statsPath = paths::teamFile(team, part_, paths::PlayerStats);
     const TeamPlayerStats stats = readPlayerStats(app_.files(), statsPath, roster);
     skaterTable_ = PlayerTable::skaters(roster, stats);
     goalieTable_ = PlayerTable::goalies(roster, stats);
@@ -106,12 +107,12 @@ void PlayerStats::GPlayerStatsN_Click(int Index) {
 
 void PlayerStats::writeFragments() {
     const std::string folder = part_ == PartOfYear::Season ? "PStats/" : "PlayoffPStats/";
-    for (TeamIndex team = 0; team < LeagueTeams; ++team) {
+    for (const TeamIndex team : AllLeagueTeams) {
         Files& files = app_.files();
         const std::string stem = paths::page(folder + std::string(TeamAbbr[team]));
         const TeamRecord record = readTopOfTeamRecord(files, paths::teamFolder(team) + seasonFolder(part_));
         writePage(files, stem + "_records.php", recordLine(record));
-        PlayersTeamSelect = team;
+        PlayersTeamSelect = team.number();
         PlayersTeamSelect_Click();
         writePage(files, stem + "_leaders.php", leadersText(content_.leaders));
         const auto skaters = skaterRowTexts(skaterTable_, team, part_);

@@ -10,7 +10,7 @@ namespace iceline {
 namespace {
 
 bool allTeamsAreDone(Application& app) {
-    for (TeamIndex team = 0; team < LeagueTeams; ++team)
+    for (const TeamIndex team : AllLeagueTeams)
         if (readTopOfTeamRecord(app.files(), paths::teamFolder(team)).GP < app.state.SeasonLength)
             return false;
     return true;

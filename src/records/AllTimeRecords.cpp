@@ -144,8 +144,9 @@ std::vector<ShownRecord> shownTeamRecords(const AllTimeRecords::Content& content
 std::vector<ShownRecord> shownCoachRecords(const AllTimeRecords::Content& content) {
     std::vector<ShownRecord> shown;
     for (std::size_t i = 0; i < CoachControls.size(); ++i)
-        shown.push_back({CoachControls[i].caption, "", CoachControls[i].name, CoachControls[i].value, -1,
-                         content.coaches.pairs[i].Name.value_or(""), coachValue(content.coaches.pairs[i])});
+        shown.push_back({CoachControls[i].caption, "", CoachControls[i].name, CoachControls[i].value,
+                         std::nullopt, content.coaches.pairs[i].Name.value_or(""),
+                         coachValue(content.coaches.pairs[i])});
     return shown;
 }
 

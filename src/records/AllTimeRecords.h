@@ -4,6 +4,7 @@
 #include "store/LeagueFiles.h"
 #include "store/LeaguePaths.h"
 
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -38,7 +39,7 @@ struct ShownRecord {
     std::string_view teamControl;
     std::string_view nameControl;
     std::string_view valueControl;
-    int team = -1; ///< TeamIndex, -1 for a coach's record
+    std::optional<TeamIndex> team; ///< none for a coach's record
     std::string name;
     std::string value;
 };

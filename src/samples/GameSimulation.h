@@ -13,7 +13,7 @@ namespace iceline {
 /// A team that plays a made-up game. Its goalies stand in the roster's first rows, one at least, and there
 /// are twelve skaters or more behind them. The roster must outlive the game.
 struct SampleTeam {
-    TeamIndex index = 0;
+    TeamIndex index;
     const Roster& roster;
 };
 

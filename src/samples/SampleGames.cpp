@@ -15,24 +15,29 @@ namespace iceline {
 namespace {
 
 /// In a round one team stays at the top while the others sit around a circle that turns by one a round.
-constexpr int TopPlace = LeagueTeams - 1;
-constexpr int Rounds = LeagueTeams - 1;
-constexpr int GamesPerRound = LeagueTeams / 2;
+constexpr std::size_t TopPlace = LeagueTeams - 1;
+constexpr std::size_t Rounds = LeagueTeams - 1;
+constexpr std::size_t GamesPerRound = LeagueTeams / 2;
+
+struct Places {
+    std::size_t home;
+    std::size_t away;
+};
 
 /// The places that meet in game `game` of round `round`, both from 0. Home and away are dealt so that each
 /// place has both within rounds 0 and 1, 2 and 3 and so on.
-Pairing placesMeeting(int round, int game) {
+Places placesMeeting(std::size_t round, std::size_t game) {
     if (game == 0)
-        return round % 2 == 0 ? Pairing{round, TopPlace} : Pairing{TopPlace, round};
-    const int ahead = (round + game) % Rounds;
-    const int behind = (round + Rounds - game) % Rounds;
-    return game % 2 == 1 ? Pairing{ahead, behind} : Pairing{behind, ahead};
+        return round % 2 == 0 ? Places{round, TopPlace} : Places{TopPlace, round};
+    const std::size_t ahead = (round + game) % Rounds;
+    const std::size_t behind = (round + Rounds - game) % Rounds;
+    return game % 2 == 1 ? Places{ahead, behind} : Places{behind, ahead};
 }
 
 /// The teams in the places, shuffled.
 std::array<TeamIndex, LeagueTeams> seatTeams(std::uint64_t seed) {
     std::array<TeamIndex, LeagueTeams> teams{};
-    std::iota(teams.begin(), teams.end(), 0);
+    std::iota(teams.begin(), teams.end(), TeamIndex(0));
     SeededRandom random(seed);
     for (int left = LeagueTeams; left > 1; --left)
         std::swap(teams[left - 1], teams[random.below(left)]);
@@ -50,7 +55,7 @@ std::string fileName(int number, int games) {
 
 LeagueRosters builtInRosters() {
     LeagueRosters rosters;
-    for (TeamIndex team = 0; team < LeagueTeams; ++team)
+    for (const TeamIndex team : AllLeagueTeams)
         rosters[team] =
             rosterFromText("built-in roster of " + std::string(TeamName[team]), defaultRoster(team));
     return rosters;
@@ -59,9 +64,9 @@ LeagueRosters builtInRosters() {
 std::vector<Pairing> sampleSchedule(int games, std::uint64_t seed) {
     const auto teams = seatTeams(seed);
     std::vector<Pairing> schedule;
-    for (int game = 0; game < games; ++game) {
-        const int round = game / GamesPerRound;
-        const Pairing places = placesMeeting(round % Rounds, game % GamesPerRound);
+    for (std::size_t game = 0; game < static_cast<std::size_t>(games); ++game) {
+        const std::size_t round = game / GamesPerRound;
+        const Places places = placesMeeting(round % Rounds, game % GamesPerRound);
         Pairing pairing{teams[places.home], teams[places.away]};
         const bool exchanged = round / Rounds % 2 == 1;
         if (exchanged)

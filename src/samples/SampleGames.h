@@ -17,8 +17,8 @@ LeagueRosters builtInRosters();
 
 /// Who plays whom.
 struct Pairing {
-    TeamIndex home = 0;
-    TeamIndex away = 0;
+    TeamIndex home;
+    TeamIndex away;
 
     friend bool operator==(const Pairing&, const Pairing&) = default;
 };

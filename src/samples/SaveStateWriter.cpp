@@ -86,8 +86,8 @@ std::string saveStateBytes(const GameSheet& game) {
     if (game.goals.size() > GameSheet::MaxGoals || game.penalties.size() > GameSheet::MaxPenalties)
         throw std::out_of_range("a save state has room for 30 goals and 60 penalties");
     Image image;
-    image.word(SaveStateMap::HomeTeam, game.home.team);
-    image.word(SaveStateMap::AwayTeam, game.away.team);
+    image.word(SaveStateMap::HomeTeam, game.home.team.number());
+    image.word(SaveStateMap::AwayTeam, game.away.team.number());
     image.word(SaveStateMap::CrowdMeter, game.crowdMeter);
     putGoals(image, game);
     putPenalties(image, game);

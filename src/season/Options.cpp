@@ -183,7 +183,7 @@ void Options::Command8_Click() {
     if (!confirms(app_, "Are you sure you want to reset everything back to 0?", "Reset Stats? - Yes or No"))
         return;
     if (ClearTeamSelect < LeagueTeams)
-        clearOneTeam(ClearTeamSelect);
+        clearOneTeam(TeamIndex(ClearTeamSelect));
     else
         clearWholeLeague();
 }

@@ -15,7 +15,7 @@ namespace iceline {
 /// columns.
 template <std::size_t Columns>
 struct LeaderRow {
-    TeamIndex Team = 0;
+    TeamIndex Team;
     std::string Name;
     std::array<int, Columns> values{};
 };

@@ -77,9 +77,9 @@ public:
         for (const WindowId id : WindowsOfRun)
             writePagesOf(id);
         for (const PartOfYear part : {PartOfYear::Season, PartOfYear::Playoffs}) {
-            for (TeamIndex team = 0; team < LeagueTeams; ++team)
+            for (const TeamIndex team : AllLeagueTeams)
                 writeRoster(part, team);
-            for (TeamIndex team = 0; team < LeagueTeams; ++team)
+            for (const TeamIndex team : AllLeagueTeams)
                 writePlayers(part, team);
         }
     }

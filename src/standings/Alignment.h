@@ -57,7 +57,7 @@ constexpr Conference otherConference(Conference conference) {
 /// The teams of a division or of a conference, in the order of the team table.
 inline std::vector<TeamIndex> teamsOf(const std::array<int, LeagueTeams>& membership, int number) {
     std::vector<TeamIndex> teams;
-    for (TeamIndex team = 0; team < LeagueTeams; ++team)
+    for (const TeamIndex team : AllLeagueTeams)
         if (membership[team] == number)
             teams.push_back(team);
     return teams;

@@ -18,7 +18,8 @@ enum Column { Wins, Losses, Ties, WinPercent, GP };
 HomeAwayRows rowsOf(const Table& table, ApplicationState& state) {
     std::array<int, LeagueTeams> percentages{};
     std::ranges::transform(table, percentages.begin(), [](const auto& row) { return row[WinPercent]; });
-    std::ranges::copy(selectionOrder(percentages, Direction::HighestFirst), state.HomeAwayOrder.begin());
+    std::ranges::transform(selectionOrder(percentages, Direction::HighestFirst), state.HomeAwayOrder.begin(),
+                           [](int team) { return TeamIndex(team); });
     state.HomeAwayTable = table;
 
     HomeAwayRows rows;
@@ -34,7 +35,7 @@ HomeAwayRows rowsOf(const Table& table, ApplicationState& state) {
 HomeAwayStandings readHomeAwayStandings(Files& files, ApplicationState& state) {
     Table home{};
     Table away{};
-    for (TeamIndex team = 0; team < LeagueTeams; ++team) {
+    for (const TeamIndex team : AllLeagueTeams) {
         const TeamRecord record = readTeamRecord(files, paths::teamFolder(team));
         home[team] = {record.HW, record.HL, record.HT,
                       scaledFigure(team, record, &TeamRecord::HWinPercent, 1000), record.HGP};

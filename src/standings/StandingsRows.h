@@ -10,7 +10,7 @@ namespace iceline {
 
 /// A team's row in the standings of its division or conference.
 struct StandingsRow {
-    TeamIndex team = 0;
+    TeamIndex team;
     int wins = 0;
     int losses = 0;
     int ties = 0;
@@ -47,14 +47,14 @@ std::string winPercentText(const SplitRecord& record);
 
 /// A team's row in the standings of home games or of away games.
 struct HomeAwayRow {
-    TeamIndex team = 0;
+    TeamIndex team;
     SplitRecord record;
     int GP = 0;
 };
 
 /// A team's records against the teams of either conference, by Conference.
 struct VersusRow {
-    TeamIndex team = 0;
+    TeamIndex team;
     std::array<SplitRecord, 2> against;
 };
 

@@ -16,7 +16,7 @@ constexpr std::size_t FieldsForTable = 12;
 
 StandingsTable readStandingsTable(Files& files) {
     StandingsTable table{};
-    for (TeamIndex team = 0; team < LeagueTeams; ++team) {
+    for (const TeamIndex team : AllLeagueTeams) {
         const TeamRecord record = readTopOfTeamRecord(files, paths::teamFolder(team), FieldsForTable);
         table[team] = {record.Wins,
                        record.Losses,

@@ -45,7 +45,7 @@ VersusTable readVersusTable(Files& files, Conference conference) {
     auto row = table.begin();
     for (const TeamIndex team : teamsOf(conference)) {
         const TeamRecord record = readTeamRecord(files, paths::teamFolder(team));
-        row->front() = team;
+        row->front() = team.number();
         store(splitRecord(team, record, AgainstOwn), conference, *row);
         store(splitRecord(team, record, AgainstOther), otherConference(conference), *row);
         ++row;
@@ -73,7 +73,7 @@ VersusRows versusRows(const VersusTable& table, const VersusOrder& order) {
     VersusRows rows;
     std::ranges::transform(order, rows.begin(), [&table](int row) {
         return VersusRow{
-            table[row].front(),
+            TeamIndex(table[row].front()),
             {recordAgainst(Conference::Wales, table[row]), recordAgainst(Conference::Campbell, table[row])}};
     });
     return rows;

@@ -22,7 +22,8 @@ struct Field {
     enum class Width { None, Bits16, Bits32 };
 
     using Member = std::variant<int Record::*, double Record::*, std::string Record::*, RawItem Record::*,
-                                std::optional<double> Record::*, std::optional<std::string> Record::*>;
+                                TeamIndex Record::*, std::optional<double> Record::*,
+                                std::optional<std::string> Record::*>;
 
     std::string_view name;
     Width width;
@@ -41,8 +42,8 @@ constexpr Field<Record> i32(std::string_view name, int Record::*member) {
     return {name, Field<Record>::Width::Bits32, member};
 }
 
-/// Any other kind: a real number (double), a text, an item passed on as it stands, a number or text that may
-/// be blank.
+/// Any other kind: a team of the league, a real number (double), a text, an item passed on as it stands, a
+/// number or text that may be blank.
 template <class Record, class Value>
 constexpr Field<Record> item(std::string_view name, Value Record::*member) {
     return {name, Field<Record>::Width::None, member};
@@ -64,6 +65,7 @@ struct FieldReader {
         record.*member = field.width == Field<Record>::Width::Bits16 ? reader.integer16(field.name)
                                                                      : reader.integer32(field.name);
     }
+    void operator()(TeamIndex Record::*member) const { record.*member = reader.team(field.name); }
     void operator()(double Record::*member) const { record.*member = reader.number(field.name); }
     void operator()(std::string Record::*member) const { record.*member = reader.text(field.name); }
     void operator()(RawItem Record::*member) const { record.*member = reader.raw(field.name); }
@@ -90,6 +92,7 @@ struct FieldWriter {
                             std::to_string(value) + " is more than the league's files can hold");
         writer.integer(value);
     }
+    void operator()(TeamIndex Record::*member) const { writer.team(record.*member); }
     void operator()(double Record::*member) const { writer.number(record.*member); }
     void operator()(std::string Record::*member) const { writer.text(record.*member); }
     void operator()(RawItem Record::*member) const { writer.raw((record.*member).written); }

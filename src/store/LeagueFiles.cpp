@@ -7,7 +7,7 @@ namespace iceline {
 template <>
 std::span<const Field<PlayerRecord>> fieldsOf<PlayerRecord>() {
     static constexpr std::array Fields{
-        i16("TeamIndex", &PlayerRecord::Team),
+        item("TeamIndex", &PlayerRecord::Team),
         item("Name", &PlayerRecord::Name),
         i32("Value", &PlayerRecord::Value),
     };
@@ -17,7 +17,7 @@ std::span<const Field<PlayerRecord>> fieldsOf<PlayerRecord>() {
 template <>
 std::span<const Field<LeagueRecord>> fieldsOf<LeagueRecord>() {
     static constexpr std::array Fields{
-        i16("TeamIndex", &LeagueRecord::Team),
+        item("TeamIndex", &LeagueRecord::Team),
         i32("Value", &LeagueRecord::Value),
     };
     return Fields;
@@ -41,23 +41,13 @@ void rejectUnless(bool holds, const ItemReader& reader, std::string_view field, 
         reader.reject(field, wrong);
 }
 
-TeamIndex readLeagueTeam(ItemReader& reader, std::string_view field) {
-    const TeamIndex team = reader.integer16(field);
-    rejectUnless(isLeagueTeam(team), reader, field,
-                 "no team of the league has the number " + std::to_string(team));
-    return team;
-}
-
 template <std::size_t Count>
 std::array<PlayerRecord, Count> readPlayerRecords(Files& files, const std::string& path) {
     const std::string content = files.read(path);
     ItemReader reader(path, content);
     std::array<PlayerRecord, Count> records;
-    for (PlayerRecord& record : records) {
-        record.Team = readLeagueTeam(reader, "TeamIndex");
-        record.Name = reader.text("Name");
-        record.Value = reader.integer32("Value");
-    }
+    for (PlayerRecord& record : records)
+        readFields(reader, record);
     return records;
 }
 
@@ -77,9 +67,9 @@ int readWins(ItemReader& reader, std::string_view field) {
 }
 
 TeamIndex readSlot(ItemReader& reader, std::string_view field) {
-    const TeamIndex team = reader.integer16(field);
+    const TeamIndex team(reader.integer16(field));
     rejectUnless(isLeagueTeam(team) || team == BlankTeam, reader, field,
-                 "no team of the league has the number " + std::to_string(team));
+                 "no team of the league has the number " + std::to_string(team.number()));
     return team;
 }
 
@@ -105,10 +95,8 @@ AllTimeLeagueRecords readAllTimeLeagueRecords(Files& files, const std::string& p
     const std::string content = files.read(path);
     ItemReader reader(path, content);
     AllTimeLeagueRecords records;
-    for (LeagueRecord& record : records) {
-        record.Team = readLeagueTeam(reader, "TeamIndex");
-        record.Value = reader.integer32("Value");
-    }
+    for (LeagueRecord& record : records)
+        readFields(reader, record);
     return records;
 }
 
@@ -170,7 +158,7 @@ std::string textOf(const PlayoffSeriesTable& series) {
     for (int i = 0; i < SeriesCount; ++i) {
         writer.integer(series[i].WinsA).integer(series[i].WinsB);
         if (i >= FirstRoundSeries)
-            writer.integer(series[i].TeamA).integer(series[i].TeamB);
+            writer.team(series[i].TeamA).team(series[i].TeamB);
         writer.endLine();
     }
     return writer.content();
@@ -196,8 +184,8 @@ std::vector<RecentGame> readRecentGames(Files& files) {
     std::vector<RecentGame> games;
     while (!reader.atEnd() && games.size() < 10) {
         RecentGame game;
-        game.Home = readLeagueTeam(reader, "home team");
-        game.Away = readLeagueTeam(reader, "away team");
+        game.Home = reader.team("home team");
+        game.Away = reader.team("away team");
         game.HomeGoals = reader.integer16("home goals");
         game.AwayGoals = reader.integer16("away goals");
         game.Page = reader.text("page");
@@ -209,7 +197,7 @@ std::vector<RecentGame> readRecentGames(Files& files) {
 std::string textOf(const std::vector<RecentGame>& games) {
     LineWriter writer;
     for (const RecentGame& game : games) {
-        writer.integer(game.Home).integer(game.Away).endLine();
+        writer.team(game.Home).team(game.Away).endLine();
         writer.integer(game.HomeGoals).integer(game.AwayGoals).endLine();
         writer.text(game.Page).endLine();
     }

@@ -14,7 +14,7 @@ namespace iceline {
 /// A single-game record of a player: who holds it and the figure. In a new league the holder is team 0
 /// without a name and the figure 0.
 struct PlayerRecord {
-    TeamIndex Team = 0;
+    TeamIndex Team;
     std::string Name;
     int Value = 0;
 };
@@ -33,7 +33,7 @@ using AllTimeGoalieRecords = std::array<PlayerRecord, 5>;
 
 /// A single-game record of a team.
 struct LeagueRecord {
-    TeamIndex Team = 0;
+    TeamIndex Team;
     int Value = 0;
 };
 
@@ -97,8 +97,8 @@ using PlayoffSeriesTable = std::array<PlayoffSeriesRecord, SeriesCount>;
 
 /// An entry of `Last 10 Box.txt`.
 struct RecentGame {
-    TeamIndex Home = 0;
-    TeamIndex Away = 0;
+    TeamIndex Home;
+    TeamIndex Away;
     int HomeGoals = 0;
     int AwayGoals = 0;
     std::string Page; ///< file name of the box score page

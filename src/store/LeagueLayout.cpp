@@ -57,7 +57,7 @@ void addCoach(Layout& layout, const std::string& coach) {
 std::vector<LeagueEntry> leagueLayout(Files& files) {
     Layout layout;
     layout.site();
-    for (TeamIndex team = 0; team < LeagueTeams; ++team)
+    for (const TeamIndex team : AllLeagueTeams)
         addTeam(layout, team);
     for (const InitialFile& file : initialLeagueFiles())
         layout.file(file.name, file.content);

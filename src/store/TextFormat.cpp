@@ -106,6 +106,13 @@ int ItemReader::integer32(std::string_view field) {
     return integer(field, std::numeric_limits<std::int32_t>::min(), std::numeric_limits<std::int32_t>::max());
 }
 
+TeamIndex ItemReader::team(std::string_view field) {
+    const TeamIndex team(integer16(field));
+    if (!isLeagueTeam(team))
+        reject(field, "no team of the league has the number " + numberText(team.number()));
+    return team;
+}
+
 std::string ItemReader::text(std::string_view field) {
     return optionalText(field).value_or("");
 }
@@ -135,6 +142,10 @@ LineWriter& LineWriter::number(double value) {
 
 LineWriter& LineWriter::integer(int value) {
     return raw(std::to_string(value));
+}
+
+LineWriter& LineWriter::team(TeamIndex value) {
+    return integer(value.number());
 }
 
 LineWriter& LineWriter::text(std::string_view value) {

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "league/TeamTable.h"
+
 #include <optional>
 #include <string>
 #include <string_view>
@@ -39,6 +41,9 @@ public:
     int integer16(std::string_view field);
     int integer32(std::string_view field);
 
+    /// A team of the league, by its number.
+    TeamIndex team(std::string_view field);
+
     double number(std::string_view field);
     std::string text(std::string_view field);
     RawItem raw(std::string_view field);
@@ -69,6 +74,7 @@ class LineWriter {
 public:
     LineWriter& number(double value);
     LineWriter& integer(int value);
+    LineWriter& team(TeamIndex value);
 
     /// A text in double quotes. Throws FileError when it holds one itself, or a line end.
     LineWriter& text(std::string_view value);

@@ -42,8 +42,8 @@ std::string teamPage(TeamIndex team, PartOfYear part, const TeamView& view) {
     PageText page;
     page.add(frame.text());
     page.line(headerImage("../Headers/", kind.header));
-    page.line(logoLine(0, 11));
-    page.line(logoLine(12, 23));
+    page.line(logoLine(TeamIndex(0), TeamIndex(11)));
+    page.line(logoLine(TeamIndex(12), TeamIndex(23)));
     page.line("<br/><br/>");
     page.line("<table border = 5><tr><th><img src=\"../BigBanners/" + abbr +
               ".gif\"></th></tr></table><BR><img src=\"../BigLogos/" + abbr + ".gif\"></img><BR><BR>");
@@ -62,11 +62,11 @@ void TeamStats::Form_Load() {
 void TeamStats::TeamSelect_Click() {
     if (TeamSelect < 0)
         return;
-    content_ = readTeamView(app_.files(), paths::teamFolder(TeamSelect) + seasonFolder(part_));
+    const TeamIndex team(TeamSelect);
+    content_ = readTeamView(app_.files(), paths::teamFolder(team) + seasonFolder(part_));
     if (!app_.state.ShowWindows) {
-        const std::string path =
-            paths::page(pageKind(part_).folder + std::string(TeamAbbr[TeamSelect]) + ".htm");
-        writePage(app_.files(), path, teamPage(TeamSelect, part_, *content_));
+        const std::string path = paths::page(pageKind(part_).folder + std::string(TeamAbbr[team]) + ".htm");
+        writePage(app_.files(), path, teamPage(team, part_, *content_));
     }
     changed();
 }

@@ -34,6 +34,9 @@ struct FieldText {
     const TeamRecord& record;
 
     std::string operator()(int TeamRecord::*member) const { return std::to_string(record.*member); }
+    std::string operator()(TeamIndex TeamRecord::*member) const {
+        return std::to_string((record.*member).number());
+    }
     std::string operator()(double TeamRecord::*member) const { return numberText(record.*member); }
     std::string operator()(std::string TeamRecord::*member) const { return record.*member; }
     std::string operator()(RawItem TeamRecord::*member) const { return (record.*member).written; }

@@ -195,7 +195,7 @@ TEST(LaterRun, RestoresThePlayoffsWithoutAWord) {
     league.files.files["Games Until Playoffs.txt"] = "2\r\n";
     TeamRecord done;
     done.GP = 2;
-    for (TeamIndex team = 0; team < LeagueTeams; ++team)
+    for (const TeamIndex team : AllLeagueTeams)
         league.setRecord(team, PartOfYear::Season, done);
     ProgramRun run(league.files);
     ASSERT_TRUE(startUp(run.app));
@@ -204,7 +204,7 @@ TEST(LaterRun, RestoresThePlayoffsWithoutAWord) {
     EXPECT_EQ(run.app.state.SeasonFolder, "/Post Season");
 
     done.GP = 1;
-    league.setRecord(23, PartOfYear::Season, done);
+    league.setRecord(TeamIndex(23), PartOfYear::Season, done);
     ProgramRun oneGameLeft(league.files);
     ASSERT_TRUE(startUp(oneGameLeft.app));
     EXPECT_FALSE(oneGameLeft.app.state.PlayoffMode);

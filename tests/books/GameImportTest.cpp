@@ -235,7 +235,7 @@ TEST_F(GameImport, TheLastGameOfTheSeasonTurnsTheLeagueToThePlayoffs) {
     state().SeasonLength = 1;
     TeamRecord done;
     done.GP = 1;
-    for (TeamIndex team = 0; team < LeagueTeams; ++team)
+    for (const TeamIndex team : AllLeagueTeams)
         if (team != Boston && team != Montreal)
             league.setRecord(team, PartOfYear::Season, done);
     import(lovelyGame());
@@ -283,7 +283,7 @@ TEST_F(GameImport, AnOvertimeIsSeenByItsPeriodAndForgottenAfterwards) {
 TEST_F(GameImport, AGameOutsideTheLeagueIsRefusedWhereItsTeamsAreRead) {
     choose(GameKind::Season);
     select(lovelyGame());
-    save("Games/game.gs0", GameSheet(24, Montreal));
+    save("Games/game.gs0", GameSheet(TeamIndex(24), Montreal));
     const auto before = files().files;
     window().ImportStats_Click();
     ASSERT_EQ(league.said().size(), 1u);

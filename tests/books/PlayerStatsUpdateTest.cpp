@@ -5,8 +5,8 @@
 namespace iceline {
 namespace {
 
-constexpr TeamIndex Boston = 0;
-constexpr TeamIndex Montreal = 10;
+constexpr TeamIndex Boston{0};
+constexpr TeamIndex Montreal{10};
 constexpr int FullSeason = 82;
 
 TEST(SpecialGoals, CountsPowerPlayAndShorthandedGoalsByScorer) {

@@ -5,8 +5,8 @@
 namespace iceline {
 namespace {
 
-constexpr TeamIndex Boston = 0;
-constexpr TeamIndex Montreal = 10;
+constexpr TeamIndex Boston{0};
+constexpr TeamIndex Montreal{10};
 
 Roster rosterOf(const std::string& team) {
     Roster roster;
@@ -34,8 +34,8 @@ TEST(PlayerRecords, FallToTheFirstWhoIsStrictlyGreater) {
     game.away.G[2] = 4;
     game.away.A[9] = 5;
     AllTimePlayerRecords records;
-    records[0] = {7, "holder", 3};
-    records[5] = {7, "holder", 0};
+    records[0] = {TeamIndex(7), "holder", 3};
+    records[5] = {TeamIndex(7), "holder", 0};
     updatePlayerRecords(records, game, Side::Home, Rosters);
     updatePlayerRecords(records, game, Side::Away, Rosters);
     EXPECT_EQ(shown(records, PlayerRecordOf::Goals), "0 Boston 3 4");

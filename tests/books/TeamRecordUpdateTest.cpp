@@ -9,9 +9,9 @@
 namespace iceline {
 namespace {
 
-constexpr TeamIndex Boston = 0;    // Wales
-constexpr TeamIndex Montreal = 10; // Wales
-constexpr TeamIndex Calgary = 2;   // Campbell
+constexpr TeamIndex Boston{0};    // Wales
+constexpr TeamIndex Montreal{10}; // Wales
+constexpr TeamIndex Calgary{2};   // Campbell
 
 GameSheet game(TeamIndex home, int homeGoals, TeamIndex away, int awayGoals) {
     GameSheet sheet(home, away);

@@ -15,8 +15,8 @@ class PrintStandings : public testing::Test {
 protected:
     PrintStandings() {
         TeamRecord record;
-        for (TeamIndex team = 0; team < LeagueTeams; ++team) {
-            record.Points = LeagueTeams - team;
+        for (const TeamIndex team : AllLeagueTeams) {
+            record.Points = LeagueTeams - team.number();
             league.setRecord(team, PartOfYear::Season, record);
         }
     }
@@ -40,14 +40,14 @@ protected:
 };
 
 TEST_F(PrintStandings, FourViewsFitTheTerminal) {
-    TeamRecord record = league.record(0);
+    TeamRecord record = league.record(TeamIndex(0));
     record.HW = 3;
     record.HL = 2;
     record.HWinPercent = 0.6;
     record.HGP = 5;
     record.OtherConfW = 12;
     record.OtherConfL = 4;
-    league.setRecord(0, PartOfYear::Season, record);
+    league.setRecord(TeamIndex(0), PartOfYear::Season, record);
     league.app.state.ClinchMark[0] = "x";
     const std::string text = print(WindowId::Standings);
     EXPECT_LE(longestLine(text), 100u);

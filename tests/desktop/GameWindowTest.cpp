@@ -10,8 +10,8 @@ namespace iceline::desktop {
 
 namespace {
 
-constexpr TeamIndex Boston = 0;
-constexpr TeamIndex Montreal = 10;
+constexpr TeamIndex Boston{0};
+constexpr TeamIndex Montreal{10};
 
 class GameWindowTest : public DesktopTest {
 protected:

@@ -11,7 +11,7 @@ namespace iceline::desktop {
 
 namespace {
 
-constexpr TeamIndex Boston = 0;
+constexpr TeamIndex Boston{0};
 
 class LeagueWindowsTest : public DesktopTest {
 protected:
@@ -97,7 +97,7 @@ TEST_F(LeagueWindowsTest, RanksCoachesAndShowsTheOneChosen) {
 
 TEST_F(LeagueWindowsTest, ShowsRecordsWithTheirHolders) {
     AllTimePlayerRecords records;
-    records[0] = {10, "Ann First", 6};
+    records[0] = {TeamIndex(10), "Ann First", 6};
     league.files.files[paths::allTimePlayerRecords(PartOfYear::Season)] = textOf(records);
     LeagueWindow& window = open(WindowId::AllTimeRecords);
     EXPECT_EQ(text(window, "PlyrGRecName"), "Ann First");

@@ -12,8 +12,8 @@ protected:
     PlayoffsWindowTest() {
         league.app.state.SeasonLength = 1;
         TeamRecord record;
-        for (TeamIndex team = 0; team < LeagueTeams; ++team) {
-            record.Points = LeagueTeams - team;
+        for (const TeamIndex team : AllLeagueTeams) {
+            record.Points = LeagueTeams - team.number();
             league.setRecord(team, PartOfYear::Season, record);
         }
     }

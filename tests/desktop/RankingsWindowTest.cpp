@@ -10,8 +10,8 @@ using test::setGoalie;
 using test::setSkater;
 using test::teamRecord;
 
-constexpr TeamIndex BOS = 0;
-constexpr TeamIndex MTL = 10;
+constexpr TeamIndex BOS{0};
+constexpr TeamIndex MTL{10};
 
 class RankingsWindowTest : public DesktopTest {
 protected:

@@ -56,7 +56,7 @@ TEST_F(StandingsWindowTest, ShowsTeamsFiguresAndMarks) {
     league.app.state.SeasonLength = 6;
     TeamRecord record;
     record.GP = 6;
-    for (TeamIndex team = 0; team < LeagueTeams; ++team)
+    for (const TeamIndex team : AllLeagueTeams)
         league.setRecord(team, PartOfYear::Season, record);
     record.Wins = 5;
     record.Ties = 1;

@@ -11,8 +11,8 @@ using namespace iceline;
 using namespace iceline::test;
 
 const std::string Game = "Games/game.gs0";
-constexpr TeamIndex Boston = 0;
-constexpr TeamIndex Buffalo = 1;
+constexpr TeamIndex Boston{0};
+constexpr TeamIndex Buffalo{1};
 
 /// A league with a game in its books and another to be imported.
 MemoryFiles playedLeague() {

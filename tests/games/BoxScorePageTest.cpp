@@ -13,9 +13,9 @@ using testing::HasSubstr;
 using testing::Not;
 using testing::StartsWith;
 
-constexpr TeamIndex Boston = 0;
-constexpr TeamIndex NewJersey = 11;
-constexpr TeamIndex Winnipeg = 23;
+constexpr TeamIndex Boston{0};
+constexpr TeamIndex NewJersey{11};
+constexpr TeamIndex Winnipeg{23};
 
 TeamGameStats figures(int goals, int shots, const std::string& shootingPct) {
     TeamGameStats stats;

@@ -7,8 +7,8 @@
 namespace iceline {
 namespace {
 
-constexpr TeamIndex Boston = 0;
-constexpr TeamIndex Montreal = 10;
+constexpr TeamIndex Boston{0};
+constexpr TeamIndex Montreal{10};
 
 GameReport reportOf(const GameSheet& game, int formerPeriod = 0) {
     GameRosters rosters;

@@ -12,7 +12,7 @@ GameSheet readBack(const GameSheet& game) {
 }
 
 TEST(GameSheetReader, ReadsWhatTheWriterHasWritten) {
-    GameSheet game(10, 3);
+    GameSheet game(TeamIndex(10), TeamIndex(3));
     game.addGoal(1, 599, Side::Home, Strength::PowerPlay, 7, 11, 0);
     game.addGoal(4, 300, Side::Away, Strength::Even, 24);
     game.addPenalty(2, 10, Side::Home, Infraction::Boarding, 3);
@@ -32,7 +32,7 @@ TEST(GameSheetReader, ReadsWhatTheWriterHasWritten) {
 }
 
 TEST(GameSheetReader, SeesCountersModulo256) {
-    GameSheet game(0, 1);
+    GameSheet game(TeamIndex(0), TeamIndex(1));
     game.home.PassAtt = 300;
     game.away.AuxFor = 256;
     const GameSheet read = readBack(game);

@@ -97,7 +97,7 @@ TEST_F(ImportFolder, ExhibitionGamesNeedACoach) {
 }
 
 TEST_F(ImportFolder, ARefusedGameIsPassedOverOnOk) {
-    save("Games/1.gs0", GameSheet(25, Boston));
+    save("Games/1.gs0", GameSheet(TeamIndex(25), Boston));
     save("Games/2.gs0", lovelyGame());
     run();
     EXPECT_EQ(league.platform.messages[1].buttons, Buttons::OkCancel);
@@ -108,9 +108,9 @@ TEST_F(ImportFolder, ARefusedGameIsPassedOverOnOk) {
 
 TEST_F(ImportFolder, CancelAtARefusalEndsTheRun) {
     state().TeamLeaderTable[Boston][0] = state().SeasonLength;
-    save("Games/1.gs0", GameSheet(Montreal, 3));
+    save("Games/1.gs0", GameSheet(Montreal, TeamIndex(3)));
     save("Games/2.gs0", lovelyGame());
-    save("Games/3.gs0", GameSheet(Montreal, 3));
+    save("Games/3.gs0", GameSheet(Montreal, TeamIndex(3)));
     league.platform.answers = {Answer::Yes, Answer::Cancel};
     run();
     EXPECT_THAT(league.said()[1], HasSubstr("Boston Bruins has completed the regular season"));
@@ -136,13 +136,13 @@ TEST_F(ImportFolder, StoppingEndsTheRunAfterTheGameInHand) {
 TEST_F(ImportFolder, ASeasonThatEndsInTheRunTurnsTheNextFileToThePlayoffs) {
     TeamRecord done;
     done.GP = 1;
-    for (TeamIndex team = 0; team < LeagueTeams; ++team)
+    for (const TeamIndex team : AllLeagueTeams)
         if (team != Boston && team != Montreal)
             league.setRecord(team, PartOfYear::Season, done);
     window();
     state().SeasonLength = 1;
     save("Games/1.gs0", lovelyGame());
-    save("Games/2.gs0", GameSheet(Boston, 4)); // teams of two conferences
+    save("Games/2.gs0", GameSheet(Boston, TeamIndex(4))); // teams of two conferences
     run();
     EXPECT_THAT(league.said(), ElementsAre(testing::_,
                                            "Regular Season COMPLETE, Playoff Mode now active for the "
@@ -153,7 +153,7 @@ TEST_F(ImportFolder, ASeasonThatEndsInTheRunTurnsTheNextFileToThePlayoffs) {
 
 TEST_F(ImportFolder, AFileErrorEndsTheRunAndKeepsWhatWasImported) {
     save("Games/1.gs0", lovelyGame());
-    save("Games/2.gs0", GameSheet(3, 4));
+    save("Games/2.gs0", GameSheet(TeamIndex(3), TeamIndex(4)));
     save("Games/3.gs0", lovelyGame());
     files().files["Chicago Blackhawks/Records.txt"] = "torn";
     EXPECT_THROW(run(), FileError);
@@ -166,7 +166,7 @@ TEST_F(ImportFolder, AFileErrorEndsTheRunAndKeepsWhatWasImported) {
 
 TEST_F(ImportFolder, TheStandingsCountTheGamesBeforeAFileError) {
     save("Games/1.gs0", lovelyGame());
-    save("Games/2.gs0", GameSheet(3, 4));
+    save("Games/2.gs0", GameSheet(TeamIndex(3), TeamIndex(4)));
     files().files["Chicago Blackhawks/Player Stats.txt"] = "torn";
     EXPECT_THROW(run(), FileError);
     int games = 0;

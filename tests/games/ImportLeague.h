@@ -11,8 +11,8 @@
 
 namespace iceline::test {
 
-inline constexpr TeamIndex Boston = 0;
-inline constexpr TeamIndex Montreal = 10;
+inline constexpr TeamIndex Boston{0};
+inline constexpr TeamIndex Montreal{10};
 
 /// Boston 3, Montreal 1: a game with something for every file of the league.
 inline GameSheet lovelyGame() {

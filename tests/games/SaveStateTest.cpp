@@ -15,8 +15,8 @@ using testing::Eq;
 using testing::IsEmpty;
 using testing::Optional;
 
-constexpr TeamIndex Boston = 0;
-constexpr TeamIndex NewJersey = 11;
+constexpr TeamIndex Boston{0};
+constexpr TeamIndex NewJersey{11};
 
 SaveState saved(const GameSheet& game) {
     return {"evening/game7.gs0", saveStateBytes(game)};
@@ -93,12 +93,12 @@ TEST(SaveState, OnlyWholeEntriesCount) {
 }
 
 TEST(SaveState, RefusesTeamsOutsideTheLeague) {
-    EXPECT_EQ(saved(GameSheet(23, 23)).refusal(), std::nullopt);
+    EXPECT_EQ(saved(GameSheet(TeamIndex(23), TeamIndex(23))).refusal(), std::nullopt);
     EXPECT_THAT(
-        saved(GameSheet(24, Boston)).refusal(),
+        saved(GameSheet(TeamIndex(24), Boston)).refusal(),
         Optional(Eq("evening/game7.gs0: the home team is number 24, but the league's teams are 0 to 23; "
                     "a game outside the league cannot be read")));
-    EXPECT_THAT(saved(GameSheet(Boston, 255)).refusal(),
+    EXPECT_THAT(saved(GameSheet(Boston, TeamIndex(255))).refusal(),
                 Optional(testing::HasSubstr("the away team is number 255")));
 }
 

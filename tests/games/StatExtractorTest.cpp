@@ -13,8 +13,8 @@ using testing::ElementsAre;
 using testing::HasSubstr;
 using testing::IsEmpty;
 
-constexpr TeamIndex Boston = 0;
-constexpr TeamIndex StLouis = 18;
+constexpr TeamIndex Boston{0};
+constexpr TeamIndex StLouis{18};
 
 GameSheet overtimeWin() {
     GameSheet game(StLouis, Boston);
@@ -105,7 +105,7 @@ TEST_F(StatExtractorTest, GameWithoutEntriesKeepsTheLastPeriod) {
 TEST_F(StatExtractorTest, NothingChangesWhenNoGameIsRead) {
     save("one.gs0", overtimeWin());
     select("one.gs0");
-    save("all-stars.gs0", GameSheet(24, Boston));
+    save("all-stars.gs0", GameSheet(TeamIndex(24), Boston));
     league.files.makeFolder("games");
     league.files.files["Boston Bruins/Players List.txt"] = "only,1,2,F\r\n";
     save("no-roster.gs0", GameSheet(Boston, StLouis));

@@ -5,8 +5,8 @@
 namespace iceline {
 namespace {
 
-constexpr TeamIndex Boston = 0;
-constexpr TeamIndex LosAngeles = 8;
+constexpr TeamIndex Boston{0};
+constexpr TeamIndex LosAngeles{8};
 constexpr int None = NoAssist;
 
 const std::string ScoringHead =

@@ -152,8 +152,8 @@ protected:
 
     void select() { selectStars(state, {"game.gs0", saveStateBytes(game)}, rosters); }
 
-    static constexpr TeamIndex Boston = 0;
-    static constexpr TeamIndex StLouis = 18;
+    static constexpr TeamIndex Boston{0};
+    static constexpr TeamIndex StLouis{18};
     GameSheet game{StLouis, Boston};
     GameRosters rosters;
     ApplicationState state;
@@ -190,7 +190,7 @@ TEST_F(StarsOfAGame, LastGoalIsFoundByTheLengthByte) {
 
 TEST_F(StarsOfAGame, StarThatTheRulesDoNotNameStaysAsItWas) {
     state.GameLastPeriod = Overtime;
-    state.Star[2] = {21, "Old Star"};
+    state.Star[2] = {TeamIndex(21), "Old Star"};
     state.StarSlot[2] = 13;
     game.home.Goals = 1;
     game.home.SOG[1] = 20;

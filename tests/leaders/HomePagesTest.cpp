@@ -17,9 +17,9 @@ using test::TestLeague;
 using testing::ElementsAre;
 using testing::HasSubstr;
 
-constexpr TeamIndex BOS = 0;
-constexpr TeamIndex BUF = 1;
-constexpr TeamIndex MTL = 10;
+constexpr TeamIndex BOS{0};
+constexpr TeamIndex BUF{1};
+constexpr TeamIndex MTL{10};
 
 const std::string BlockBreak = "</table></td><td></td></font></center>";
 

@@ -15,8 +15,8 @@ using testing::ElementsAre;
 using testing::HasSubstr;
 using testing::SizeIs;
 
-constexpr TeamIndex BOS = 0;
-constexpr TeamIndex MTL = 10;
+constexpr TeamIndex BOS{0};
+constexpr TeamIndex MTL{10};
 
 TEST(PlayerFragment, RowToTheLetter) {
     TestLeague league;

@@ -16,9 +16,9 @@ using testing::ElementsAre;
 using testing::IsEmpty;
 using testing::SizeIs;
 
-constexpr TeamIndex BOS = 0;
-constexpr TeamIndex BUF = 1;
-constexpr TeamIndex CGY = 2;
+constexpr TeamIndex BOS{0};
+constexpr TeamIndex BUF{1};
+constexpr TeamIndex CGY{2};
 
 Rankings& rankings(TestLeague& league, PartOfYear part = PartOfYear::Season) {
     return Rankings::in(league.app, part);
@@ -146,10 +146,10 @@ TEST(GoalieLeaders, OneGameIsEnoughToLead) {
 
 TEST(StarLeaders, SkatersAndGoaliesStandTogether) {
     TestLeague league;
-    setSkater(league, 3, 5, "Third Team", {.GP = 1, .StarPoints = 30});
-    setGoalie(league, 1, 0, "First Team", {.GP = 1, .StarPoints = 30});
-    setSkater(league, 2, 5, "Fewest", {.StarPoints = 5});
-    setSkater(league, 2, 6, "None", {.GP = 1});
+    setSkater(league, TeamIndex(3), 5, "Third Team", {.GP = 1, .StarPoints = 30});
+    setGoalie(league, TeamIndex(1), 0, "First Team", {.GP = 1, .StarPoints = 30});
+    setSkater(league, TeamIndex(2), 5, "Fewest", {.StarPoints = 5});
+    setSkater(league, TeamIndex(2), 6, "None", {.GP = 1});
 
     Rankings& window = rankings(league);
     EXPECT_THAT(namesOf(window.content().stars), ElementsAre("FIRST TEAM", "THIRD TEAM", "FEWEST"));
@@ -160,8 +160,8 @@ TEST(StarLeaders, SkatersAndGoaliesStandTogether) {
 /// All teams have played, each with one point less than the one before it, but for what a test changes.
 TestLeague playedLeague() {
     TestLeague league;
-    for (TeamIndex team = 0; team < LeagueTeams; ++team)
-        league.setRecord(team, PartOfYear::Season, teamRecord(30, 40 - team));
+    for (const TeamIndex team : AllLeagueTeams)
+        league.setRecord(team, PartOfYear::Season, teamRecord(30, 40 - team.number()));
     return league;
 }
 
@@ -183,7 +183,7 @@ TEST(TeamLeaders, TeamsWithoutGamesTakeATurnAndNoRow) {
 TEST(TeamLeaders, NegativeRankingsAndTiesKeepTheirPlacesBothWays) {
     TestLeague league;
     const double powerRankings[] = {-3.25, 0, 21.37, -3.25};
-    for (TeamIndex team = 0; team < 4; ++team) {
+    for (TeamIndex team{0}; team < 4; ++team) {
         TeamRecord record = teamRecord(2);
         record.PowerRanking = powerRankings[team];
         league.setRecord(team, PartOfYear::Season, record);

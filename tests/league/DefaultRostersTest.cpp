@@ -12,7 +12,9 @@
 namespace iceline {
 namespace {
 
-Roster builtIn(int row) {
+constexpr FirstRows<TeamIndex> AllBuiltIn{AllTeams.number() + 1};
+
+Roster builtIn(TeamIndex row) {
     return rosterFromText(std::string(TeamAbbr[row]), defaultRoster(row));
 }
 
@@ -24,7 +26,7 @@ std::string positions(const Roster& roster) {
 }
 
 TEST(DefaultRosters, EveryRowIsATextOf25LinesWithoutALastLineEnd) {
-    for (int row = 0; row <= AllTeams; ++row) {
+    for (const TeamIndex row : AllBuiltIn) {
         const std::string text(defaultRoster(row));
         EXPECT_EQ(std::ranges::count(text, '\n'), RosterRows - 1) << TeamAbbr[row];
         EXPECT_EQ(std::ranges::count(text, '\r'), RosterRows - 1) << TeamAbbr[row];
@@ -33,12 +35,12 @@ TEST(DefaultRosters, EveryRowIsATextOf25LinesWithoutALastLineEnd) {
 }
 
 TEST(DefaultRosters, GoaliesComeFirstThenForwardsDefencemenAndEmptyRows) {
-    for (int row = 0; row <= AllTeams; ++row)
+    for (const TeamIndex row : AllBuiltIn)
         EXPECT_THAT(positions(builtIn(row)), testing::MatchesRegex("GGG?F+D+-+")) << TeamAbbr[row];
 }
 
 TEST(DefaultRosters, NumbersAreUniqueInATeamAndRatingsInTheGamesRange) {
-    for (int row = 0; row <= AllTeams; ++row) {
+    for (const TeamIndex row : AllBuiltIn) {
         std::set<int> numbers;
         for (const RosterRow& player : builtIn(row)) {
             if (player.isEmpty())
@@ -51,15 +53,15 @@ TEST(DefaultRosters, NumbersAreUniqueInATeamAndRatingsInTheGamesRange) {
 
 TEST(DefaultRosters, NoPlayerOfTheLeagueStandsInTwoTeams) {
     std::set<std::string> names;
-    for (int team = 0; team < LeagueTeams; ++team)
+    for (const TeamIndex team : AllLeagueTeams)
         for (const RosterRow& player : builtIn(team))
             EXPECT_TRUE(player.isEmpty() || names.insert(player.Name).second) << player.Name;
     EXPECT_THAT(names, testing::Contains("J.-P. O'Neil"));
 }
 
 TEST(DefaultRosters, RowsOutsideTheBuiltInOnesAreRefused) {
-    EXPECT_THROW(defaultRoster(-1), std::out_of_range);
-    EXPECT_THROW(defaultRoster(AllTeams + 1), std::out_of_range);
+    EXPECT_THROW(defaultRoster(TeamIndex(-1)), std::out_of_range);
+    EXPECT_THROW(defaultRoster(TeamIndex(AllTeams.number() + 1)), std::out_of_range);
 }
 
 } // namespace

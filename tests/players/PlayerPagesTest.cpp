@@ -12,7 +12,7 @@ using testing::HasSubstr;
 using testing::Not;
 using testing::StartsWith;
 
-constexpr TeamIndex MTL = 10;
+constexpr TeamIndex MTL{10};
 
 const std::string FrameTitled(const std::string& title) {
     return "<html><head><title>" + title +

@@ -8,7 +8,7 @@ namespace iceline::test {
 
 namespace {
 
-constexpr TeamIndex Boston = 0;
+constexpr TeamIndex Boston{0};
 
 std::string shown(const PlayerProfiles& window, std::string_view control) {
     for (const PlayerProfiles::Figure& figure : window.content().player->figures)

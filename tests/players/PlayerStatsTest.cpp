@@ -11,7 +11,7 @@ namespace {
 using testing::ElementsAre;
 using testing::HasSubstr;
 
-constexpr TeamIndex Boston = 0;
+constexpr TeamIndex Boston{0};
 
 /// A team of two goalies and four forwards, the last of whom stands below an empty row.
 Roster smallRoster() {

@@ -35,19 +35,19 @@ TEST(Bracket, LinesOfBothConferences) {
 
 TEST(Bracket, BetterSeedsAreTheFirstTeamsOfTheFirstRound) {
     std::array<TeamIndex, 12> wales{};
-    std::iota(wales.begin(), wales.end(), 0);
+    std::iota(wales.begin(), wales.end(), TeamIndex(0));
     std::array<TeamIndex, 12> campbell{};
-    std::iota(campbell.begin(), campbell.end(), 12);
+    std::iota(campbell.begin(), campbell.end(), TeamIndex(12));
     PlayoffSeriesTable series;
     seedFirstRound(series, wales, campbell);
-    std::vector<std::pair<TeamIndex, TeamIndex>> pairs;
+    std::vector<std::pair<int, int>> pairs;
     for (const PlayoffSeriesRecord& record : series)
-        pairs.emplace_back(record.TeamA, record.TeamB);
+        pairs.emplace_back(record.TeamA.number(), record.TeamB.number());
     pairs.resize(9);
     EXPECT_THAT(pairs,
                 testing::ElementsAre(std::pair(0, 7), std::pair(3, 4), std::pair(2, 5), std::pair(1, 6),
                                      std::pair(12, 19), std::pair(15, 16), std::pair(14, 17),
-                                     std::pair(13, 18), std::pair(BlankTeam, BlankTeam)));
+                                     std::pair(13, 18), std::pair(BlankTeam.number(), BlankTeam.number())));
 }
 
 TEST(Bracket, FourWinsDecideASeries) {

@@ -5,9 +5,9 @@
 namespace iceline {
 namespace {
 
-constexpr TeamIndex Boston = 0;
-constexpr TeamIndex Buffalo = 1;
-constexpr TeamIndex Montreal = 10;
+constexpr TeamIndex Boston{0};
+constexpr TeamIndex Buffalo{1};
+constexpr TeamIndex Montreal{10};
 
 PlayoffSeriesTable tableWith(int series, PlayoffSeriesRecord record) {
     PlayoffSeriesTable table;

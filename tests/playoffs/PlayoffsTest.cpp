@@ -35,12 +35,12 @@ protected:
     void play(TeamIndex team, int games) {
         TeamRecord record;
         record.GP = games;
-        record.Points = 2 * LeagueTeams - 2 * team;
+        record.Points = 2 * LeagueTeams - 2 * team.number();
         league.setRecord(team, PartOfYear::Season, record);
     }
 
     void playSeason() {
-        for (TeamIndex team = 0; team < LeagueTeams; ++team)
+        for (const TeamIndex team : AllLeagueTeams)
             play(team, 10);
     }
 
@@ -50,11 +50,11 @@ protected:
 
 TEST_F(SeasonEnd, WaitsForTheLastTeam) {
     playSeason();
-    play(23, 9);
+    play(TeamIndex(23), 9);
     checkSeason(league.app);
     EXPECT_FALSE(state.PlayoffMode);
     EXPECT_EQ(state.SeasonFolder, "");
-    play(23, 10);
+    play(TeamIndex(23), 10);
     checkSeason(league.app);
     EXPECT_TRUE(state.PlayoffMode);
     EXPECT_EQ(state.SeasonFolder, "/Post Season");
@@ -73,7 +73,7 @@ TEST_F(SeasonEnd, FillsTheFirstRoundAndHappensOnce) {
 }
 
 TEST_F(SeasonEnd, EndedByHandItTakesTheSeedsOfTheMoment) {
-    play(1, 3);
+    play(TeamIndex(1), 3);
     setSeasonLength(-1);
     checkSeason(league.app);
     EXPECT_TRUE(state.PlayoffMode);
@@ -145,7 +145,7 @@ std::string row(const std::string& opening, const std::string& abbr, const std::
 
 TEST_F(PlayoffsWindow, DuringTheSeasonTheTreeIsThatOfTheMoment) {
     playSeason();
-    play(1, 9);
+    play(TeamIndex(1), 9);
     const Playoffs::Content& content = open();
     EXPECT_EQ(abbrs(content.EastFirstRound), "BOS LI BUF HFD MTL NJ NYR OTA");
     EXPECT_EQ(abbrs(content.WestFirstRound), "CGY CHI DET EDM LA MIN SJ STL");

@@ -27,12 +27,12 @@ TEST(AllTimeRecords, EveryFigureStandsUnderItsOwnHeading) {
     TestLeague league;
     AllTimeLeagueRecords teams = initialLeagueRecords();
     for (int i = 0; i < 6; ++i)
-        teams[i] = {i + 1, 10 + i};
+        teams[i] = {TeamIndex(i + 1), 10 + i};
     CoachesLeagueRecords coaches;
     coaches.pairs[2] = {"Ann", 33};
     coaches.pairs[3] = {"Bob", 44};
     AllTimeGoalieRecords goalies;
-    goalies[4] = {23, "Al O'Neil", 2};
+    goalies[4] = {TeamIndex(23), "Al O'Neil", 2};
     const PartOfYear part = PartOfYear::Playoffs;
     league.files.files[paths::allTimeLeagueRecords(part)] = textOf(teams);
     league.files.files[paths::coachesLeagueRecords(part)] = textOf(coaches);

@@ -265,8 +265,8 @@ TEST(SampleGames, GamesOfEveryKindOccur) {
 
 TEST(SampleGames, BetterRostersWinMoreOften) {
     const LeagueRosters rosters = builtInRosters();
-    const TeamIndex pittsburgh = 15;
-    const TeamIndex ottawa = 13;
+    const TeamIndex pittsburgh{15};
+    const TeamIndex ottawa{13};
     int lead = 0;
     for (int number = 1; number <= 200; ++number) {
         const GameSheet game = sampleGame(1, number, {ottawa, pittsburgh}, rosters);

@@ -9,8 +9,8 @@
 namespace iceline {
 namespace {
 
-constexpr TeamIndex Boston = 0;
-constexpr TeamIndex Montreal = 10;
+constexpr TeamIndex Boston{0};
+constexpr TeamIndex Montreal{10};
 
 std::vector<int> bytesAt(const std::string& image, std::size_t offset, std::size_t count) {
     std::vector<int> bytes;

@@ -20,7 +20,8 @@ using testing::ElementsAre;
 using testing::HasSubstr;
 using testing::IsEmpty;
 
-constexpr TeamIndex Boston = 0;
+constexpr TeamIndex Boston{0};
+constexpr TeamIndex Buffalo{1};
 constexpr int AllTeamsEntry = 24;
 
 class OptionsTest : public testing::Test {
@@ -31,7 +32,7 @@ protected:
         TeamRecord record;
         record.GP = 5;
         for (const PartOfYear part : {PartOfYear::Season, PartOfYear::Playoffs})
-            for (const TeamIndex team : {Boston, Boston + 1})
+            for (const TeamIndex team : {Boston, Buffalo})
                 league.setRecord(team, part, record);
         league.files.files[paths::OverallGameNumber] = "12\r\n";
         league.files.files[paths::GamesUntilPlayoffs] = "20\r\n";
@@ -151,7 +152,7 @@ TEST_F(OptionsTest, ClearsOneTeamAndLeavesTheRest) {
     EXPECT_EQ(league.said().back(), "Boston Bruins stats cleared");
     EXPECT_EQ(league.record(Boston).GP, 0);
     EXPECT_EQ(league.record(Boston, PartOfYear::Playoffs).GP, 0);
-    EXPECT_EQ(league.record(Boston + 1).GP, 5);
+    EXPECT_EQ(league.record(Buffalo).GP, 5);
     EXPECT_FALSE(league.app.state.PlayoffMode);
     EXPECT_EQ(league.app.state.SeasonFolder, "");
     EXPECT_EQ(league.app.state.TeamLeaderTable[Boston + 1][0], 5)
@@ -170,7 +171,7 @@ TEST_F(OptionsTest, ClearsTheWholeLeagueButCoachesAndRosters) {
     EXPECT_EQ(league.record(Boston).GP, 5);
     window().Command8_Click();
     EXPECT_EQ(league.said().back(), "All stats have been cleared.");
-    EXPECT_EQ(league.record(Boston + 1).GP, 0);
+    EXPECT_EQ(league.record(Buffalo).GP, 0);
     EXPECT_EQ(league.files.files[paths::OverallGameNumber], "0\r\n");
     EXPECT_EQ(league.files.files[paths::GamesUntilPlayoffs], "82\r\n");
     EXPECT_EQ(league.app.state.SeasonLength, -1) << "until the next start";

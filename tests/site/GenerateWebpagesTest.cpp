@@ -16,7 +16,7 @@ using testing::HasSubstr;
 using testing::IsEmpty;
 using testing::Not;
 
-constexpr TeamIndex BOS = 0;
+constexpr TeamIndex BOS{0};
 
 constexpr const char* Published =
     "All Webpages have been generated and are located in the IcelineWebpages directory.";
@@ -67,7 +67,7 @@ TEST(GenerateWebpages, WritesTheWholeSiteAndSaysSo) {
     EXPECT_EQ(filesIn(league, "PlayoffPStats"), 24u * 58);
     EXPECT_EQ(filesIn(league, "TStats"), 24u);
     EXPECT_EQ(filesIn(league, "PlayoffTStats"), 24u);
-    for (TeamIndex team = 0; team < LeagueTeams; ++team) {
+    for (const TeamIndex team : AllLeagueTeams) {
         std::size_t players = 0;
         for (const RosterRow& row : league.roster(team))
             players += row.isEmpty() ? 0 : 1;
@@ -94,7 +94,7 @@ TEST(GenerateWebpages, TheProgressNamesEveryStep) {
 TEST(GenerateWebpages, StandingsBearTheMarksOfTheirFirstTurn) {
     TestLeague league;
     league.app.state.SeasonLength = 11;
-    for (TeamIndex team = 0; team < LeagueTeams; ++team) {
+    for (const TeamIndex team : AllLeagueTeams) {
         TeamRecord record;
         record.GP = 10;
         record.Wins = team == BOS ? 10 : 0;

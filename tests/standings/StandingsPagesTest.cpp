@@ -96,9 +96,9 @@ TEST(StandingsPages, ConferenceStandings) {
 
 TEST(StandingsPages, HomeAwayStandings) {
     HomeAwayStandings standings;
-    for (TeamIndex team = 0; team < LeagueTeams; ++team) {
+    for (const TeamIndex team : AllLeagueTeams) {
         standings.home[team] = {team, {25, 10, 5, 625}, 40};
-        standings.away[team] = {LeagueTeams - 1 - team, {40, 0, 0, 1000}, 40};
+        standings.away[team] = {TeamIndex(LeagueTeams - 1 - team.number()), {40, 0, 0, 1000}, 40};
     }
     standings.home.back().record = {0, 9, 1, 0};
     const auto lines = linesOf(homeAwayStandingsPage(standings));

@@ -213,7 +213,7 @@ TEST_F(StandingsWindow, PagesBearTheMarksOfTheRunBefore) {
     league.app.state.SeasonLength = 2;
     TeamRecord record;
     record.GP = 2;
-    for (TeamIndex other = 0; other < LeagueTeams; ++other)
+    for (const TeamIndex other : AllLeagueTeams)
         league.setRecord(other, PartOfYear::Season, record);
     record.Wins = 2;
     record.Points = 4;

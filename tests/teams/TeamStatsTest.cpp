@@ -12,8 +12,8 @@ namespace {
 using testing::HasSubstr;
 using testing::Not;
 
-constexpr TeamIndex Boston = 0;
-constexpr TeamIndex StLouis = 18;
+constexpr TeamIndex Boston{0};
+constexpr TeamIndex StLouis{18};
 
 std::string shown(const TeamStats& window, std::string_view control) {
     for (const ShownFigure& figure : shownFigures(*window.content()))
@@ -23,7 +23,7 @@ std::string shown(const TeamStats& window, std::string_view control) {
 }
 
 void choose(TeamStats& window, TeamIndex team) {
-    window.TeamSelect = team;
+    window.TeamSelect = team.number();
     window.TeamSelect_Click();
 }
 
