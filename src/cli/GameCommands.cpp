@@ -66,7 +66,7 @@ Status importFolder(Session& session, const Import& import) {
     using Respondent = ConsolePlatform::Respondent;
     const std::string folder = absolutePath(import.path);
     if (!session.app().files().isFolder(folder))
-        throw FileError(folder, "there is no such folder");
+        throw FileError::about(folder, "there is no such folder");
     choose(session, import);
     ConsolePlatform& platform = session.platform();
     platform.choice = folder;

@@ -41,7 +41,7 @@ auto at(const fs::path& root, const std::string& path, const Task& task, Action 
             place /= toNative(path);
         return action(place);
     } catch (const std::system_error& error) {
-        throw FileError(path.empty() ? root.string() : path, disk::explain(task, place, error.code()));
+        throw FileError::about(path.empty() ? root.string() : path, disk::explain(task, place, error.code()));
     }
 }
 

@@ -62,7 +62,7 @@ void refuseOutsideLeague(const std::string& path) {
     if (isInLeague(path))
         return;
     if (hasZero(path) || !toNative(path).is_absolute())
-        throw FileError(path, "leads out of the league folder");
+        throw FileError::about(path, "leads out of the league folder");
 }
 
 std::filesystem::path toNative(const std::string& path) {

@@ -13,7 +13,7 @@ using Kind = Change::Kind;
 
 void refuseForeign(const Change& change) {
     if (!isInLeague(change.path) || change.path == Journal::FileName)
-        throw FileError(change.path, "is no file of the league");
+        throw FileError::about(change.path, "is no file of the league");
 }
 
 /// Commits that stand in one journal are made again from the first to the last, on files that may already be
@@ -27,9 +27,9 @@ bool mustStandAlone(const std::vector<Change>& changes) {
 
 void Journal::commit(const std::vector<Change>& changes) {
     if (recover() == Recovery::Finished)
-        throw FileError(FileName,
-                        "an earlier change noted here has only now been finished. What was asked for "
-                        "now was not done; please do it again");
+        throw FileError::about(FileName,
+                               "an earlier change noted here has only now been finished. What was asked for "
+                               "now was not done; please do it again");
     if (changes.empty())
         return;
     std::ranges::for_each(changes, refuseForeign);
@@ -112,8 +112,9 @@ void Journal::finish(Steps steps) {
     try {
         steps();
     } catch (const FileError& error) {
-        throw FileError(error.what() + (". The change is noted in \"" + std::string(FileName) +
-                                        "\" and will be finished before the next one or at the next start"));
+        throw FileError::withAdvice(error,
+                                    "The change is noted in \"" + std::string(FileName) +
+                                        "\" and will be finished before the next one or at the next start");
     }
     unfinished_ = false;
 }

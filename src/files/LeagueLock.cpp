@@ -50,13 +50,13 @@ LeagueLock::LeagueLock(const std::filesystem::path& folder, const char* program)
         handle_ = std::make_unique<Handle>(path);
         if (!handle_->file.lock()) {
             const std::string holder = readHolder(handle_->file);
-            throw FileError(FileName,
-                            "the league is in use by " + (holder.empty() ? "another program" : holder));
+            throw FileError::about(FileName, "the league is in use by " +
+                                                 (holder.empty() ? "another program" : holder));
         }
         handle_->file.cut(0);
         handle_->file.write(holderText(program) + "\n");
     } catch (const std::system_error& error) {
-        throw FileError(FileName, disk::explain(Locking, path, error.code()));
+        throw FileError::about(FileName, disk::explain(Locking, path, error.code()));
     }
 }
 

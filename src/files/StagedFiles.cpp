@@ -18,7 +18,7 @@ void cutAndAdd(std::string& content, std::uintmax_t length, std::string_view beh
 void requireInLeague(const std::string& path) {
     refuseOutsideLeague(path);
     if (!isInLeague(path))
-        throw FileError(path, "is not in the league folder");
+        throw FileError::about(path, "is not in the league folder");
 }
 
 /// Names in a folder, with what is staged there added or taken away.
@@ -81,20 +81,20 @@ StagedFiles::Staged& StagedFiles::stage(const std::string& path) {
         return file->second;
     requireInLeague(path);
     if (folders_.contains(path) || beneath_.isFolder(path))
-        throw FileError(path, "is a folder, not a file");
+        throw FileError::isFolder(path);
     if (!isFolder(folderOf(path)))
-        throw FileError(path, "cannot be written: its folder is missing");
+        throw FileError::cannotWrite(path, "its folder is missing");
     return staged_.try_emplace(path, Staged{State::Extended, beneath_.size(path), ""}).first->second;
 }
 
 std::string StagedFiles::read(const std::string& path) {
     const Staged* file = staged(path);
     if (!file && folders_.contains(path) && isFolder(path))
-        throw FileError(path, "is a folder, not a file");
+        throw FileError::isFolder(path);
     if (!file)
         return beneath(path);
     if (file->state == State::Removed)
-        throw FileError(path, "the file is missing");
+        throw FileError::missing(path);
     if (file->state == State::Whole || file->length == 0)
         return file->content;
     return beneath(path).substr(0, file->length) + file->content;
@@ -126,7 +126,7 @@ void StagedFiles::extend(const std::string& path, std::uintmax_t length, std::st
 
 void StagedFiles::remove(const std::string& path) {
     if (isFolder(path))
-        throw FileError(path, "is a folder, not a file");
+        throw FileError::isFolder(path);
     if (!isFile(path))
         return;
     if (beneath_.isFile(path))
@@ -140,7 +140,7 @@ void StagedFiles::makeFolder(const std::string& path) {
     if (isFolder(path))
         return;
     if (isFile(path) || beneath_.isFile(path))
-        throw FileError(path, "is a file, not a folder");
+        throw FileError::isFile(path);
     makeFolder(folderOf(path));
     if (beneath_.isFolder(path))
         folders_.erase(path);
@@ -151,11 +151,11 @@ void StagedFiles::makeFolder(const std::string& path) {
 void StagedFiles::removeFolder(const std::string& path) {
     if (!isFolder(path)) {
         if (isFile(path))
-            throw FileError(path, "is a file, not a folder");
+            throw FileError::isFile(path);
         return;
     }
     if (!filesIn(path).empty() || !foldersIn(path).empty())
-        throw FileError(path, "cannot be removed: the folder is not empty");
+        throw FileError::cannotRemove(path, "the folder is not empty");
     if (beneath_.isFolder(path))
         folders_[path] = false;
     else
@@ -192,7 +192,7 @@ std::vector<std::string> StagedFiles::foldersIn(const std::string& folder) {
 
 void StagedFiles::requireFolder(const std::string& path) {
     if (!isFolder(path))
-        throw FileError(path, isFile(path) ? "is a file, not a folder" : "the folder is missing");
+        throw isFile(path) ? FileError::isFile(path) : FileError::missingFolder(path);
 }
 
 bool StagedFiles::isUnchanged(const std::string& path, const Staged& file) {

@@ -22,7 +22,7 @@ struct Refusal {
 int raisedGameNumber(Files& files) {
     const int number = readNumber32(files, paths::OverallGameNumber);
     if (number == std::numeric_limits<int>::max())
-        throw FileError(paths::OverallGameNumber, "the file can hold no higher number");
+        throw FileError::about(paths::OverallGameNumber, "the file can hold no higher number");
     return number + 1;
 }
 

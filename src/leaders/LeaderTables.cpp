@@ -14,8 +14,8 @@ template <class Stats>
 int scaledFigure(const std::string& file, const LeaderColumn<Stats>& column, const Stats& stats) {
     const double value = column.figure(stats) * column.scale;
     if (std::fabs(value) > std::numeric_limits<int>::max())
-        throw FileError(file, std::string(column.caption) + " of " + numberText(column.figure(stats)) +
-                                  " is too large for the leader tables");
+        throw FileError::about(file, std::string(column.caption) + " of " + numberText(column.figure(stats)) +
+                                         " is too large for the leader tables");
     return wholeNumber(value);
 }
 

@@ -61,8 +61,8 @@ void requireSite(Application& app) {
         if (!app.files().isFolder(paths::page(folder)))
             missing += (missing.empty() ? "" : ", ") + folder;
     if (!missing.empty())
-        throw FileError(paths::WebRoot, "folders of the site's template are missing: " + missing +
-                                            " (no page has been written)");
+        throw FileError::about(paths::WebRoot, "folders of the site's template are missing: " + missing +
+                                                   " (no page has been written)");
 }
 
 class WebpageRun {

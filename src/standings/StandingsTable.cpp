@@ -39,9 +39,9 @@ int scaledFigure(TeamIndex team, const TeamRecord& record, double TeamRecord::*m
     const auto fields = fieldsOf<TeamRecord>();
     const auto field =
         std::ranges::find(fields, Field<TeamRecord>::Member(member), &Field<TeamRecord>::member);
-    throw FileError(paths::teamFile(team, PartOfYear::Season, paths::Records), 1,
-                    static_cast<int>(field - fields.begin()) + 1, std::string(field->name),
-                    numberText(record.*member) + " is more than the standings can hold");
+    throw FileError::malformed(paths::teamFile(team, PartOfYear::Season, paths::Records), 1,
+                               static_cast<int>(field - fields.begin()) + 1, std::string(field->name),
+                               numberText(record.*member) + " is more than the standings can hold");
 }
 
 } // namespace iceline

@@ -88,8 +88,8 @@ struct FieldWriter {
         if (field.width == Field<Record>::Width::Bits16 &&
             (value < std::numeric_limits<std::int16_t>::min() ||
              value > std::numeric_limits<std::int16_t>::max()))
-            throw FileError(std::string(field.name),
-                            std::to_string(value) + " is more than the league's files can hold");
+            throw FileError::about(std::string(field.name),
+                                   std::to_string(value) + " is more than the league's files can hold");
         writer.integer(value);
     }
     void operator()(TeamIndex Record::*member) const { writer.team(record.*member); }
@@ -133,8 +133,8 @@ void addTo(Record& record, int Record::*counter, int amount) {
         const auto fields = fieldsOf<Record>();
         const auto field =
             std::ranges::find(fields, typename Field<Record>::Member(counter), &Field<Record>::member);
-        throw FileError(std::string(field->name),
-                        std::to_string(sum) + " is more than the league's files can hold");
+        throw FileError::about(std::string(field->name),
+                               std::to_string(sum) + " is more than the league's files can hold");
     }
     record.*counter = static_cast<int>(sum);
 }

@@ -22,7 +22,7 @@ std::string_view trimmed(std::string_view item) {
 ItemReader::ItemReader(std::string file, std::string_view content, LastLine lastLine)
     : file_(std::move(file)), content_(content) {
     if (lastLine == LastLine::MustEnd && !content.empty() && content.back() != '\n')
-        throw FileError(file_, "the file is cut: its last line has no end");
+        throw FileError::about(file_, "the file is cut: its last line has no end");
 }
 
 std::string_view ItemReader::next(std::string_view field) {
@@ -32,7 +32,7 @@ std::string_view ItemReader::next(std::string_view field) {
     }
     ++item_;
     if (atEnd())
-        throw FileError(file_, line_, item_, std::string(field), "the file ends before it");
+        throw FileError::malformed(file_, line_, item_, std::string(field), "the file ends before it");
     if (content_[position_] == '"')
         return quotedItem(field);
     const auto end = std::min(content_.find_first_of(",\r\n", position_), content_.size());
@@ -70,7 +70,7 @@ void ItemReader::passSeparator(std::string_view field) {
 }
 
 void ItemReader::reject(std::string_view field, const std::string& wrong) const {
-    throw FileError(file_, line_, item_, std::string(field), wrong);
+    throw FileError::malformed(file_, line_, item_, std::string(field), wrong);
 }
 
 double ItemReader::number(std::string_view field) {
@@ -150,7 +150,8 @@ LineWriter& LineWriter::team(TeamIndex value) {
 
 LineWriter& LineWriter::text(std::string_view value) {
     if (value.find_first_of("\"\r\n") != std::string_view::npos)
-        throw FileError(std::string(value), "a text with a double quote or a line end cannot be stored");
+        throw FileError::about(std::string(value),
+                               "a text with a double quote or a line end cannot be stored");
     return raw('"' + std::string(value) + '"');
 }
 

@@ -226,7 +226,7 @@ public:
 
     void write(const std::string& path, std::string_view content, Durability durability) override {
         if (path == badFile)
-            throw FileError(path, "cannot be written");
+            throw FileError::about(path, "cannot be written");
         MemoryFiles::write(path, content, durability);
     }
 

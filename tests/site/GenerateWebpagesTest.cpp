@@ -231,7 +231,7 @@ public:
 
     void write(const std::string& path, std::string_view content, Durability durability) override {
         if (path == bad)
-            throw FileError(path, "cannot be written: the disk is full");
+            throw FileError::cannotWrite(path, "the disk is full");
         MemoryFiles::write(path, content, durability);
     }
 

@@ -7,7 +7,7 @@ namespace iceline::test {
 namespace {
 
 [[noreturn]] void fail(const std::string& path) {
-    throw FileError(path, "the disk fails for the test");
+    throw FileError::about(path, "the disk fails for the test");
 }
 
 } // namespace

@@ -27,14 +27,14 @@ std::vector<std::string> namesIn(const Paths& paths, const std::string& folder) 
 void MemoryFiles::requirePlaceForFile(const std::string& path) {
     refuseOutsideLeague(path);
     if (isFolder(path))
-        throw FileError(path, "is a folder, not a file");
+        throw FileError::isFolder(path);
     if (!isFolder(folderOf(path)))
-        throw FileError(path, "cannot be written: its folder is missing");
+        throw FileError::cannotWrite(path, "its folder is missing");
 }
 
 void MemoryFiles::requireFolder(const std::string& path) {
     if (!isFolder(path))
-        throw FileError(path, isFile(path) ? "is a file, not a folder" : "the folder is missing");
+        throw isFile(path) ? FileError::isFile(path) : FileError::missingFolder(path);
 }
 
 std::string MemoryFiles::read(const std::string& path) {
@@ -42,7 +42,7 @@ std::string MemoryFiles::read(const std::string& path) {
     refuseOutsideLeague(path);
     const auto file = files.find(path);
     if (file == files.end())
-        throw FileError(path, isFolder(path) ? "is a folder, not a file" : "the file is missing");
+        throw isFolder(path) ? FileError::isFolder(path) : FileError::missing(path);
     return file->second;
 }
 
@@ -68,7 +68,7 @@ void MemoryFiles::extend(const std::string& path, std::uintmax_t length, std::st
 void MemoryFiles::remove(const std::string& path) {
     refuseOutsideLeague(path);
     if (isFolder(path))
-        throw FileError(path, "is a folder, not a file");
+        throw FileError::isFolder(path);
     files.erase(path);
 }
 
@@ -77,18 +77,18 @@ void MemoryFiles::makeFolder(const std::string& path) {
     if (isFolder(path))
         return;
     if (isFile(path))
-        throw FileError(path, "is a file, not a folder");
+        throw FileError::isFile(path);
     makeFolder(folderOf(path));
     folders.insert(path);
 }
 
 void MemoryFiles::removeFolder(const std::string& path) {
     if (isFile(path))
-        throw FileError(path, "is a file, not a folder");
+        throw FileError::isFile(path);
     if (!isFolder(path))
         return;
     if (!filesIn(path).empty() || !foldersIn(path).empty())
-        throw FileError(path, "cannot be removed: the folder is not empty");
+        throw FileError::cannotRemove(path, "the folder is not empty");
     folders.erase(path);
 }
 
