@@ -64,7 +64,8 @@ MemoryFiles fullLeague() {
         }
         league.setRoster(team, roster);
         for (const PartOfYear part : {PartOfYear::Season, PartOfYear::Playoffs}) {
-            league.files.files[paths::teamFile(team, part, paths::PlayerStats)] = playerStatsText(stats);
+            league.files.files[paths::teamFile(team, part, paths::PlayerStats)] =
+                playerStatsText(paths::PlayerStats, stats);
             TeamRecord record = league.record(team, part);
             record.GP = 82;
             record.Points = 60 + team;

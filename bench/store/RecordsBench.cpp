@@ -32,7 +32,7 @@ BENCHMARK(readRecords);
 void writeRecords(benchmark::State& state) {
     const TeamRecord record = midSeasonRecord();
     for (auto _ : state)
-        benchmark::DoNotOptimize(lineOf(record));
+        benchmark::DoNotOptimize(lineOf("Records.txt", record));
 }
 BENCHMARK(writeRecords);
 

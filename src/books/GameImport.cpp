@@ -30,7 +30,7 @@ public:
 
     void write() {
         for (const auto& [team, stats] : sheets_)
-            files_.write(path(team), playerStatsText(stats));
+            files_.write(path(team), playerStatsText(path(team), stats));
     }
 
 private:
@@ -57,7 +57,7 @@ void importPlayerRecords(Files& files, const ImportedGame& game) {
         updateSpecialGoalRecords(records, game.sheet, game.rosters);
     updatePlayerRecords(records, game.sheet, Side::Home, game.rosters);
     updatePlayerRecords(records, game.sheet, Side::Away, game.rosters);
-    files.write(path, textOf(records));
+    files.write(path, textOf(path, records));
 }
 
 void importGoalieRecords(Files& files, const ImportedGame& game) {
@@ -66,7 +66,7 @@ void importGoalieRecords(Files& files, const ImportedGame& game) {
     updateGoalieRecords(records, game.sheet, Side::Home, game.rosters);
     if (game.counts)
         updateGoalieRecords(records, game.sheet, Side::Away, game.rosters);
-    files.write(path, textOf(records));
+    files.write(path, textOf(path, records));
 }
 
 void importLeagueRecords(Files& files, const ImportedGame& game) {
@@ -75,9 +75,9 @@ void importLeagueRecords(Files& files, const ImportedGame& game) {
     AllTimeLeagueRecords records = readAllTimeLeagueRecords(files, path);
     CoachesLeagueRecords coachRecords = readCoachesLeagueRecords(files, coachesPath);
     updateLeagueRecords(records, coachRecords, game.sheet, game.coaches);
-    files.write(coachesPath, textOf(coachRecords));
+    files.write(coachesPath, textOf(coachesPath, coachRecords));
     if (game.counts)
-        files.write(path, textOf(records));
+        files.write(path, textOf(path, records));
 }
 
 /// A team or coach whose line, streak and result list a game moves.

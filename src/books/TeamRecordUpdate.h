@@ -19,7 +19,7 @@ std::string resultLetter(const GameSheet& game, Side side);
 /// ArenaMeter is left to updateCrowdMeter(). A coach's line differs in four fields: LastResult holds the
 /// game's letter, SOGPct is rounded once, PenPG keeps its decimal, AuxAgainst is not counted.
 ///
-/// Throws FileError naming the field when a sum is more than the file can hold.
+/// A sum that is more than the file can hold is refused when the line is written.
 void updateTeamRecord(TeamRecord& record, const GameSheet& game, Side side, bool overtime,
                       RecordHolder holder);
 

@@ -1,5 +1,6 @@
 #include "standings/StandingsTable.h"
 
+#include "files/FileError.h"
 #include "league/Numbers.h"
 #include "store/TeamFiles.h"
 

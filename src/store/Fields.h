@@ -1,6 +1,5 @@
 #pragma once
 
-#include "files/FileError.h"
 #include "store/TextFormat.h"
 
 #include <algorithm>
@@ -84,23 +83,18 @@ struct FieldWriter {
     const Record& record;
 
     void operator()(int Record::*member) const {
-        const int value = record.*member;
-        if (field.width == Field<Record>::Width::Bits16 &&
-            (value < std::numeric_limits<std::int16_t>::min() ||
-             value > std::numeric_limits<std::int16_t>::max()))
-            throw FileError::about(std::string(field.name),
-                                   std::to_string(value) + " is more than the league's files can hold");
-        writer.integer(value);
+        field.width == Field<Record>::Width::Bits16 ? writer.integer16(field.name, record.*member)
+                                                    : writer.integer32(field.name, record.*member);
     }
     void operator()(TeamIndex Record::*member) const { writer.team(record.*member); }
     void operator()(double Record::*member) const { writer.number(record.*member); }
-    void operator()(std::string Record::*member) const { writer.text(record.*member); }
+    void operator()(std::string Record::*member) const { writer.text(field.name, record.*member); }
     void operator()(RawItem Record::*member) const { writer.raw((record.*member).written); }
     void operator()(std::optional<double> Record::*member) const {
         record.*member ? writer.number(*(record.*member)) : writer.raw("");
     }
     void operator()(std::optional<std::string> Record::*member) const {
-        record.*member ? writer.text(*(record.*member)) : writer.raw("");
+        record.*member ? writer.text(field.name, *(record.*member)) : writer.raw("");
     }
 };
 
@@ -116,33 +110,26 @@ void readFields(ItemReader& reader, Record& record, std::size_t count = AllField
         std::visit(detail::FieldReader<Record>{reader, field, record}, field.member);
 }
 
-/// Writes the fields of a record in file order, without the end of the line. Throws FileError naming the
-/// field when a value does not fit the file.
+/// Writes the fields of a record in file order, without the end of the line. Throws FileError as LineWriter
+/// does when a value does not fit the file.
 template <class Record>
 void writeFields(LineWriter& writer, const Record& record) {
     for (const Field<Record>& field : fieldsOf<Record>())
         std::visit(detail::FieldWriter<Record>{writer, field, record}, field.member);
 }
 
-/// Adds to a 32-bit counter of a record. Throws FileError naming the field when the sum does not fit the
-/// file.
+/// Adds to a 32-bit counter of a record. A sum that 32 bits cannot hold stops at the highest number, which
+/// writeFields() then refuses.
 template <class Record>
 void addTo(Record& record, int Record::*counter, int amount) {
     const std::int64_t sum = std::int64_t{record.*counter} + amount;
-    if (sum > std::numeric_limits<std::int32_t>::max()) {
-        const auto fields = fieldsOf<Record>();
-        const auto field =
-            std::ranges::find(fields, typename Field<Record>::Member(counter), &Field<Record>::member);
-        throw FileError::about(std::string(field->name),
-                               std::to_string(sum) + " is more than the league's files can hold");
-    }
-    record.*counter = static_cast<int>(sum);
+    record.*counter = static_cast<int>(std::min<std::int64_t>(sum, std::numeric_limits<int>::max()));
 }
 
 /// The text of a file that holds one record on one line.
 template <class Record>
-std::string lineOf(const Record& record) {
-    LineWriter writer;
+std::string lineOf(const std::string& file, const Record& record) {
+    LineWriter writer(file);
     writeFields(writer, record);
     return writer.endLine().content();
 }

@@ -19,14 +19,21 @@ std::string number() {
     return numberLine(Value);
 }
 
+/// The name of the file in messages that never come: what is new always fits.
+constexpr const char* NewFile = "a new file";
+
 template <class Records>
 std::string initialTextOf() {
-    return textOf(Records());
+    return textOf(NewFile, Records());
+}
+
+std::string initialSeries() {
+    return textOf(PlayoffSeriesTable());
 }
 
 template <class Record>
 std::string initialLineOf() {
-    return lineOf(Record());
+    return lineOf(NewFile, Record());
 }
 
 std::string nothing() {
@@ -34,7 +41,7 @@ std::string nothing() {
 }
 
 std::string initialLeagueRecordsText() {
-    return textOf(initialLeagueRecords());
+    return textOf(NewFile, initialLeagueRecords());
 }
 
 const InitialFile Last10Games{paths::Last10Games, nothing};
@@ -53,7 +60,7 @@ std::span<const InitialFile> initialLeagueFiles() {
         InitialFile{paths::twin(Playoffs, paths::CrowdMeter), number<CrowdMeterAtStart>, false},
         InitialFile{"League Records.txt", initialUnusedLeagueRecordsText, false},
         InitialFile{"Playoff League Records.txt", initialUnusedLeagueRecordsText, false},
-        InitialFile{paths::PlayoffRecords, initialTextOf<PlayoffSeriesTable>},
+        InitialFile{paths::PlayoffRecords, initialSeries},
         InitialFile{paths::OverallGameNumber, number<0>},
         InitialFile{paths::allTimeGoalieRecords(Season), initialTextOf<AllTimeGoalieRecords>},
         InitialFile{paths::allTimeGoalieRecords(Playoffs), initialTextOf<AllTimeGoalieRecords>},

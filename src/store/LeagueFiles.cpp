@@ -52,8 +52,8 @@ std::array<PlayerRecord, Count> readPlayerRecords(Files& files, const std::strin
 }
 
 template <class Records>
-std::string recordsLine(const Records& records) {
-    LineWriter writer;
+std::string recordsLine(const std::string& file, const Records& records) {
+    LineWriter writer(file);
     for (const auto& record : records)
         writeFields(writer, record);
     return writer.endLine().content();
@@ -111,20 +111,20 @@ CoachesLeagueRecords readCoachesLeagueRecords(Files& files, const std::string& p
     return records;
 }
 
-std::string textOf(const AllTimePlayerRecords& records) {
-    return recordsLine(records);
+std::string textOf(const std::string& file, const AllTimePlayerRecords& records) {
+    return recordsLine(file, records);
 }
 
-std::string textOf(const AllTimeGoalieRecords& records) {
-    return recordsLine(records);
+std::string textOf(const std::string& file, const AllTimeGoalieRecords& records) {
+    return recordsLine(file, records);
 }
 
-std::string textOf(const AllTimeLeagueRecords& records) {
-    return recordsLine(records);
+std::string textOf(const std::string& file, const AllTimeLeagueRecords& records) {
+    return recordsLine(file, records);
 }
 
-std::string textOf(const CoachesLeagueRecords& records) {
-    LineWriter writer;
+std::string textOf(const std::string& file, const CoachesLeagueRecords& records) {
+    LineWriter writer(file);
     for (const CoachRecord& pair : records.pairs)
         writeFields(writer, pair);
     for (const RawItem& passedOn : records.passedOn)
@@ -154,7 +154,7 @@ void readPlayoffRecords(Files& files, PlayoffSeriesTable& series) {
 }
 
 std::string textOf(const PlayoffSeriesTable& series) {
-    LineWriter writer;
+    LineWriter writer(paths::PlayoffRecords);
     for (int i = 0; i < SeriesCount; ++i) {
         writer.integer(series[i].WinsA).integer(series[i].WinsB);
         if (i >= FirstRoundSeries)
@@ -175,7 +175,7 @@ int readNumber32(Files& files, const std::string& path) {
 }
 
 std::string numberLine(int value) {
-    return LineWriter().integer(value).endLine().content();
+    return std::to_string(value) + std::string(LineEnd);
 }
 
 std::vector<RecentGame> readRecentGames(Files& files) {
@@ -195,17 +195,17 @@ std::vector<RecentGame> readRecentGames(Files& files) {
 }
 
 std::string textOf(const std::vector<RecentGame>& games) {
-    LineWriter writer;
+    LineWriter writer(paths::Last10Box);
     for (const RecentGame& game : games) {
         writer.team(game.Home).team(game.Away).endLine();
         writer.integer(game.HomeGoals).integer(game.AwayGoals).endLine();
-        writer.text(game.Page).endLine();
+        writer.text("page", game.Page).endLine();
     }
     return writer.content();
 }
 
 std::string initialUnusedLeagueRecordsText() {
-    LineWriter writer;
+    LineWriter writer("League Records.txt");
     for (int i = 0; i < 25; ++i)
         writer.integer(0);
     return writer.integer(CrowdAtStart).endLine().content();

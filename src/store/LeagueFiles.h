@@ -105,16 +105,16 @@ struct RecentGame {
 };
 
 /// Readers and texts of the league-wide files. Every reader throws FileError as ItemReader does; a TeamIndex
-/// outside the league is an error, too.
+/// outside the league is an error, too. A text is made for the file of that name.
 AllTimePlayerRecords readAllTimePlayerRecords(Files& files, const std::string& path);
 AllTimeGoalieRecords readAllTimeGoalieRecords(Files& files, const std::string& path);
 AllTimeLeagueRecords readAllTimeLeagueRecords(Files& files, const std::string& path);
 CoachesLeagueRecords readCoachesLeagueRecords(Files& files, const std::string& path);
 
-std::string textOf(const AllTimePlayerRecords& records);
-std::string textOf(const AllTimeGoalieRecords& records);
-std::string textOf(const AllTimeLeagueRecords& records);
-std::string textOf(const CoachesLeagueRecords& records);
+std::string textOf(const std::string& file, const AllTimePlayerRecords& records);
+std::string textOf(const std::string& file, const AllTimeGoalieRecords& records);
+std::string textOf(const std::string& file, const AllTimeLeagueRecords& records);
+std::string textOf(const std::string& file, const CoachesLeagueRecords& records);
 
 /// The records of a new league: all 0 but the crowd meter, which starts at 80 dB.
 AllTimeLeagueRecords initialLeagueRecords();

@@ -1,5 +1,7 @@
 #include "store/PlayerFiles.h"
 
+#include "store/LeaguePaths.h"
+
 #include <array>
 
 namespace iceline {
@@ -94,8 +96,8 @@ TeamPlayerStats readPlayerStats(Files& files, const std::string& path, const Ros
     return stats;
 }
 
-std::string playerStatsText(const TeamPlayerStats& stats) {
-    LineWriter writer;
+std::string playerStatsText(const std::string& file, const TeamPlayerStats& stats) {
+    LineWriter writer(file);
     for (const PlayerStatsLine& line : stats) {
         std::visit([&writer](const auto& fields) { writeFields(writer, fields); }, line);
         writer.endLine();
@@ -104,7 +106,7 @@ std::string playerStatsText(const TeamPlayerStats& stats) {
 }
 
 std::string initialPlayerStatsText() {
-    return playerStatsText({});
+    return playerStatsText(paths::PlayerStats, {});
 }
 
 } // namespace iceline

@@ -82,8 +82,9 @@ void addStarPoints(PlayerStatsLine& line, int points);
 /// Reads the 25 lines of a `Player Stats.txt` in step with the team's roster.
 TeamPlayerStats readPlayerStats(Files& files, const std::string& path, const Roster& roster);
 
-/// The text of a `Player Stats.txt`. Throws FileError naming the field when a figure does not fit.
-std::string playerStatsText(const TeamPlayerStats& stats);
+/// The text of a `Player Stats.txt`, whose name is `file`. Throws FileError naming the field when a figure
+/// does not fit.
+std::string playerStatsText(const std::string& file, const TeamPlayerStats& stats);
 
 /// The text of a new `Player Stats.txt`: 25 lines of sixteen zeros.
 std::string initialPlayerStatsText();

@@ -32,15 +32,18 @@ Streak readStreak(Files& files, const RecordFolder& folder) {
 }
 
 void writeTeamRecord(Files& files, const RecordFolder& folder, const TeamRecord& record) {
-    files.write(folder + "/" + paths::Records, lineOf(record));
+    const std::string path = folder + "/" + paths::Records;
+    files.write(path, lineOf(path, record));
 }
 
 void writeStreak(Files& files, const RecordFolder& folder, const Streak& streak) {
-    files.write(folder + "/" + paths::Streak, lineOf(streak));
+    const std::string path = folder + "/" + paths::Streak;
+    files.write(path, lineOf(path, streak));
 }
 
 void appendResult(Files& files, const RecordFolder& folder, const std::string& letter) {
-    files.append(folder + "/" + paths::Last10Games, LineWriter().text(letter).endLine().content());
+    const std::string path = folder + "/" + paths::Last10Games;
+    files.append(path, LineWriter(path).text("result", letter).endLine().content());
 }
 
 LastTen readLastTen(Files& files, const RecordFolder& folder, int gameCount) {

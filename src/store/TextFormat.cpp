@@ -128,11 +128,20 @@ RawItem ItemReader::raw(std::string_view field) {
     return {std::string(next(field))};
 }
 
+void LineWriter::reject(std::string_view field, const std::string& wrong) const {
+    throw FileError::malformed(file_, line_, items_ + 1, std::string(field), wrong);
+}
+
+void LineWriter::requireFits(std::string_view field, int value, int lowest, int highest) const {
+    if (value < lowest || value > highest)
+        reject(field, std::to_string(value) + " is more than the league's files can hold");
+}
+
 LineWriter& LineWriter::raw(std::string_view item) {
-    if (!startsLine_)
+    if (items_ > 0)
         content_ += ',';
     content_ += item;
-    startsLine_ = false;
+    ++items_;
     return *this;
 }
 
@@ -148,16 +157,27 @@ LineWriter& LineWriter::team(TeamIndex value) {
     return integer(value.number());
 }
 
-LineWriter& LineWriter::text(std::string_view value) {
+LineWriter& LineWriter::integer16(std::string_view field, int value) {
+    requireFits(field, value, std::numeric_limits<std::int16_t>::min(),
+                std::numeric_limits<std::int16_t>::max());
+    return integer(value);
+}
+
+LineWriter& LineWriter::integer32(std::string_view field, int value) {
+    requireFits(field, value, std::numeric_limits<int>::min(), std::numeric_limits<int>::max() - 1);
+    return integer(value);
+}
+
+LineWriter& LineWriter::text(std::string_view field, std::string_view value) {
     if (value.find_first_of("\"\r\n") != std::string_view::npos)
-        throw FileError::about(std::string(value),
-                               "a text with a double quote or a line end cannot be stored");
+        reject(field, "a text with a double quote or a line end cannot be stored: " + std::string(value));
     return raw('"' + std::string(value) + '"');
 }
 
 LineWriter& LineWriter::endLine() {
     content_ += LineEnd;
-    startsLine_ = true;
+    ++line_;
+    items_ = 0;
     return *this;
 }
 

@@ -5,6 +5,7 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <utility>
 
 namespace iceline {
 
@@ -69,15 +70,23 @@ private:
     bool startsLine_ = true;
 };
 
-/// Builds the text of a data file line by line.
+/// Builds the text of a data file line by line. What the file cannot hold throws FileError naming the file,
+/// the line, the item in that line and its field.
 class LineWriter {
 public:
+    /// `file` is the name used in messages.
+    explicit LineWriter(std::string file) : file_(std::move(file)) {}
+
     LineWriter& number(double value);
     LineWriter& integer(int value);
     LineWriter& team(TeamIndex value);
 
-    /// A text in double quotes. Throws FileError when it holds one itself, or a line end.
-    LineWriter& text(std::string_view value);
+    /// A whole number of 16 bits, or of 32 bits below the highest one, at which addTo() stops counting.
+    LineWriter& integer16(std::string_view field, int value);
+    LineWriter& integer32(std::string_view field, int value);
+
+    /// A text in double quotes, which holds neither a double quote nor a line end.
+    LineWriter& text(std::string_view field, std::string_view value);
 
     /// An item as it stands; the empty one is a blank item.
     LineWriter& raw(std::string_view item);
@@ -87,8 +96,13 @@ public:
     const std::string& content() const { return content_; }
 
 private:
+    [[noreturn]] void reject(std::string_view field, const std::string& wrong) const;
+    void requireFits(std::string_view field, int value, int lowest, int highest) const;
+
+    std::string file_;
     std::string content_;
-    bool startsLine_ = true;
+    int line_ = 1;
+    int items_ = 0; ///< written in this line
 };
 
 } // namespace iceline

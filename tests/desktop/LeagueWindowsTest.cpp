@@ -98,7 +98,7 @@ TEST_F(LeagueWindowsTest, RanksCoachesAndShowsTheOneChosen) {
 TEST_F(LeagueWindowsTest, ShowsRecordsWithTheirHolders) {
     AllTimePlayerRecords records;
     records[0] = {TeamIndex(10), "Ann First", 6};
-    league.files.files[paths::allTimePlayerRecords(PartOfYear::Season)] = textOf(records);
+    league.files.files[paths::allTimePlayerRecords(PartOfYear::Season)] = textOf("records", records);
     LeagueWindow& window = open(WindowId::AllTimeRecords);
     EXPECT_EQ(text(window, "PlyrGRecName"), "Ann First");
     EXPECT_EQ(text(window, "PlyrGinGame"), "6");

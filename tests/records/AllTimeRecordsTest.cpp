@@ -34,9 +34,9 @@ TEST(AllTimeRecords, EveryFigureStandsUnderItsOwnHeading) {
     AllTimeGoalieRecords goalies;
     goalies[4] = {TeamIndex(23), "Al O'Neil", 2};
     const PartOfYear part = PartOfYear::Playoffs;
-    league.files.files[paths::allTimeLeagueRecords(part)] = textOf(teams);
-    league.files.files[paths::coachesLeagueRecords(part)] = textOf(coaches);
-    league.files.files[paths::allTimeGoalieRecords(part)] = textOf(goalies);
+    league.files.files[paths::allTimeLeagueRecords(part)] = textOf("records", teams);
+    league.files.files[paths::coachesLeagueRecords(part)] = textOf("records", coaches);
+    league.files.files[paths::allTimeGoalieRecords(part)] = textOf("records", goalies);
     const auto& window =
         static_cast<AllTimeRecords&>(league.app.windows().use(WindowId::PlayoffAllTimeRecords));
 

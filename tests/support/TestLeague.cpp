@@ -102,7 +102,7 @@ void TestLeague::setPlayerStats(TeamIndex team, PartOfYear part, int row, const 
     const std::string path = paths::teamFile(team, part, paths::PlayerStats);
     TeamPlayerStats all = readPlayerStats(files, path, roster(team));
     all.at(row) = stats;
-    files.files[path] = playerStatsText(all);
+    files.files[path] = playerStatsText(path, all);
 }
 
 void TestLeague::addCoach(const std::string& name, const TeamRecord& record, const Streak& streak) {
