@@ -94,7 +94,7 @@ bool rename(const std::filesystem::path& file, const std::filesystem::path& name
     });
 }
 
-// The locked byte lies far behind the text of a lock file, which others may therefore read.
+// The locked byte lies far after the text of a lock file, which others may therefore read.
 bool lock(int handle) {
     OVERLAPPED place = {};
     place.Offset = 0x7fffffff;

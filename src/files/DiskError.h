@@ -9,7 +9,7 @@ namespace iceline::disk {
 /// What a program wants of a place on the disk.
 struct Task {
     const char* failure;               ///< how its message begins when it fails: "cannot be read"
-    std::filesystem::file_type wanted; ///< regular or directory: what may stand there
+    std::filesystem::file_type wanted; ///< regular or directory: what may be there
     bool mustExist;                    ///< nothing there is what is wrong, and not that its folder is missing
 };
 

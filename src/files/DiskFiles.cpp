@@ -2,6 +2,7 @@
 
 #include "files/DiskError.h"
 #include "files/FileError.h"
+#include "files/NativePath.h"
 #include "files/OpenFile.h"
 
 #include <algorithm>
@@ -72,7 +73,7 @@ void replaceFile(const fs::path& file, std::string_view content, Durability dura
         disk::require(disk::syncFolder(file.parent_path()));
 }
 
-void addBehind(OpenFile& file, std::uintmax_t length, std::string_view content, bool synced) {
+void appendAt(OpenFile& file, std::uintmax_t length, std::string_view content, bool synced) {
     try {
         file.cut(length);
         file.write(content);
@@ -142,7 +143,7 @@ void DiskFiles::extend(const std::string& path, std::uintmax_t length, std::stri
     at(root_, path, Writing, [&](const fs::path& file) {
         const bool isNew = !fs::exists(file);
         OpenFile out(file, Purpose::Change);
-        addBehind(out, std::min(length, out.size()), content, durability == Durability::Now);
+        appendAt(out, std::min(length, out.size()), content, durability == Durability::Now);
         out.close();
         if (durability == Durability::Later)
             unsyncedFiles_.insert(file.native());

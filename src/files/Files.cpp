@@ -1,9 +1,9 @@
 #include "files/Files.h"
 
 #include "files/FileError.h"
+#include "files/NativePath.h"
 
 #include <algorithm>
-#include <filesystem>
 
 namespace iceline {
 
@@ -63,10 +63,6 @@ void refuseOutsideLeague(const std::string& path) {
         return;
     if (hasZero(path) || !toNative(path).is_absolute())
         throw FileError::about(path, "leads out of the league folder");
-}
-
-std::filesystem::path toNative(const std::string& path) {
-    return std::filesystem::path(std::u8string(path.begin(), path.end()));
 }
 
 std::string folderOf(const std::string& path) {

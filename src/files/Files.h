@@ -1,7 +1,6 @@
 #pragma once
 
 #include <cstdint>
-#include <filesystem>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -13,7 +12,7 @@ namespace iceline {
 enum class Durability { Now, Later, Unsynced };
 
 /// All file access of the program. A path is relative to the league folder and written with '/'; an
-/// absolute path (a save state that the user chose) is taken as it stands; "" is the league folder itself.
+/// absolute path (a save state that the user chose) is taken as given; "" is the league folder itself.
 /// Names are bytes (UTF-8 on Windows).
 ///
 /// Every operation throws FileError when it cannot do what it says; its message names the file. A relative
@@ -36,7 +35,7 @@ public:
     virtual void write(const std::string& path, std::string_view content,
                        Durability durability = Durability::Now) = 0;
 
-    /// Cuts the file to its first `length` bytes (all of it when it is shorter) and adds `content` behind
+    /// Cuts the file to its first `length` bytes (all of it when it is shorter) and appends `content` to
     /// them; a missing file counts as empty. On an error the file is cut back to `length`, where the disk
     /// allows it.
     virtual void extend(const std::string& path, std::uintmax_t length, std::string_view content,
@@ -77,14 +76,11 @@ bool isInLeague(const std::string& path);
 /// Throws FileError for a path that is relative and yet leads out of the league folder.
 void refuseOutsideLeague(const std::string& path);
 
-/// The path as the platform has it: bytes on Unix, from UTF-8 on Windows.
-std::filesystem::path toNative(const std::string& path);
-
-/// The folder that a file or folder stands in, "" for the league folder.
+/// The folder that a file or folder is in, "" for the league folder.
 std::string folderOf(const std::string& path);
 
-/// The order in which files and folders are listed and coaches compared: by name, case left aside (ASCII),
-/// then by bytes.
+/// The order in which files and folders are listed and coaches compared: by name, without regard to case
+/// (ASCII), then by bytes.
 bool nameBefore(std::string_view a, std::string_view b);
 
 /// True when two names differ at most in case (ASCII).

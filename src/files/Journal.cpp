@@ -16,10 +16,10 @@ void refuseForeign(const Change& change) {
         throw FileError::about(change.path, "is no file of the league");
 }
 
-/// Commits that stand in one journal are made again from the first to the last, on files that may already be
+/// Commits in one journal are made again from the first to the last, on files that may already be
 /// those after the last. Only the removal of a folder could fail then, when a later commit has filled a
 /// folder of that name again.
-bool mustStandAlone(const std::vector<Change>& changes) {
+bool needsOwnJournal(const std::vector<Change>& changes) {
     return std::ranges::any_of(changes, [](const Change& c) { return c.kind == Kind::RemoveFolder; });
 }
 
@@ -33,7 +33,7 @@ void Journal::commit(const std::vector<Change>& changes) {
     if (changes.empty())
         return;
     std::ranges::for_each(changes, refuseForeign);
-    const bool alone = mustStandAlone(changes);
+    const bool alone = needsOwnJournal(changes);
     if (alone && length_ > 0)
         finish([&] { checkpoint(); });
     append(changes);

@@ -22,7 +22,7 @@ public:
     /// Name of the journal in the league folder.
     static constexpr const char* FileName = "Unfinished Changes.journal";
 
-    /// A run's journal that has grown to this many bytes is brought to the files and begun anew.
+    /// A run's journal that has grown to this many bytes is brought to the files and begun again.
     static constexpr std::size_t CheckpointBytes = 8u << 20;
 
     explicit Journal(Files& files) : files_(files) {}
@@ -38,7 +38,7 @@ public:
     void beginRun();
     void endRun();
 
-    /// Finishes the whole commits of a journal that was left behind, drops a torn one, and removes the
+    /// Finishes the whole commits of a journal that was left, drops a torn one, and removes the
     /// journal. Doing so twice, or after a part of it was done, gives the same files. Costs nothing when
     /// every commit of this object was finished; in a run, what is due at its end is left to that.
     Recovery recover();
@@ -53,8 +53,8 @@ private:
 
     Files& files_;
     bool inRun_ = false;
-    std::uintmax_t length_ = 0; ///< bytes of the whole commits that stand in the journal
-    bool unfinished_ = true;    ///< a journal may stand on the disk whose changes were not all made
+    std::uintmax_t length_ = 0; ///< bytes of the whole commits in the journal
+    bool unfinished_ = true;    ///< a journal may be on the disk whose changes were not all made
 };
 
 } // namespace iceline

@@ -12,7 +12,7 @@ namespace iceline {
 inline constexpr std::string_view JournalHeading =
     "Iceline Scorebook journal 1: changes that were begun, to be finished at the next start.\n";
 
-/// A commit as it stands in a journal behind the heading and earlier commits (docs/journal.md).
+/// A commit as it is in a journal, after the heading and earlier commits (docs/journal.md).
 std::string journalEntry(const std::vector<Change>& changes);
 
 /// The changes of all whole commits of a journal, in order. The first commit that is cut, whose checksum does

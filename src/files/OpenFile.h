@@ -13,7 +13,7 @@ namespace iceline::disk {
 /// A file of the disk while it is open. What cannot be done throws std::system_error.
 class OpenFile {
 public:
-    /// With Purpose::Create, what stands in the file's place is removed first.
+    /// With Purpose::Create, what is in the file's place is removed first.
     OpenFile(const std::filesystem::path& path, Purpose purpose);
 
     /// Takes over what disk::open() has given.
@@ -25,16 +25,16 @@ public:
 
     std::uintmax_t size() const;
 
-    /// What stands behind the file's position, at most `limit` bytes.
+    /// What follows the file's position, at most `limit` bytes.
     std::string read(std::size_t limit);
 
-    /// Whether exactly this stands behind the file's position.
+    /// Whether exactly this follows the file's position.
     bool holds(std::string_view content);
 
     /// Writes all of `content` at the file's position.
     void write(std::string_view content);
 
-    /// Cuts the file to `length` bytes; what is written next stands behind them.
+    /// Cuts the file to `length` bytes; what is written next follows them.
     void cut(std::uintmax_t length);
     bool tryToCut(std::uintmax_t length) noexcept;
 

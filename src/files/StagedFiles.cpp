@@ -10,9 +10,9 @@ namespace iceline {
 
 namespace {
 
-void cutAndAdd(std::string& content, std::uintmax_t length, std::string_view behind) {
+void cutAndAdd(std::string& content, std::uintmax_t length, std::string_view tail) {
     content.resize(std::min<std::uintmax_t>(length, content.size()));
-    content += behind;
+    content += tail;
 }
 
 void requireInLeague(const std::string& path) {
@@ -22,15 +22,15 @@ void requireInLeague(const std::string& path) {
 }
 
 /// Names in a folder, with what is staged there added or taken away.
-template <class Paths, class Stands>
+template <class Paths, class IsThere>
 std::vector<std::string> overlay(std::vector<std::string> names, const std::string& folder,
-                                 const Paths& staged, Stands stands) {
+                                 const Paths& staged, IsThere isThere) {
     for (const auto& [path, state] : staged) {
         if (folderOf(path) != folder)
             continue;
         const std::string name = path.substr(folder.empty() ? 0 : folder.size() + 1);
         std::erase(names, name);
-        if (stands(state))
+        if (isThere(state))
             names.push_back(name);
     }
     std::ranges::sort(names, nameBefore);
@@ -59,17 +59,17 @@ const StagedFiles::Staged* StagedFiles::staged(const std::string& path) const {
     return file == staged_.end() ? nullptr : &file->second;
 }
 
-const std::string& StagedFiles::beneath(const std::string& path) {
+const std::string& StagedFiles::baseContent(const std::string& path) {
     Read& read = read_[path];
     if (!read.whole)
-        read = {beneath_.read(path), true};
+        read = {base_.read(path), true};
     return read.content;
 }
 
-const std::string& StagedFiles::firstBeneath(const std::string& path, std::size_t limit) {
+const std::string& StagedFiles::firstOfBase(const std::string& path, std::size_t limit) {
     Read& read = read_[path];
     if (!read.whole && read.content.size() < limit) {
-        read.content = beneath_.readFirst(path, limit);
+        read.content = base_.readFirst(path, limit);
         read.whole = read.content.size() < limit;
     }
     return read.content;
@@ -80,11 +80,11 @@ StagedFiles::Staged& StagedFiles::stage(const std::string& path) {
     if (file != staged_.end() && file->second.state != State::Removed)
         return file->second;
     requireInLeague(path);
-    if (folders_.contains(path) || beneath_.isFolder(path))
+    if (folders_.contains(path) || base_.isFolder(path))
         throw FileError::isFolder(path);
     if (!isFolder(folderOf(path)))
         throw FileError::cannotWrite(path, "its folder is missing");
-    return staged_.try_emplace(path, Staged{State::Extended, beneath_.size(path), ""}).first->second;
+    return staged_.try_emplace(path, Staged{State::Extended, base_.size(path), ""}).first->second;
 }
 
 std::string StagedFiles::read(const std::string& path) {
@@ -92,17 +92,17 @@ std::string StagedFiles::read(const std::string& path) {
     if (!file && folders_.contains(path) && isFolder(path))
         throw FileError::isFolder(path);
     if (!file)
-        return beneath(path);
+        return baseContent(path);
     if (file->state == State::Removed)
         throw FileError::missing(path);
     if (file->state == State::Whole || file->length == 0)
         return file->content;
-    return beneath(path).substr(0, file->length) + file->content;
+    return baseContent(path).substr(0, file->length) + file->content;
 }
 
 std::string StagedFiles::readFirst(const std::string& path, std::size_t limit) {
     const bool seenHere = staged_.contains(path) || folders_.contains(path);
-    return (seenHere ? read(path) : firstBeneath(path, limit)).substr(0, limit);
+    return (seenHere ? read(path) : firstOfBase(path, limit)).substr(0, limit);
 }
 
 void StagedFiles::write(const std::string& path, std::string_view content, Durability) {
@@ -129,7 +129,7 @@ void StagedFiles::remove(const std::string& path) {
         throw FileError::isFolder(path);
     if (!isFile(path))
         return;
-    if (beneath_.isFile(path))
+    if (base_.isFile(path))
         staged_[path] = {State::Removed, 0, ""};
     else
         staged_.erase(path);
@@ -139,10 +139,10 @@ void StagedFiles::makeFolder(const std::string& path) {
     requireInLeague(path);
     if (isFolder(path))
         return;
-    if (isFile(path) || beneath_.isFile(path))
+    if (isFile(path) || base_.isFile(path))
         throw FileError::isFile(path);
     makeFolder(folderOf(path));
-    if (beneath_.isFolder(path))
+    if (base_.isFolder(path))
         folders_.erase(path);
     else
         folders_[path] = true;
@@ -156,7 +156,7 @@ void StagedFiles::removeFolder(const std::string& path) {
     }
     if (!filesIn(path).empty() || !foldersIn(path).empty())
         throw FileError::cannotRemove(path, "the folder is not empty");
-    if (beneath_.isFolder(path))
+    if (base_.isFolder(path))
         folders_[path] = false;
     else
         folders_.erase(path);
@@ -164,29 +164,29 @@ void StagedFiles::removeFolder(const std::string& path) {
 
 bool StagedFiles::isFile(const std::string& path) {
     const Staged* file = staged(path);
-    return file ? file->state != State::Removed : beneath_.isFile(path);
+    return file ? file->state != State::Removed : base_.isFile(path);
 }
 
 bool StagedFiles::isFolder(const std::string& path) {
     const auto folder = folders_.find(path);
-    return folder != folders_.end() ? folder->second : beneath_.isFolder(path);
+    return folder != folders_.end() ? folder->second : base_.isFolder(path);
 }
 
 std::uintmax_t StagedFiles::size(const std::string& path) {
     const Staged* file = staged(path);
-    return file ? file->length + file->content.size() : beneath_.size(path);
+    return file ? file->length + file->content.size() : base_.size(path);
 }
 
 std::vector<std::string> StagedFiles::filesIn(const std::string& folder) {
     requireFolder(folder);
-    auto names = beneath_.isFolder(folder) ? beneath_.filesIn(folder) : std::vector<std::string>();
+    auto names = base_.isFolder(folder) ? base_.filesIn(folder) : std::vector<std::string>();
     return overlay(std::move(names), folder, staged_,
                    [](const Staged& file) { return file.state != State::Removed; });
 }
 
 std::vector<std::string> StagedFiles::foldersIn(const std::string& folder) {
     requireFolder(folder);
-    auto names = beneath_.isFolder(folder) ? beneath_.foldersIn(folder) : std::vector<std::string>();
+    auto names = base_.isFolder(folder) ? base_.foldersIn(folder) : std::vector<std::string>();
     return overlay(std::move(names), folder, folders_, [](bool made) { return made; });
 }
 
@@ -196,9 +196,9 @@ void StagedFiles::requireFolder(const std::string& path) {
 }
 
 bool StagedFiles::isUnchanged(const std::string& path, const Staged& file) {
-    if (!beneath_.isFile(path) || beneath_.size(path) != file.length + file.content.size())
+    if (!base_.isFile(path) || base_.size(path) != file.length + file.content.size())
         return false;
-    return file.content.empty() || std::string_view(beneath(path)).substr(file.length) == file.content;
+    return file.content.empty() || std::string_view(baseContent(path)).substr(file.length) == file.content;
 }
 
 std::vector<Change> StagedFiles::changes() {

@@ -25,12 +25,12 @@ struct Change {
 void makeChange(const Change& change, Files& files);
 
 /// The files as one operation sees them: reads see what the operation has written, and nothing reaches the
-/// files beneath. However often an operation touches a file, the file beneath is read at most once and
-/// stands at most once in changes(). Files outside the league folder can be read and not written, and what is
-/// a file beneath cannot become a folder in the same operation, nor a folder a file.
+/// base files. However often an operation touches a file, the base file is read at most once and has at most
+/// one entry in changes(). Files outside the league folder can be read and not written; a base file cannot
+/// become a folder in the same operation, nor a folder a file.
 class StagedFiles : public Files {
 public:
-    explicit StagedFiles(Files& beneath) : beneath_(beneath) {}
+    explicit StagedFiles(Files& base) : base_(base) {}
 
     std::string read(const std::string& path) override;
     std::string readFirst(const std::string& path, std::size_t limit) override;
@@ -47,11 +47,11 @@ public:
     std::vector<std::string> foldersIn(const std::string& folder) override;
     void sync() override {}
 
-    /// What brings the files beneath to the state seen here, in the order in which it must be done. A file
+    /// What brings the base files to the state seen here, in the order in which it must be done. A file
     /// whose content is what it was is left out.
     std::vector<Change> changes();
 
-    /// Forgets everything that was written here, and what was read beneath.
+    /// Forgets everything that was written here, and what was read of the base files.
     void discard();
 
 private:
@@ -60,11 +60,11 @@ private:
     /// What the operation has made of a file.
     struct Staged {
         State state = State::Whole;
-        std::uintmax_t length = 0; ///< Extended: bytes kept of the file beneath
-        std::string content;       ///< Whole: the file. Extended: what stands behind the kept bytes
+        std::uintmax_t length = 0; ///< Extended: bytes kept of the base file
+        std::string content;       ///< Whole: the file. Extended: what follows the kept bytes
     };
 
-    /// What has been read of a file beneath.
+    /// What has been read of a base file.
     struct Read {
         std::string content;
         bool whole = false;
@@ -75,12 +75,12 @@ private:
     /// The entry of a file that is to be written, which must be able to stand at that path.
     Staged& stage(const std::string& path);
 
-    const std::string& beneath(const std::string& path);
-    const std::string& firstBeneath(const std::string& path, std::size_t limit);
+    const std::string& baseContent(const std::string& path);
+    const std::string& firstOfBase(const std::string& path, std::size_t limit);
     bool isUnchanged(const std::string& path, const Staged& file);
     void requireFolder(const std::string& path);
 
-    Files& beneath_;
+    Files& base_;
     std::map<std::string, Staged> staged_;
     std::map<std::string, bool> folders_; ///< made (true) or removed (false) by the operation
     std::map<std::string, Read> read_;

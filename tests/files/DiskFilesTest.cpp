@@ -22,7 +22,7 @@ using testing::IsEmpty;
 
 class DiskFilesTest : public testing::Test {
 protected:
-    /// Names of all that stands in the folder, temporary files too.
+    /// Names of all that is in the folder, temporary files too.
     std::vector<std::string> namesOnDisk() const {
         std::vector<std::string> names;
         for (const auto& entry : fs::directory_iterator(folder.path()))
@@ -37,7 +37,7 @@ protected:
 
 } // namespace
 
-TEST_F(DiskFilesTest, TakesAbsolutePathsAsTheyStand) {
+TEST_F(DiskFilesTest, TakesAbsolutePathsAsGiven) {
     const TemporaryFolder games;
     const std::string game = (games.path() / "1.gs1").generic_string();
     std::ofstream(games.path() / "1.gs1") << "a game";
@@ -59,7 +59,7 @@ TEST_F(DiskFilesTest, HasNamesThatAreNotAscii) {
 
 TEST_F(DiskFilesTest, LeftoverTemporaryFilesDoNoHarm) {
     files.makeFolder("Lee/Records.txt.new~");
-    std::ofstream(folder.path() / "Lee/Streak.txt.new~") << "a longer text that a crash left behind";
+    std::ofstream(folder.path() / "Lee/Streak.txt.new~") << "a longer text that a crash has left";
     EXPECT_THAT(files.filesIn("Lee"), IsEmpty());
     files.write("Lee/Streak.txt", "W1");
     files.write("Lee/Records.txt", "0");

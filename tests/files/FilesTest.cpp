@@ -18,7 +18,7 @@ namespace {
 using testing::ElementsAre;
 using testing::IsEmpty;
 
-/// Files of one kind together with what they stand on. What holds for one kind holds for all.
+/// Files of one kind together with what is under them. What holds for one kind holds for all.
 struct Kind {
     virtual ~Kind() = default;
     virtual Files& files() = 0;
@@ -37,12 +37,12 @@ struct InMemory : Kind {
     MemoryFiles memory;
 };
 
-template <class Beneath>
+template <class Base>
 struct StagedOn : Kind {
     Files& files() override { return staged; }
 
-    Beneath beneath;
-    StagedFiles staged{beneath.files()};
+    Base base;
+    StagedFiles staged{base.files()};
 };
 
 template <class K>
@@ -103,7 +103,7 @@ TEST_P(AllFiles, TellAFileFromOneOfOtherContent) {
     EXPECT_FALSE(files.holds("folder.htm", ""));
 }
 
-TEST_P(AllFiles, ExtendBehindALength) {
+TEST_P(AllFiles, ExtendAfterALength) {
     files.extend("list.txt", 0, "first\n");
     EXPECT_EQ(files.read("list.txt"), "first\n");
     files.append("list.txt", "second\n");

@@ -134,7 +134,7 @@ TEST(JournalTest, ADamagedByteEndsTheJournalThere) {
 }
 
 /// A power cut in a run leaves each file as it was after any of the games, torn or empty; of a list at least
-/// what stood there before the run.
+/// what it held before the run.
 TEST(JournalTest, DoneAgainGivesTheSameFiles) {
     const std::string journal = journalOfRun();
     const std::vector<State> whole = afterAnyNumberOfGames();

@@ -20,28 +20,28 @@ using testing::IsEmpty;
 class StagedFilesTest : public testing::Test {
 protected:
     StagedFilesTest() {
-        beneath.makeFolder("BOS");
-        beneath.makeFolder("MTL");
-        beneath.files = {{"BOS/Records.txt", "0,0"}, {"BoxScores.htm", "game 1\n"}};
+        base.makeFolder("BOS");
+        base.makeFolder("MTL");
+        base.files = {{"BOS/Records.txt", "0,0"}, {"BoxScores.htm", "game 1\n"}};
     }
 
-    MemoryFiles beneath;
-    StagedFiles stagedFiles{beneath};
+    MemoryFiles base;
+    StagedFiles stagedFiles{base};
     Files& files = stagedFiles;
 };
 
 } // namespace
 
-TEST_F(StagedFilesTest, KeepsEverythingFromTheFilesBeneath) {
-    const auto before = beneath.files;
+TEST_F(StagedFilesTest, KeepsEverythingFromTheBaseFiles) {
+    const auto before = base.files;
     files.write("BOS/Records.txt", "1,0");
     files.append("BoxScores.htm", "game 2\n");
     files.makeFolder("QUE");
     files.write("QUE/Records.txt", "0,1");
     files.remove("BoxScores.htm");
     files.removeFolder("MTL");
-    EXPECT_EQ(beneath.files, before);
-    EXPECT_THAT(beneath.folders, ElementsAre("BOS", "MTL"));
+    EXPECT_EQ(base.files, before);
+    EXPECT_THAT(base.folders, ElementsAre("BOS", "MTL"));
 }
 
 TEST_F(StagedFilesTest, NamesEachChangeOnceInAnOrderThatWorks) {
@@ -101,27 +101,27 @@ TEST_F(StagedFilesTest, CutsAnAppendBackToALength) {
     EXPECT_THAT(stagedFiles.changes(), ElementsAre(Change{Kind::Extend, "BoxScores.htm", 4, "s"}));
 }
 
-TEST_F(StagedFilesTest, ReadsEachFileBeneathOnce) {
+TEST_F(StagedFilesTest, ReadsEachBaseFileOnce) {
     for (int game = 2; game < 5; ++game) {
         EXPECT_EQ(files.read("BOS/Records.txt"), game == 2 ? "0,0" : "1,0");
         files.write("BOS/Records.txt", "1,0");
         files.append("BoxScores.htm", "a game\n");
     }
-    EXPECT_EQ(beneath.reads, 1);
+    EXPECT_EQ(base.reads, 1);
     EXPECT_EQ(stagedFiles.changes().size(), 2u);
-    EXPECT_EQ(beneath.reads, 1) << "the record is known, and an append needs nothing of the old list";
+    EXPECT_EQ(base.reads, 1) << "the record is known, and an append needs nothing of the old list";
     EXPECT_EQ(files.read("BoxScores.htm"), "game 1\na game\na game\na game\n");
-    EXPECT_EQ(beneath.reads, 2);
+    EXPECT_EQ(base.reads, 2);
 
     const std::string game = (std::filesystem::temp_directory_path() / "1.gs1").generic_string();
-    beneath.files[game] = std::string(100, 'x');
+    base.files[game] = std::string(100, 'x');
     files.readFirst(game, 64);
     files.readFirst(game, 32);
     EXPECT_EQ(files.readFirst(game, 64).size(), 64u);
-    EXPECT_EQ(beneath.reads, 3);
+    EXPECT_EQ(base.reads, 3);
     EXPECT_EQ(files.read(game).size(), 100u);
     EXPECT_EQ(files.readFirst(game, 99).size(), 99u);
-    EXPECT_EQ(beneath.reads, 4);
+    EXPECT_EQ(base.reads, 4);
 }
 
 TEST_F(StagedFilesTest, ListsWhatTheOperationHasMade) {
@@ -141,7 +141,7 @@ TEST_F(StagedFilesTest, RefusesWhatCouldNotBeCarriedOut) {
     EXPECT_THROW(files.write("/tmp/elsewhere.txt", ""), FileError);
     EXPECT_THROW(files.makeFolder("/tmp/elsewhere"), FileError);
     files.removeFolder("MTL");
-    EXPECT_THROW(files.write("MTL", "a folder beneath"), FileError);
+    EXPECT_THROW(files.write("MTL", "a folder of the base"), FileError);
     EXPECT_THROW(files.write("MTL/Streak.txt", "in a folder that goes"), FileError);
     files.remove("BoxScores.htm");
     EXPECT_THROW(files.makeFolder("BoxScores.htm"), FileError);
@@ -157,7 +157,7 @@ TEST_F(StagedFilesTest, ForgetsEverything) {
     stagedFiles.discard();
     EXPECT_THAT(stagedFiles.changes(), IsEmpty());
     EXPECT_FALSE(files.isFolder("QUE"));
-    beneath.files["BOS/Records.txt"] = "2,0";
+    base.files["BOS/Records.txt"] = "2,0";
     EXPECT_EQ(files.read("BOS/Records.txt"), "2,0");
 }
 

@@ -26,7 +26,7 @@ bool FailingFiles::failsNow() {
 Files& FailingFiles::use(const std::string& path) {
     if (failsNow())
         fail(path);
-    return beneath_;
+    return base_;
 }
 
 std::string FailingFiles::read(const std::string& path) {
@@ -45,10 +45,10 @@ void FailingFiles::extend(const std::string& path, std::uintmax_t length, std::s
                           Durability durability) {
     if (failsNow()) {
         if (failure_ == Failure::Crash && uses_ == failAt_)
-            beneath_.extend(path, length, content.substr(0, content.size() / 2), durability);
+            base_.extend(path, length, content.substr(0, content.size() / 2), durability);
         fail(path);
     }
-    beneath_.extend(path, length, content, durability);
+    base_.extend(path, length, content, durability);
 }
 
 void FailingFiles::remove(const std::string& path) {

@@ -6,11 +6,11 @@
 
 namespace iceline::test {
 
-/// Files that fail: the n-th use of the files beneath throws FileError ("the disk fails for the test").
+/// Files that fail: the n-th use of the base files throws FileError ("the disk fails for the test").
 ///
 /// Every function of Files counts as one use, the questions isFile(), isFolder() and size() too, since each
 /// of them asks the disk. Of what fails nothing is done; but an extend() in a crash leaves the first half of
-/// its content behind the length, as a power cut would.
+/// its content after the length, as a power cut would.
 class FailingFiles : public Files {
 public:
     enum class Failure {
@@ -18,9 +18,9 @@ public:
         Crash, ///< the n-th use fails and all later ones too
     };
 
-    explicit FailingFiles(Files& beneath) : beneath_(beneath) {}
+    explicit FailingFiles(Files& base) : base_(base) {}
 
-    /// Lets the `n`-th use from now on fail (1 is the next one) and begins to count anew.
+    /// Lets the `n`-th use from now on fail (1 is the next one) and begins to count again.
     void failAt(int n, Failure failure);
 
     /// Uses since the beginning or since failAt().
@@ -49,7 +49,7 @@ private:
     bool failsNow();
     Files& use(const std::string& path);
 
-    Files& beneath_;
+    Files& base_;
     int uses_ = 0;
     int failAt_ = 0; ///< 0: never
     Failure failure_ = Failure::Once;
