@@ -2,6 +2,7 @@
 
 #include <array>
 #include <cerrno>
+#include <cstdio>
 #include <fcntl.h>
 #include <sys/file.h>
 #include <sys/stat.h>
@@ -20,7 +21,7 @@ int flagsFor(Purpose purpose) {
     case Purpose::Change:
         break;
     }
-    return O_RDWR | O_CREAT;
+    return O_RDWR | O_CREAT | O_NOFOLLOW;
 }
 
 int failed(int handle, int reason) {
@@ -42,7 +43,7 @@ bool syncNamed(const std::filesystem::path& path, int (*call)(int)) {
 
 } // namespace
 
-int open(const std::filesystem::path& path, Purpose purpose) {
+int Calls::open(const std::filesystem::path& path, Purpose purpose) {
     const int handle = ::open(path.c_str(), flagsFor(purpose) | O_CLOEXEC, 0666);
     if (handle < 0 || purpose != Purpose::Read)
         return handle;
@@ -54,29 +55,29 @@ int open(const std::filesystem::path& path, Purpose purpose) {
     return S_ISREG(status.st_mode) ? handle : failed(handle, ENOTSUP);
 }
 
-bool close(int handle) {
+bool Calls::close(int handle) {
     return ::close(handle) == 0;
 }
 
-std::ptrdiff_t read(int handle, char* bytes, std::size_t size) {
+std::ptrdiff_t Calls::read(int handle, char* bytes, std::size_t size) {
     return ::read(handle, bytes, size);
 }
 
-std::ptrdiff_t write(int handle, const char* bytes, std::size_t size) {
+std::ptrdiff_t Calls::write(int handle, const char* bytes, std::size_t size) {
     return ::write(handle, bytes, size);
 }
 
-std::intmax_t size(int handle) {
+std::intmax_t Calls::size(int handle) {
     struct stat status = {};
     return ::fstat(handle, &status) == 0 ? status.st_size : -1;
 }
 
-bool cut(int handle, std::uintmax_t length) {
+bool Calls::cut(int handle, std::uintmax_t length) {
     const auto offset = static_cast<off_t>(length);
     return ::ftruncate(handle, offset) == 0 && ::lseek(handle, offset, SEEK_SET) == offset;
 }
 
-bool takePermissions(int handle, const std::filesystem::path& replaced) {
+bool Calls::takePermissions(int handle, const std::filesystem::path& replaced) {
     struct stat status = {};
     if (::stat(replaced.c_str(), &status) != 0)
         return true;
@@ -84,33 +85,46 @@ bool takePermissions(int handle, const std::filesystem::path& replaced) {
            ::fchmod(handle, status.st_mode & 0777) == 0;
 }
 
-bool rename(const std::filesystem::path& file, const std::filesystem::path& name) {
+bool Calls::rename(const std::filesystem::path& file, const std::filesystem::path& name) {
     return ::rename(file.c_str(), name.c_str()) == 0;
 }
 
-bool lock(int handle) {
+bool Calls::remove(const std::filesystem::path& path) {
+    return ::remove(path.c_str()) == 0;
+}
+
+bool Calls::makeFolder(const std::filesystem::path& folder) {
+    return ::mkdir(folder.c_str(), 0777) == 0;
+}
+
+bool Calls::lock(int handle) {
     return ::flock(handle, LOCK_EX | LOCK_NB) == 0;
 }
 
-bool sync(int handle) {
+bool Calls::sync(int handle) {
     return ::fsync(handle) == 0;
 }
 
-bool syncFile(const std::filesystem::path& file) {
+bool Calls::syncFile(const std::filesystem::path& file) {
     return syncNamed(file, ::fsync);
 }
 
-bool syncFolder(const std::filesystem::path& folder) {
+bool Calls::syncFolder(const std::filesystem::path& folder) {
     return syncNamed(folder, ::fsync);
 }
 
-bool syncDiskOf(const std::filesystem::path& folder) {
+bool Calls::syncDiskOf(const std::filesystem::path& folder) {
 #ifdef __linux__
     return syncNamed(folder, ::syncfs);
 #else
     errno = folder.empty() ? EINVAL : ENOSYS;
     return false;
 #endif
+}
+
+Calls& systemCalls() {
+    static Calls calls;
+    return calls;
 }
 
 int processId() {

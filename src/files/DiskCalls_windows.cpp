@@ -4,6 +4,7 @@
 #include <array>
 #include <cerrno>
 #include <climits>
+#include <direct.h>
 #include <fcntl.h>
 #include <io.h>
 #include <process.h>
@@ -49,8 +50,13 @@ bool whenFree(const std::filesystem::path& file, Attempt attempt) {
 
 } // namespace
 
-int open(const std::filesystem::path& path, Purpose purpose) {
+int Calls::open(const std::filesystem::path& path, Purpose purpose) {
     const int flags = flagsFor(purpose) | _O_BINARY | _O_NOINHERIT;
+    std::error_code ignored;
+    if (purpose == Purpose::Change && std::filesystem::is_symlink(path, ignored)) {
+        errno = ELOOP;
+        return -1;
+    }
     int handle = -1;
     whenFree(path, [&] {
         handle = _wsopen(path.c_str(), flags, _SH_DENYNO, _S_IREAD | _S_IWRITE);
@@ -59,33 +65,33 @@ int open(const std::filesystem::path& path, Purpose purpose) {
     return handle;
 }
 
-bool close(int handle) {
+bool Calls::close(int handle) {
     return _close(handle) == 0;
 }
 
-std::ptrdiff_t read(int handle, char* bytes, std::size_t size) {
+std::ptrdiff_t Calls::read(int handle, char* bytes, std::size_t size) {
     return _read(handle, bytes, portion(size));
 }
 
-std::ptrdiff_t write(int handle, const char* bytes, std::size_t size) {
+std::ptrdiff_t Calls::write(int handle, const char* bytes, std::size_t size) {
     return _write(handle, bytes, portion(size));
 }
 
-std::intmax_t size(int handle) {
+std::intmax_t Calls::size(int handle) {
     return _filelengthi64(handle);
 }
 
-bool cut(int handle, std::uintmax_t length) {
+bool Calls::cut(int handle, std::uintmax_t length) {
     const auto offset = static_cast<long long>(length);
     return _chsize_s(handle, offset) == 0 && _lseeki64(handle, offset, SEEK_SET) == offset;
 }
 
 // A file takes its permissions from its folder here, and one that is marked read-only is not replaced.
-bool takePermissions(int, const std::filesystem::path&) {
+bool Calls::takePermissions(int, const std::filesystem::path&) {
     return true;
 }
 
-bool rename(const std::filesystem::path& file, const std::filesystem::path& name) {
+bool Calls::rename(const std::filesystem::path& file, const std::filesystem::path& name) {
     return whenFree(name, [&] {
         std::error_code error;
         std::filesystem::rename(file, name, error);
@@ -94,8 +100,21 @@ bool rename(const std::filesystem::path& file, const std::filesystem::path& name
     });
 }
 
+bool Calls::remove(const std::filesystem::path& path) {
+    return whenFree(path, [&] {
+        std::error_code error;
+        std::filesystem::remove(path, error);
+        errno = error.default_error_condition().value();
+        return !error;
+    });
+}
+
+bool Calls::makeFolder(const std::filesystem::path& folder) {
+    return _wmkdir(folder.c_str()) == 0;
+}
+
 // The locked byte lies far after the text of a lock file, which others may therefore read.
-bool lock(int handle) {
+bool Calls::lock(int handle) {
     OVERLAPPED place = {};
     place.Offset = 0x7fffffff;
     if (LockFileEx(reinterpret_cast<HANDLE>(_get_osfhandle(handle)),
@@ -105,11 +124,11 @@ bool lock(int handle) {
     return false;
 }
 
-bool sync(int handle) {
+bool Calls::sync(int handle) {
     return _commit(handle) == 0;
 }
 
-bool syncFile(const std::filesystem::path& file) {
+bool Calls::syncFile(const std::filesystem::path& file) {
     const int handle = _wopen(file.c_str(), _O_RDWR | _O_BINARY);
     if (handle < 0)
         return false;
@@ -118,13 +137,18 @@ bool syncFile(const std::filesystem::path& file) {
 }
 
 // The file system keeps its names by a journal of its own; a folder cannot be synced.
-bool syncFolder(const std::filesystem::path&) {
+bool Calls::syncFolder(const std::filesystem::path&) {
     return true;
 }
 
-bool syncDiskOf(const std::filesystem::path&) {
+bool Calls::syncDiskOf(const std::filesystem::path&) {
     errno = ENOSYS;
     return false;
+}
+
+Calls& systemCalls() {
+    static Calls calls;
+    return calls;
 }
 
 int processId() {

@@ -48,14 +48,14 @@ auto at(const fs::path& root, const std::string& path, const Task& task, Action 
 
 /// A file is written beside its place and then moved there, so that nobody finds a part of it. One that is
 /// new and need not outlast a power cut goes into its place at once, since nothing can be lost there.
-void replaceFile(const fs::path& file, std::string_view content, Durability durability) {
+void replaceFile(disk::Calls& calls, const fs::path& file, std::string_view content, Durability durability) {
     const bool synced = durability == Durability::Now;
     const bool inPlace = durability == Durability::Unsynced && !fs::exists(fs::symlink_status(file));
     fs::path fresh = file;
     if (!inPlace)
         fresh += DiskFiles::TemporarySuffix;
     try {
-        OpenFile out(fresh, Purpose::Create);
+        OpenFile out(calls, fresh, Purpose::Create);
         if (!inPlace)
             out.takePermissions(file);
         out.write(content);
@@ -63,14 +63,13 @@ void replaceFile(const fs::path& file, std::string_view content, Durability dura
             out.sync();
         out.close();
         if (!inPlace)
-            disk::require(disk::rename(fresh, file));
+            disk::require(calls.rename(fresh, file));
     } catch (const std::system_error&) {
-        std::error_code ignored;
-        fs::remove(fresh, ignored);
+        calls.remove(fresh);
         throw;
     }
     if (synced)
-        disk::require(disk::syncFolder(file.parent_path()));
+        disk::require(calls.syncFolder(file.parent_path()));
 }
 
 void appendAt(OpenFile& file, std::uintmax_t length, std::string_view content, bool synced) {
@@ -110,7 +109,9 @@ void requireSynced(bool synced) {
 
 } // namespace
 
-DiskFiles::DiskFiles(fs::path root) : root_(std::move(root)) {}
+DiskFiles::DiskFiles(fs::path root) : DiskFiles(std::move(root), disk::systemCalls()) {}
+
+DiskFiles::DiskFiles(fs::path root, disk::Calls& calls) : root_(std::move(root)), calls_(calls) {}
 
 std::string DiskFiles::read(const std::string& path) {
     return readFirst(path, std::numeric_limits<std::size_t>::max());
@@ -118,19 +119,19 @@ std::string DiskFiles::read(const std::string& path) {
 
 std::string DiskFiles::readFirst(const std::string& path, std::size_t limit) {
     return at(root_, path, Reading,
-              [&](const fs::path& file) { return OpenFile(file, Purpose::Read).read(limit); });
+              [&](const fs::path& file) { return OpenFile(calls_, file, Purpose::Read).read(limit); });
 }
 
 bool DiskFiles::holds(const std::string& path, std::string_view content) {
     return at(root_, path, Reading, [&](const fs::path& place) {
-        const int handle = disk::open(place, Purpose::Read);
-        return handle >= 0 && OpenFile(handle).holds(content);
+        const int handle = calls_.open(place, Purpose::Read);
+        return handle >= 0 && OpenFile(calls_, handle).holds(content);
     });
 }
 
 void DiskFiles::write(const std::string& path, std::string_view content, Durability durability) {
     at(root_, path, Writing, [&](const fs::path& file) {
-        replaceFile(file, content, durability);
+        replaceFile(calls_, file, content, durability);
         if (durability != Durability::Later)
             return;
         unsyncedFiles_.insert(file.native());
@@ -142,7 +143,7 @@ void DiskFiles::extend(const std::string& path, std::uintmax_t length, std::stri
                        Durability durability) {
     at(root_, path, Writing, [&](const fs::path& file) {
         const bool isNew = !fs::exists(file);
-        OpenFile out(file, Purpose::Change);
+        OpenFile out(calls_, file, Purpose::Change);
         appendAt(out, std::min(length, out.size()), content, durability == Durability::Now);
         out.close();
         if (durability == Durability::Later)
@@ -150,7 +151,7 @@ void DiskFiles::extend(const std::string& path, std::uintmax_t length, std::stri
         if (isNew && durability == Durability::Later)
             unsyncedFolders_.insert(file.parent_path().native());
         if (isNew && durability == Durability::Now)
-            disk::require(disk::syncFolder(file.parent_path()));
+            disk::require(calls_.syncFolder(file.parent_path()));
     });
 }
 
@@ -158,19 +159,21 @@ void DiskFiles::remove(const std::string& path) {
     at(root_, path, Removing, [&](const fs::path& file) {
         if (fs::is_directory(file))
             throw std::system_error(std::make_error_code(std::errc::is_a_directory));
-        if (fs::remove(file))
-            unsyncedFolders_.insert(file.parent_path().native());
+        if (!fs::exists(fs::symlink_status(file)))
+            return;
+        disk::require(calls_.remove(file));
+        unsyncedFolders_.insert(file.parent_path().native());
     });
 }
 
 void DiskFiles::makeFolder(const std::string& path) {
     at(root_, path, MakingFolder, [&](const fs::path& folder) {
-        if (!fs::create_directories(folder))
-            return;
-        unsyncedFolders_.insert(folder.native());
-        for (fs::path above = folder; above != root_ && above != above.parent_path();) {
-            above = above.parent_path();
-            unsyncedFolders_.insert(above.native());
+        std::vector<fs::path> missing;
+        for (fs::path above = folder; !fs::is_directory(above); above = above.parent_path())
+            missing.push_back(above);
+        for (; !missing.empty(); missing.pop_back()) {
+            disk::require(calls_.makeFolder(missing.back()));
+            unsyncedFolders_.insert(missing.back().parent_path().native());
         }
     });
 }
@@ -181,11 +184,11 @@ void DiskFiles::removeFolder(const std::string& path) {
             return;
         for (const std::string& name : namesIn(folder, fs::file_type::regular))
             if (isTemporary(name))
-                fs::remove(folder / toNative(name));
+                disk::require(calls_.remove(folder / toNative(name)));
         // Windows' own refusal is lost: the library then tries to remove the folder as a file.
         if (!fs::is_empty(folder))
             throw std::system_error(std::make_error_code(std::errc::directory_not_empty));
-        fs::remove(folder);
+        disk::require(calls_.remove(folder));
         unsyncedFolders_.insert(folder.parent_path().native());
     });
 }
@@ -224,13 +227,13 @@ std::vector<std::string> DiskFiles::foldersIn(const std::string& folder) {
 void DiskFiles::sync() {
     at(root_, "", Syncing, [&](const fs::path& root) {
         const bool many = unsyncedFiles_.size() + unsyncedFolders_.size() >= SyncWholeDiskFrom;
-        const bool wholeDisk = many && disk::syncDiskOf(root);
+        const bool wholeDisk = many && calls_.syncDiskOf(root);
         disk::require(wholeDisk || !many || errno == ENOSYS);
         if (!wholeDisk) {
             for (const NativePath& file : unsyncedFiles_)
-                requireSynced(disk::syncFile(file));
+                requireSynced(calls_.syncFile(file));
             for (const NativePath& folder : unsyncedFolders_)
-                requireSynced(disk::syncFolder(folder));
+                requireSynced(calls_.syncFolder(folder));
         }
     });
     unsyncedFiles_.clear();

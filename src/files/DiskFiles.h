@@ -7,6 +7,10 @@
 
 namespace iceline {
 
+namespace disk {
+class Calls;
+}
+
 /// The files of the disk, under one folder.
 ///
 /// A file is replaced by writing a temporary file beside it, checking every write, syncing it
@@ -20,6 +24,7 @@ public:
 
     /// `root` is the league folder.
     explicit DiskFiles(std::filesystem::path root);
+    DiskFiles(std::filesystem::path root, disk::Calls& calls);
 
     std::string read(const std::string& path) override;
     std::string readFirst(const std::string& path, std::size_t limit) override;
@@ -43,6 +48,7 @@ private:
     using NativePath = std::filesystem::path::string_type;
 
     std::filesystem::path root_;
+    disk::Calls& calls_;
     std::unordered_set<NativePath> unsyncedFiles_;   ///< files changed with Durability::Later
     std::unordered_set<NativePath> unsyncedFolders_; ///< folders in which a name has come or gone since
 };

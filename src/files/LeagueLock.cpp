@@ -37,7 +37,8 @@ std::string readHolder(disk::OpenFile& file) {
 } // namespace
 
 struct LeagueLock::Handle {
-    explicit Handle(const std::filesystem::path& path) : file(path, disk::Purpose::Change) {}
+    explicit Handle(const std::filesystem::path& path)
+        : file(disk::systemCalls(), path, disk::Purpose::Change) {}
 
     disk::OpenFile file;
 };

@@ -13,28 +13,29 @@ void require(bool done) {
         throw std::system_error(errno, std::generic_category());
 }
 
-OpenFile::OpenFile(const std::filesystem::path& path, Purpose purpose) : handle_(open(path, purpose)) {
+OpenFile::OpenFile(Calls& calls, const std::filesystem::path& path, Purpose purpose)
+    : calls_(calls), handle_(calls.open(path, purpose)) {
     if (handle_ < 0 && errno == EEXIST && purpose == Purpose::Create) {
-        std::filesystem::remove(path);
-        handle_ = open(path, purpose);
+        require(calls_.remove(path));
+        handle_ = calls_.open(path, purpose);
     }
     require(handle_ >= 0);
 }
 
 OpenFile::~OpenFile() {
     if (handle_ >= 0)
-        disk::close(handle_);
+        calls_.close(handle_);
 }
 
 std::uintmax_t OpenFile::size() const {
-    const std::intmax_t size = disk::size(handle_);
+    const std::intmax_t size = calls_.size(handle_);
     require(size >= 0);
     return static_cast<std::uintmax_t>(size);
 }
 
 std::size_t OpenFile::readSome(char* bytes, std::size_t size) {
     for (;;) {
-        const std::ptrdiff_t count = disk::read(handle_, bytes, size);
+        const std::ptrdiff_t count = calls_.read(handle_, bytes, size);
         if (count < 0 && errno == EINTR)
             continue;
         require(count >= 0);
@@ -69,7 +70,7 @@ bool OpenFile::holds(std::string_view content) {
 
 void OpenFile::write(std::string_view content) {
     while (!content.empty()) {
-        const std::ptrdiff_t count = disk::write(handle_, content.data(), content.size());
+        const std::ptrdiff_t count = calls_.write(handle_, content.data(), content.size());
         if (count < 0 && errno == EINTR)
             continue;
         require(count >= 0);
@@ -82,26 +83,26 @@ void OpenFile::cut(std::uintmax_t length) {
 }
 
 bool OpenFile::tryToCut(std::uintmax_t length) noexcept {
-    return disk::cut(handle_, length);
+    return calls_.cut(handle_, length);
 }
 
 void OpenFile::takePermissions(const std::filesystem::path& replaced) {
-    require(disk::takePermissions(handle_, replaced));
+    require(calls_.takePermissions(handle_, replaced));
 }
 
 void OpenFile::sync() {
-    require(disk::sync(handle_));
+    require(calls_.sync(handle_));
 }
 
 bool OpenFile::lock() {
-    if (disk::lock(handle_))
+    if (calls_.lock(handle_))
         return true;
     require(errno == EWOULDBLOCK);
     return false;
 }
 
 void OpenFile::close() {
-    require(disk::close(std::exchange(handle_, -1)));
+    require(calls_.close(std::exchange(handle_, -1)));
 }
 
 } // namespace iceline::disk

@@ -14,10 +14,10 @@ namespace iceline::disk {
 class OpenFile {
 public:
     /// With Purpose::Create, what is in the file's place is removed first.
-    OpenFile(const std::filesystem::path& path, Purpose purpose);
+    OpenFile(Calls& calls, const std::filesystem::path& path, Purpose purpose);
 
-    /// Takes over what disk::open() has given.
-    explicit OpenFile(int handle) : handle_(handle) {}
+    /// Takes over what Calls::open() has given.
+    OpenFile(Calls& calls, int handle) : calls_(calls), handle_(handle) {}
 
     ~OpenFile();
     OpenFile(const OpenFile&) = delete;
@@ -51,6 +51,7 @@ private:
     /// Reads up to `size` bytes, 0 at the end of the file.
     std::size_t readSome(char* bytes, std::size_t size);
 
+    Calls& calls_;
     int handle_;
 };
 
