@@ -1,7 +1,7 @@
 #include "cli/Commands.h"
 
 #include "cli/Command.h"
-#include "files/FileError.h"
+#include "shell/ErrorText.h"
 
 #include <algorithm>
 
@@ -109,7 +109,7 @@ int run(const std::vector<std::string>& arguments, Console console) {
         report(console, error.what());
         status = Status::Misused;
     } catch (const std::exception& error) {
-        report(console, error.what());
+        report(console, errorText(error));
         status = Status::Refused;
     }
     console.out.flush();

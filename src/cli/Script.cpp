@@ -1,7 +1,7 @@
 #include "cli/Script.h"
 
 #include "cli/Command.h"
-#include "files/FileError.h"
+#include "shell/ErrorText.h"
 
 #include <algorithm>
 #include <sstream>
@@ -25,7 +25,7 @@ Status carryOutLine(const std::string& line, Session& session) {
     return call.action ? call.action(session) : Status::Done;
 }
 
-/// Goes on after what is refused and after what is misused; a file error ends it, since nobody knows what the
+/// Goes on after what is refused and after what is misused; an error ends it, since nobody knows what the
 /// next commands would find.
 Status carryOutLines(std::istream& lines, const std::string& name, Session& session) {
     Status worst = Status::Done;
@@ -37,8 +37,8 @@ Status carryOutLines(std::istream& lines, const std::string& name, Session& sess
         } catch (const UsageError& error) {
             report(session.console(), place + error.what());
             worst = Status::Misused;
-        } catch (const FileError& error) {
-            report(session.console(), place + error.what());
+        } catch (const std::exception& error) {
+            report(session.console(), place + errorText(error));
             return std::max(worst, Status::Refused);
         }
     }

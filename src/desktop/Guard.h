@@ -1,22 +1,22 @@
 #pragma once
 
-#include "files/FileError.h"
+#include <exception>
 
 class QWidget;
 
 namespace iceline::desktop {
 
-/// Tells the user what went wrong with a file.
-void showFileError(QWidget* parent, const FileError& error);
+/// Tells the user what went wrong.
+void showError(QWidget* parent, const std::exception& error);
 
-/// The edge of an operation: runs it, and shows a file error as a message. False when there was one.
+/// The edge of an operation: runs it, and shows an error as a message. False when there was one.
 template <class Procedure>
 bool guarded(QWidget* parent, Procedure procedure) {
     try {
         procedure();
         return true;
-    } catch (const FileError& error) {
-        showFileError(parent, error);
+    } catch (const std::exception& error) {
+        showError(parent, error);
         return false;
     }
 }
