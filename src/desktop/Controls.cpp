@@ -9,6 +9,8 @@
 #include <QScreen>
 #include <QStyle>
 
+#include <stdexcept>
+
 namespace iceline::desktop {
 
 namespace {
@@ -20,6 +22,10 @@ QLabel* label(const QString& objectName, const char* role, Qt::Alignment alignme
     made->setProperty("role", QLatin1String(role));
     made->setAlignment(alignment);
     return made;
+}
+
+std::out_of_range noLabel(std::string_view name) {
+    return std::out_of_range("the window has no label '" + std::string(name) + "'");
 }
 
 } // namespace
@@ -107,8 +113,27 @@ void setText(const std::vector<QLabel*>& labels, std::size_t row, std::string_vi
     labels.at(row)->setText(toQt(text));
 }
 
+QLabel* NamedLabels::add(QLabel* label) {
+    labels_[fromQt(label->objectName())] = label;
+    return label;
+}
+
+QLabel& NamedLabels::operator[](std::string_view name) const {
+    const auto found = labels_.find(name);
+    if (found == labels_.end())
+        throw noLabel(name);
+    return *found->second;
+}
+
+void setText(const NamedLabels& labels, std::string_view name, std::string_view text) {
+    labels[name].setText(toQt(text));
+}
+
 void setText(QWidget* window, const char* objectName, std::string_view text) {
-    window->findChild<QLabel*>(QLatin1String(objectName))->setText(toQt(text));
+    auto* label = window->findChild<QLabel*>(QLatin1String(objectName));
+    if (!label)
+        throw noLabel(objectName);
+    label->setText(toQt(text));
 }
 
 void centreOnScreen(QWidget& window) {

@@ -6,6 +6,7 @@
 #include <QPushButton>
 #include <QString>
 
+#include <map>
 #include <string_view>
 #include <vector>
 
@@ -66,7 +67,24 @@ private:
 /// The element of a control array that shows text in a row of a table.
 void setText(const std::vector<QLabel*>& labels, std::size_t row, std::string_view text);
 
-/// Shows text in a label found by its object name within `window`.
+/// The labels of a window by their given names, for content that says which control shows which figure. A
+/// label that only one place of the window uses is better a member of its own.
+class NamedLabels {
+public:
+    /// Keeps a label under its object name, and returns it.
+    QLabel* add(QLabel* label);
+
+    /// Throws std::out_of_range, with a message that gives the name, when no label has that name.
+    QLabel& operator[](std::string_view name) const;
+
+private:
+    std::map<std::string, QLabel*, std::less<>> labels_;
+};
+
+/// Shows text in the label of that name among `labels`. Throws as NamedLabels does.
+void setText(const NamedLabels& labels, std::string_view name, std::string_view text);
+
+/// Shows text in a label found by its object name within `window`. Throws as NamedLabels does.
 void setText(QWidget* window, const char* objectName, std::string_view text);
 
 /// Moves a window to the middle of the screen, and makes it no larger than that.
