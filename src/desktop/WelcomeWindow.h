@@ -1,7 +1,7 @@
 #pragma once
 
-#include "desktop/Desk.h"
 #include "desktop/PreviewServer.h"
+#include "desktop/WindowManager.h"
 
 #include <QTimer>
 #include <QWidget>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "desktop/Desk.h"
+#include "desktop/WindowManager.h"
 #include "support/TestLeague.h"
 
 #include <QAbstractButton>

@@ -1,4 +1,4 @@
-#include "desktop/Desk.h"
+#include "desktop/WindowManager.h"
 
 #include "app/WelcomeWindow.h"
 #include "desktop/Controls.h"
