@@ -19,7 +19,7 @@
 namespace iceline::desktop {
 
 WelcomeWindow::WelcomeWindow(Application& application, PreviewServer& preview)
-    : app_(application), preview_(preview), desk_(application) {
+    : app_(application), preview_(preview), windows_(application) {
     setObjectName(QStringLiteral("WelcomeWindow"));
     setWindowTitle(QStringLiteral("Welcome to the Iceline Scorebook 3.0 - Rinkstar Version"));
     setWindowIcon(QIcon(pictures::named("iceline")));
@@ -74,7 +74,7 @@ QListWidget* WelcomeWindow::makeCatalogue() {
 
 void WelcomeWindow::openRow(QListWidgetItem* row) {
     const auto id = static_cast<WindowId>(row->data(Qt::UserRole).toInt());
-    guarded(this, [this, id] { desk_.open(id); });
+    guarded(this, [this, id] { windows_.open(id); });
 }
 
 void WelcomeWindow::previewSite() {

@@ -20,8 +20,6 @@ class WelcomeWindow : public QWidget {
 public:
     WelcomeWindow(Application& application, PreviewServer& preview);
 
-    Desk& desk() { return desk_; }
-
     /// Starts to wait for the end of the splash window; `shown` runs when the main window shows.
     void waitForSplash(std::function<void()> shown);
 
@@ -40,7 +38,7 @@ private:
 
     Application& app_;
     PreviewServer& preview_;
-    Desk desk_;
+    WindowManager windows_;
     QTimer timer1_;
 };
 

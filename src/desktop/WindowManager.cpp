@@ -6,17 +6,17 @@
 
 namespace iceline::desktop {
 
-Desk::Desk(Application& application) : app_(application) {
+WindowManager::WindowManager(Application& application) : app_(application) {
     app_.windows().onUnload = [this](WindowId id) { close(id); };
 }
 
-Desk::~Desk() {
+WindowManager::~WindowManager() {
     app_.windows().onUnload = nullptr;
     for (const QPointer<LeagueWindow>& window : windows_)
         delete window;
 }
 
-void Desk::open(WindowId id) {
+void WindowManager::open(WindowId id) {
     Window& object = WelcomeWindow(app_).List1_Click(id);
     QPointer<LeagueWindow>& window = windows_[static_cast<std::size_t>(id)];
     if (!window) {
@@ -30,7 +30,7 @@ void Desk::open(WindowId id) {
     window->activateWindow();
 }
 
-void Desk::close(WindowId id) {
+void WindowManager::close(WindowId id) {
     QPointer<LeagueWindow>& window = windows_[static_cast<std::size_t>(id)];
     if (!window)
         return;

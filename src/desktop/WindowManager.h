@@ -3,7 +3,6 @@
 #include "desktop/LeagueWindow.h"
 #include "shell/Application.h"
 
-#include <QObject>
 #include <QPointer>
 
 #include <array>
@@ -12,12 +11,12 @@ namespace iceline::desktop {
 
 /// Shows the window objects: keeps a window for each that is open, and takes it away when the object is
 /// unloaded.
-class Desk : public QObject {
-    Q_OBJECT
-
+class WindowManager {
 public:
-    explicit Desk(Application& application);
-    ~Desk() override;
+    explicit WindowManager(Application& application);
+    ~WindowManager();
+    WindowManager(const WindowManager&) = delete;
+    WindowManager& operator=(const WindowManager&) = delete;
 
     /// Opens the window of a row, or brings it to the front.
     void open(WindowId id);

@@ -14,8 +14,8 @@ namespace iceline::desktop {
 class DesktopTest : public testing::Test {
 protected:
     LeagueWindow& open(WindowId id) {
-        desk.open(id);
-        return *desk.window(id);
+        windows.open(id);
+        return *windows.window(id);
     }
 
     /// The control of that object name; the test fails when there is none of the kind.
@@ -43,7 +43,7 @@ protected:
     }
 
     test::TestLeague league;
-    Desk desk{league.app};
+    WindowManager windows{league.app};
 };
 
 } // namespace iceline::desktop

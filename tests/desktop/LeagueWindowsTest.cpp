@@ -35,7 +35,7 @@ TEST_F(LeagueWindowsTest, EveryRowOfTheCatalogueOpensAndClosesItsWindow) {
         EXPECT_TRUE(window.isVisible()) << row.entry;
         window.close();
         EXPECT_FALSE(league.app.windows().isLoaded(row.id)) << row.entry;
-        EXPECT_EQ(desk.window(row.id), nullptr) << row.entry;
+        EXPECT_EQ(windows.window(row.id), nullptr) << row.entry;
     }
 }
 

@@ -124,7 +124,7 @@ TEST_F(StandingsWindowTest, OpenedAgainItIsUpToDateAndExitUnloadsIt) {
     EXPECT_EQ(banner(window, "Northeast(0)"), "Boston Bruins");
     click(window, "Command2");
     EXPECT_FALSE(league.app.windows().isLoaded(WindowId::Standings));
-    EXPECT_EQ(desk.window(WindowId::Standings), nullptr);
+    EXPECT_EQ(windows.window(WindowId::Standings), nullptr);
 }
 
 } // namespace
