@@ -28,7 +28,7 @@ std::unique_ptr<Window> make(Application& app) {
     return std::make_unique<Object>(app, Part);
 }
 
-constexpr std::array<CatalogueRow, WindowCount> Catalogue{{
+constexpr WindowTable<CatalogueRow> Catalogue{{
     {WindowId::StatExtractor, "Stat Extractor", "StatExtractor", make<StatExtractor>},
     {WindowId::PlayerStats, "Player Stats", "PlayerStats", make<PlayerStats, PartOfYear::Season>},
     {WindowId::TeamStats, "Team Stats", "TeamStats", make<TeamStats, PartOfYear::Season>},
@@ -51,13 +51,7 @@ constexpr std::array<CatalogueRow, WindowCount> Catalogue{{
     {WindowId::Options, "Options", "Options", make<Options>},
 }};
 
-constexpr bool isInOrder() {
-    for (std::size_t i = 0; i < Catalogue.size(); ++i)
-        if (static_cast<std::size_t>(Catalogue[i].id) != i)
-            return false;
-    return true;
-}
-static_assert(isInOrder(), "a window is found by its place");
+static_assert(isComplete(Catalogue));
 
 } // namespace
 
@@ -66,7 +60,7 @@ WindowCatalogue windowCatalogue() {
 }
 
 const CatalogueRow& catalogueRow(WindowId id) {
-    return Catalogue[static_cast<std::size_t>(id)];
+    return rowOf(Catalogue, id);
 }
 
 std::optional<WindowId> windowByName(std::string_view name) {

@@ -11,8 +11,6 @@
 #include "standings/Standings.h"
 #include "teams/TeamStats.h"
 
-#include <algorithm>
-
 namespace iceline::cli {
 
 namespace {
@@ -28,30 +26,29 @@ struct Row {
     WindowPrinter print;
 };
 
-constexpr Row Printers[] = {
-    {WindowId::Rankings, printAs<Rankings, printRankings>},
-    {WindowId::PlayoffRankings, printAs<Rankings, printRankings>},
+constexpr WindowTable<Row> Printers{{
     {WindowId::StatExtractor, printAs<StatExtractor, printStatExtractor>},
     {WindowId::PlayerStats, printAs<PlayerStats, printPlayerStats>},
-    {WindowId::PlayoffPlayerStats, printAs<PlayerStats, printPlayerStats>},
     {WindowId::TeamStats, printAs<TeamStats, printTeamStats>},
-    {WindowId::PlayoffTeamStats, printAs<TeamStats, printTeamStats>},
+    {WindowId::Standings, printAs<Standings, printStandings>},
+    {WindowId::Rankings, printAs<Rankings, printRankings>},
     {WindowId::PlayerProfiles, printAs<PlayerProfiles, printPlayerProfiles>},
+    {WindowId::Playoffs, printAs<Playoffs, printPlayoffs>},
+    {WindowId::PlayoffPlayerStats, printAs<PlayerStats, printPlayerStats>},
+    {WindowId::PlayoffTeamStats, printAs<TeamStats, printTeamStats>},
+    {WindowId::PlayoffRankings, printAs<Rankings, printRankings>},
     {WindowId::PlayoffPlayerProfiles, printAs<PlayerProfiles, printPlayerProfiles>},
+    {WindowId::CoachStats, printAs<CoachStats, printCoachStats>},
     {WindowId::AllTimeRecords, printAs<AllTimeRecords, printAllTimeRecords>},
     {WindowId::PlayoffAllTimeRecords, printAs<AllTimeRecords, printAllTimeRecords>},
-    {WindowId::CoachStats, printAs<CoachStats, printCoachStats>},
     {WindowId::Options, printAs<Options, printOptions>},
-    {WindowId::Standings, printAs<Standings, printStandings>},
-    {WindowId::Playoffs, printAs<Playoffs, printPlayoffs>},
-};
-
-static_assert(std::size(Printers) == WindowCount);
+}};
+static_assert(isComplete(Printers));
 
 } // namespace
 
 WindowPrinter windowPrinter(WindowId id) {
-    return std::ranges::find(Printers, id, &Row::id)->print;
+    return rowOf(Printers, id).print;
 }
 
 } // namespace iceline::cli

@@ -21,37 +21,34 @@ LeagueWindow* make(Application& app, WindowId id, Window& object) {
     return new QtWindow(app, id, static_cast<Object&>(object));
 }
 
+struct Row {
+    WindowId id;
+    WindowMaker make;
+};
+
+constexpr WindowTable<Row> Makers{{
+    {WindowId::StatExtractor, make<StatExtractorWindow, StatExtractor>},
+    {WindowId::PlayerStats, make<PlayerStatsWindow, PlayerStats>},
+    {WindowId::TeamStats, make<TeamStatsWindow, TeamStats>},
+    {WindowId::Standings, make<StandingsWindow, Standings>},
+    {WindowId::Rankings, make<RankingsWindow, Rankings>},
+    {WindowId::PlayerProfiles, make<PlayerProfilesWindow, PlayerProfiles>},
+    {WindowId::Playoffs, make<PlayoffsWindow, Playoffs>},
+    {WindowId::PlayoffPlayerStats, make<PlayerStatsWindow, PlayerStats>},
+    {WindowId::PlayoffTeamStats, make<TeamStatsWindow, TeamStats>},
+    {WindowId::PlayoffRankings, make<RankingsWindow, Rankings>},
+    {WindowId::PlayoffPlayerProfiles, make<PlayerProfilesWindow, PlayerProfiles>},
+    {WindowId::CoachStats, make<CoachStatsWindow, CoachStats>},
+    {WindowId::AllTimeRecords, make<AllTimeRecordsWindow, AllTimeRecords>},
+    {WindowId::PlayoffAllTimeRecords, make<AllTimeRecordsWindow, AllTimeRecords>},
+    {WindowId::Options, make<OptionsWindow, Options>},
+}};
+static_assert(isComplete(Makers));
+
 } // namespace
 
 WindowMaker windowMaker(WindowId id) {
-    switch (id) {
-    case WindowId::StatExtractor:
-        return make<StatExtractorWindow, StatExtractor>;
-    case WindowId::PlayerStats:
-    case WindowId::PlayoffPlayerStats:
-        return make<PlayerStatsWindow, PlayerStats>;
-    case WindowId::TeamStats:
-    case WindowId::PlayoffTeamStats:
-        return make<TeamStatsWindow, TeamStats>;
-    case WindowId::PlayerProfiles:
-    case WindowId::PlayoffPlayerProfiles:
-        return make<PlayerProfilesWindow, PlayerProfiles>;
-    case WindowId::CoachStats:
-        return make<CoachStatsWindow, CoachStats>;
-    case WindowId::Options:
-        return make<OptionsWindow, Options>;
-    case WindowId::AllTimeRecords:
-    case WindowId::PlayoffAllTimeRecords:
-        return make<AllTimeRecordsWindow, AllTimeRecords>;
-    case WindowId::Standings:
-        return make<StandingsWindow, Standings>;
-    case WindowId::Playoffs:
-        return make<PlayoffsWindow, Playoffs>;
-    case WindowId::Rankings:
-    case WindowId::PlayoffRankings:
-        return make<RankingsWindow, Rankings>;
-    }
-    return nullptr;
+    return rowOf(Makers, id).make;
 }
 
 } // namespace iceline::desktop

@@ -30,7 +30,26 @@ enum class WindowId {
     PlayoffAllTimeRecords,
     Options
 };
-inline constexpr std::size_t WindowCount = 15;
+inline constexpr std::size_t WindowCount = static_cast<std::size_t>(WindowId::Options) + 1;
+
+/// A table about the windows: a row for each, whose `id` is its place.
+template <class Row>
+using WindowTable = std::array<Row, WindowCount>;
+
+/// Whether a table has a row for each window, in the order of WindowId: none is missing, double or misplaced.
+/// Every table asserts this when it is compiled.
+template <class Row>
+constexpr bool isComplete(const WindowTable<Row>& table) {
+    for (std::size_t i = 0; i < table.size(); ++i)
+        if (static_cast<std::size_t>(table[i].id) != i)
+            return false;
+    return true;
+}
+
+template <class Row>
+constexpr const Row& rowOf(const WindowTable<Row>& table, WindowId id) {
+    return table[static_cast<std::size_t>(id)];
+}
 
 /// A row of the catalogue of windows.
 struct CatalogueRow {
