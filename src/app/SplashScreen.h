@@ -14,7 +14,7 @@ public:
     explicit SplashScreen(ApplicationState& state) : state_(state) {}
 
     /// Moves the credits on by one tick: they hold for ten ticks at two places, and once they have rolled out
-    /// at the top SplashDone is set and they begin anew.
+    /// at the top SplashDone is set and they start again from below.
     void Timer2_Timer();
 
     /// Top of the credits, from the top of the visible area.

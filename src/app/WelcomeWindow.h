@@ -11,7 +11,7 @@ class WelcomeWindow {
 public:
     explicit WelcomeWindow(Application& application) : app_(application) {}
 
-    /// A click on a row of the catalogue: the window, loaded anew unless it is open already.
+    /// A click on a row of the catalogue: the window, loaded again unless it is open.
     /// The standings are brought up to date in either case.
     Window& List1_Click(WindowId id);
 

@@ -15,7 +15,7 @@ public:
     HeadLine(const char* objectName, const QString& heads, QWidget* parent);
 
     /// Puts a head over each of these labels, from left to right, aligned as the label is.
-    void standOver(const std::vector<QLabel*>& columns) { columns_ = columns; }
+    void setColumns(const std::vector<QLabel*>& columns) { columns_ = columns; }
 
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override { return sizeHint(); }

@@ -143,7 +143,7 @@ QWidget* StandingsWindow::makeDivisionTab() {
             const auto labels = divisions_[division]->firstRow();
             headed.insert(headed.end(), labels.begin(), labels.end());
         }
-        headLine->standOver(headed);
+        headLine->setColumns(headed);
     }
     grid->setRowStretch(4, 1);
     grid->addWidget(markLegend(box), 5, 0, 1, 2);
@@ -187,7 +187,7 @@ QWidget* StandingsWindow::makeHomeAwayTab() {
     grid->addWidget(heads, 0, 0, 1, 2);
     home_ = add(QStringLiteral("Home"), 0);
     away_ = add(QStringLiteral("Away"), 1);
-    heads->standOver({home_->firstRow().front(), away_->firstRow().front()});
+    heads->setColumns({home_->firstRow().front(), away_->firstRow().front()});
     return box;
 }
 

@@ -132,7 +132,7 @@ TEST(Credits, HoldAtTwoPlacesAndEndTheSplashWindow) {
     EXPECT_EQ(ticksAt[0], 11);
     EXPECT_EQ(ticksAt[-1680], 11);
     EXPECT_EQ(ticksAt[-40], 1);
-    EXPECT_EQ(credits.top(), 1200) << "they begin anew";
+    EXPECT_EQ(credits.top(), 1200) << "they start again";
     EXPECT_EQ(ticks, 111);
 }
 
