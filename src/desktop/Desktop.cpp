@@ -20,24 +20,27 @@ namespace iceline::desktop {
 
 namespace {
 
-/// Splash window first, the main window behind it; ends the program when start-up does not succeed.
+/// The start: the splash window, then the main window. Ends the program when the league does not load.
 class Start {
 public:
     Start(Application& application, PreviewServer& preview) : app_(application), preview_(preview) {
         splash_ = std::make_unique<SplashScreen>(app_.state, [this] { load(); });
         splash_->show();
+        // Only now: show() itself handles events, at a time when there is no event loop yet that could be
+        // ended.
+        splash_->startTimers();
     }
 
 private:
     void load() {
-        bool started = false;
-        guarded(splash_.get(), [&] { started = startUp(app_); });
-        if (!started) {
+        guarded(splash_.get(), [this] {
+            if (!startUp(app_))
+                return;
+            welcome_ = std::make_unique<WelcomeWindow>(app_, preview_);
+            welcome_->waitForSplash([this] { splash_.reset(); });
+        });
+        if (!welcome_)
             QApplication::exit(1);
-            return;
-        }
-        welcome_ = std::make_unique<WelcomeWindow>(app_, preview_);
-        welcome_->waitForSplash([this] { splash_->close(); });
     }
 
     Application& app_;
@@ -46,12 +49,12 @@ private:
     std::unique_ptr<WelcomeWindow> welcome_;
 };
 
-int runLeague(const std::filesystem::path& folder) {
+int runWindows(const std::filesystem::path& folder, const std::filesystem::path& siteTemplate) {
     const LeagueLock lock(folder, "iceline-scorebook");
     DiskFiles disk(folder);
-    DiskFiles siteTemplate(siteTemplateFolder());
+    DiskFiles templateFiles(siteTemplate);
     QtPlatform platform;
-    Application app(disk, siteTemplate, platform, windowCatalogue());
+    Application app(disk, templateFiles, platform, windowCatalogue());
     PreviewServer preview(folder / paths::WebRoot);
     const Start start(app, preview);
     return QApplication::exec();
@@ -59,12 +62,18 @@ int runLeague(const std::filesystem::path& folder) {
 
 } // namespace
 
+int runLeague(const std::filesystem::path& folder, const std::filesystem::path& siteTemplate) {
+    int status = 1;
+    guarded(nullptr, [&] { status = runWindows(folder, siteTemplate); });
+    return status;
+}
+
 int run(int argc, char** argv) {
     QApplication application(argc, argv);
     QApplication::setQuitOnLastWindowClosed(false);
     applyStyle(application);
     int status = 1;
-    guarded(nullptr, [&] { status = runLeague(programFolder()); });
+    guarded(nullptr, [&] { status = runLeague(programFolder(), siteTemplateFolder()); });
     return status;
 }
 

@@ -1,8 +1,16 @@
 #pragma once
 
+#include <filesystem>
+
 namespace iceline::desktop {
 
 /// Runs the desktop program on the league in the program's folder; returns its exit status.
 int run(int argc, char** argv);
+
+/// Runs the windows of a QApplication on the league in `folder` until the user ends the program; returns its
+/// exit status. When the league cannot be used, or the user does not want its missing files made, that is 1
+/// and no window has come up but the splash window and a message. `siteTemplate` is the site as delivered
+/// with the program.
+int runLeague(const std::filesystem::path& folder, const std::filesystem::path& siteTemplate);
 
 } // namespace iceline::desktop

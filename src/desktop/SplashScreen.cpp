@@ -38,14 +38,20 @@ SplashScreen::SplashScreen(ApplicationState& state, std::function<void()> load)
     : QWidget(nullptr, Qt::SplashScreen), state_(state), credits_(state) {
     setObjectName(QStringLiteral("SplashScreen"));
     layOut();
+    timer1_.setObjectName(QStringLiteral("Timer1"));
     timer1_.setSingleShot(true);
     timer1_.setInterval(1);
     connect(&timer1_, &QTimer::timeout, this, std::move(load));
+    timer2_.setObjectName(QStringLiteral("Timer2"));
     timer2_.setInterval(Credits::TickMilliseconds);
     connect(&timer2_, &QTimer::timeout, this, [this] {
         credits_.Timer2_Timer();
         moveCredits();
     });
+}
+
+void SplashScreen::startTimers() {
+    activateWindow();
     timer1_.start();
     timer2_.start();
 }
@@ -84,6 +90,10 @@ void SplashScreen::moveCredits() {
 }
 
 void SplashScreen::mousePressEvent(QMouseEvent*) {
+    state_.SplashDone = true;
+}
+
+void SplashScreen::keyPressEvent(QKeyEvent*) {
     state_.SplashDone = true;
 }
 

@@ -11,7 +11,7 @@ class QFrame;
 
 namespace iceline::desktop {
 
-/// The splash window with its rolling credits. Timer1 fires once and loads the main window behind it.
+/// The splash window with its rolling credits. Timer1 fires once and loads the main window meanwhile.
 class SplashScreen : public QWidget {
     Q_OBJECT
 
@@ -19,9 +19,12 @@ public:
     /// `load` loads the main window.
     SplashScreen(ApplicationState& state, std::function<void()> load);
 
+    void startTimers();
+
 protected:
-    /// A click takes the credits to their end.
+    /// A click or a key takes the credits to their end.
     void mousePressEvent(QMouseEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
 
 private:
     void layOut();
@@ -31,8 +34,8 @@ private:
     iceline::SplashScreen credits_;
     QFrame* frame1_ = nullptr;
     QFrame* frame2_ = nullptr;
-    QTimer timer1_;
-    QTimer timer2_;
+    QTimer timer1_{this};
+    QTimer timer2_{this};
 };
 
 } // namespace iceline::desktop

@@ -24,6 +24,7 @@ WelcomeWindow::WelcomeWindow(Application& application, PreviewServer& preview)
     setWindowTitle(QStringLiteral("Welcome to the Iceline Scorebook 3.0 - Rinkstar Version"));
     setWindowIcon(QIcon(pictures::named("iceline")));
     layOut();
+    timer1_.setObjectName(QStringLiteral("Timer1"));
     timer1_.setInterval(1);
 }
 

@@ -39,7 +39,7 @@ private:
     Application& app_;
     PreviewServer& preview_;
     WindowManager windows_;
-    QTimer timer1_;
+    QTimer timer1_{this};
 };
 
 } // namespace iceline::desktop

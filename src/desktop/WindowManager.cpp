@@ -25,6 +25,7 @@ void WindowManager::open(WindowId id) {
             window->adjustSize();
         centreOnScreen(*window);
     }
+    window->setWindowState(window->windowState() & ~Qt::WindowMinimized);
     window->show();
     window->raise();
     window->activateWindow();

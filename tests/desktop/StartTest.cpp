@@ -1,0 +1,80 @@
+#include "User.h"
+#include "desktop/Desktop.h"
+#include "files/FileError.h"
+#include "files/LeagueLock.h"
+#include "support/TemporaryFolder.h"
+#include "support/TestLeague.h"
+
+#include <QTest>
+
+#include <gmock/gmock.h>
+
+#include <fstream>
+
+namespace iceline::desktop {
+namespace {
+
+using testing::ElementsAre;
+using testing::HasSubstr;
+
+/// The real start of the program on a league in a folder of the disk.
+class Start : public testing::Test {
+protected:
+    int run() { return runLeague(folder.path(), folder.path() / "site-template"); }
+
+    void makeLeague() { test::writeToDisk(test::TestLeague().files, folder.path()); }
+
+    /// The program has ended: it shows nothing and the league is free.
+    void expectNothingLeft() {
+        for (QWidget* window : QApplication::topLevelWidgets())
+            EXPECT_FALSE(window->isVisible()) << window->objectName().toStdString();
+        EXPECT_NO_THROW(LeagueLock(folder.path(), "test"));
+    }
+
+    test::TemporaryFolder folder;
+};
+
+TEST_F(Start, CancelAtTheQuestionEndsTheProgram) {
+    Answers user(QMessageBox::Cancel);
+    EXPECT_EQ(run(), 1);
+    EXPECT_THAT(user.said, ElementsAre(HasSubstr("would you like the missing ones to be created?")));
+    EXPECT_FALSE(std::filesystem::exists(folder.path() / "Boston Bruins"));
+    expectNothingLeft();
+}
+
+TEST_F(Start, ADamagedFileEndsTheProgramWithOneMessage) {
+    makeLeague();
+    std::ofstream(folder.path() / "Games Until Playoffs.txt") << "many";
+    Answers user(QMessageBox::Ok);
+    EXPECT_EQ(run(), 1);
+    EXPECT_THAT(user.said, ElementsAre(HasSubstr("Games Until Playoffs.txt, line 1")));
+    expectNothingLeft();
+}
+
+TEST_F(Start, ALeagueInUseEndsTheProgramWithOneMessage) {
+    makeLeague();
+    const LeagueLock other(folder.path(), "the other program");
+    Answers user(QMessageBox::Ok);
+    EXPECT_EQ(run(), 1);
+    EXPECT_THAT(user.said, ElementsAre(HasSubstr("in use by the other program")));
+}
+
+TEST_F(Start, AKeyEndsTheSplashWindowAndExitTheProgram) {
+    makeLeague();
+    bool splashOverMain = false;
+    User user([&] {
+        QWidget* splash = shownWindow("SplashScreen");
+        QWidget* main = shownWindow("WelcomeWindow");
+        if (splash)
+            QTest::keyClick(splash, Qt::Key_Space);
+        splashOverMain = splashOverMain || (main && splash);
+        if (main)
+            main->findChild<QAbstractButton*>(QStringLiteral("Command7"))->click();
+    });
+    EXPECT_EQ(run(), 0);
+    EXPECT_FALSE(splashOverMain);
+    expectNothingLeft();
+}
+
+} // namespace
+} // namespace iceline::desktop

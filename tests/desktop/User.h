@@ -1,0 +1,61 @@
+#pragma once
+
+#include <QAbstractButton>
+#include <QApplication>
+#include <QMessageBox>
+#include <QTimer>
+
+#include <functional>
+#include <string>
+#include <vector>
+
+namespace iceline::desktop {
+
+/// The window of that object name, null while it does not show.
+inline QWidget* shownWindow(const char* name) {
+    for (QWidget* window : QApplication::topLevelWidgets())
+        if (window->isVisible() && window->objectName() == QLatin1String(name))
+            return window;
+    return nullptr;
+}
+
+/// Whoever sits at the desktop while the test's thread is inside the program: does `step` every few
+/// milliseconds, and ends the program with status 99 when it does not end by itself.
+class User {
+public:
+    explicit User(std::function<void()> step) {
+        QObject::connect(&looks_, &QTimer::timeout, &looks_, std::move(step));
+        looks_.start(5);
+        patience_.setSingleShot(true);
+        QObject::connect(&patience_, &QTimer::timeout, &patience_, [] { QApplication::exit(99); });
+        patience_.start(20000);
+    }
+
+private:
+    QTimer looks_;
+    QTimer patience_;
+};
+
+/// The message box in front, null when there is none.
+inline QMessageBox* messageBox() {
+    return qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+}
+
+/// Presses that button in every message box, and keeps what they said.
+class Answers {
+public:
+    explicit Answers(QMessageBox::StandardButton button)
+        : user_([this, button] {
+              if (QMessageBox* box = messageBox()) {
+                  said.push_back(box->text().toStdString());
+                  box->button(button)->click();
+              }
+          }) {}
+
+    std::vector<std::string> said;
+
+private:
+    User user_;
+};
+
+} // namespace iceline::desktop
