@@ -1,16 +1,21 @@
 #include "desktop/QtPlatform.h"
 
+#include "desktop/ProgressWindow.h"
+
 #include <QApplication>
 #include <QFileDialog>
 #include <QMessageBox>
-#include <QProgressDialog>
 #include <QRandomGenerator>
+
+#include <algorithm>
 
 namespace iceline::desktop {
 
 namespace {
 
 using Button = QMessageBox::StandardButton;
+
+constexpr qint64 UnseenMilliseconds = 300; ///< a run that is shorter shows no progress
 
 QMessageBox::StandardButtons qtButtons(Buttons buttons) {
     switch (buttons) {
@@ -29,16 +34,27 @@ Button defaultButton(Buttons buttons) {
     return buttons == Buttons::YesNo ? QMessageBox::No : QMessageBox::Ok;
 }
 
-Answer answerOf(int button) {
-    switch (button) {
-    case QMessageBox::Cancel:
+/// The answer of a box that was closed without a button.
+Answer closedAnswer(Buttons buttons) {
+    switch (buttons) {
+    case Buttons::OkCancel:
         return Answer::Cancel;
+    case Buttons::YesNo:
+        return Answer::No;
+    case Buttons::Ok:
+        break;
+    }
+    return Answer::Ok;
+}
+
+Answer answerOf(int button, Buttons buttons) {
+    switch (button) {
+    case QMessageBox::Ok:
+        return Answer::Ok;
     case QMessageBox::Yes:
         return Answer::Yes;
-    case QMessageBox::No:
-        return Answer::No;
     default:
-        return Answer::Ok;
+        return closedAnswer(buttons);
     }
 }
 
@@ -68,12 +84,21 @@ std::string fromQt(const QString& text) {
     return text.toStdString();
 }
 
-QtPlatform::~QtPlatform() {
-    delete progress_;
+QWidget* windowInFront() {
+    if (QWidget* modal = QApplication::activeModalWidget())
+        return modal;
+    if (QWidget* active = QApplication::activeWindow())
+        return active;
+    const QWidgetList windows = QApplication::topLevelWidgets();
+    const auto visible = std::ranges::find_if(windows, &QWidget::isVisible);
+    return visible == windows.end() ? nullptr : *visible;
 }
 
+QtPlatform::QtPlatform() = default;
+QtPlatform::~QtPlatform() = default;
+
 Answer QtPlatform::ask(const Message& message) {
-    QMessageBox box(QApplication::activeWindow());
+    QMessageBox box(windowInFront());
     box.setObjectName(QStringLiteral("MessageBox"));
     box.setIcon(message.buttons == Buttons::YesNo ? QMessageBox::Question : QMessageBox::Information);
     box.setWindowTitle(toQt(message.title));
@@ -81,17 +106,16 @@ Answer QtPlatform::ask(const Message& message) {
     box.setText(toQt(message.text));
     box.setStandardButtons(qtButtons(message.buttons));
     box.setDefaultButton(defaultButton(message.buttons));
-    return answerOf(box.exec());
+    return answerOf(box.exec(), message.buttons);
 }
 
 std::optional<std::string> QtPlatform::chooseFile(const std::string& title,
                                                   const std::vector<FileFilter>& filters) {
-    return chosen(
-        QFileDialog::getOpenFileName(QApplication::activeWindow(), toQt(title), {}, filterText(filters)));
+    return chosen(QFileDialog::getOpenFileName(windowInFront(), toQt(title), {}, filterText(filters)));
 }
 
 std::optional<std::string> QtPlatform::chooseFolder(const std::string& title) {
-    return chosen(QFileDialog::getExistingDirectory(QApplication::activeWindow(), toQt(title)));
+    return chosen(QFileDialog::getExistingDirectory(windowInFront(), toQt(title)));
 }
 
 void QtPlatform::setBusy(bool busy) {
@@ -107,25 +131,19 @@ double QtPlatform::random() {
 
 bool QtPlatform::showProgress(const Progress& progress) {
     if (!progress_) {
-        progress_ = new QProgressDialog(QApplication::activeWindow());
-        progress_->setObjectName(QStringLiteral("Progress"));
-        progress_->setWindowModality(Qt::ApplicationModal);
-        progress_->setMinimumDuration(300);
-        progress_->setMinimumWidth(420);
-        progress_->setAutoClose(false);
-        progress_->setAutoReset(false);
-        progress_->setWindowTitle(toQt(progress.title));
-        if (!progress.cancellable)
-            progress_->setCancelButton(nullptr);
+        progress_ = std::make_unique<ProgressWindow>(progress, windowInFront());
+        sinceBegin_.start();
     }
-    progress_->setMaximum(progress.total);
-    progress_->setLabelText(toQt(progress.item));
-    progress_->setValue(progress.done);
-    return !progress_->wasCanceled();
+    progress_->setProgress(progress);
+    if (sinceBegin_.elapsed() < UnseenMilliseconds)
+        return true;
+    progress_->show();
+    QApplication::processEvents();
+    return !progress_->isCancelled();
 }
 
 void QtPlatform::endProgress() {
-    delete progress_;
+    progress_.reset();
 }
 
 } // namespace iceline::desktop

@@ -2,10 +2,12 @@
 
 #include "shell/Platform.h"
 
-#include <QPointer>
+#include <QElapsedTimer>
 
-class QProgressDialog;
+#include <memory>
+
 class QString;
+class QWidget;
 
 namespace iceline::desktop {
 
@@ -13,9 +15,16 @@ namespace iceline::desktop {
 QString toQt(std::string_view text);
 std::string fromQt(const QString& text);
 
-/// The platform of the desktop: message boxes, dialogs and pointer of Qt.
+class ProgressWindow;
+
+/// The window that a message belongs to, so that it shows above it; null when none shows.
+QWidget* windowInFront();
+
+/// The platform of the desktop: message boxes, dialogs and pointer of Qt. A run shows its progress once it
+/// has taken a moment. Until then it handles no event, and from then on only its progress window answers.
 class QtPlatform : public Platform {
 public:
+    QtPlatform();
     ~QtPlatform() override;
 
     Answer ask(const Message& message) override;
@@ -28,7 +37,8 @@ public:
     void endProgress() override;
 
 private:
-    QPointer<QProgressDialog> progress_;
+    std::unique_ptr<ProgressWindow> progress_;
+    QElapsedTimer sinceBegin_; ///< of the run
 };
 
 } // namespace iceline::desktop
