@@ -1,30 +1,36 @@
 /*
  * Fills the tables of the landing pages from the row fragments that Generate Webpages writes, one file for each
- * sort order.
+ * sort order; rows.js reads those.
  *
  * A table names its fragment in data-fragment: {order} stands for the number of the order, {team} for the team that
  * the address asks for. A head that sorts gives the numbers of its two orders in data-descending and data-ascending;
  * data-order of the table is the order it opens in. The orders chosen stand in the address, each under the id of its
- * table, so that a link leads to them: LeagueLeaders.htm?players=0&goalies=15.
+ * table, and so does what the rows are filtered by, so that a link leads to what is on view:
+ * LeagueLeaders.htm?players=0&goalies=15&team=BOS&name=smith.
  *
- * Nothing from the address reaches the page or a path: an order counts only when a head of the table has it, a team
- * only when the page has a link for it.
+ * Nothing from the address reaches a path, and nothing but the text of the filter the page: an order counts only when
+ * a head of the table has it, a team only when the page offers it.
  */
 'use strict';
 
-const UNPUBLISHED = 'Nothing has been published yet: these rows appear as soon as the league\'s webpages have been ' +
-  'generated.';
-const EMPTY = 'No games have been played yet.';
-const NO_SERVER = 'A browser fills these tables only on a site that a web server delivers. Open the league\'s site ' +
-  'on the web, or use “Preview Site”.';
-const UNREACHABLE = 'These rows could not be loaded. Please try again in a moment.';
+const NO_MATCH = 'No player matches the team and the name above.';
 
-const tables = [...document.querySelectorAll('table[data-fragment]')];
+/** So many rows are shown until a visitor asks for all. */
+const FIRST_ROWS = 50;
+
+const narrow = matchMedia('(max-width: 720px)');
+const page = {
+  tables: [...document.querySelectorAll('table[data-fragment]')],
+  filters: document.querySelector('.filters'),
+  /** The team links of a page of one team, by abbreviation; empty on every other page. */
+  teams: new Map([...document.querySelectorAll('.team-strip a')].map((link) =>
+    [new URL(link.href).searchParams.get('team'), link])),
+};
+
 const heads = (table) => [...table.querySelectorAll('th[data-descending], th[data-ascending]')];
 
-/** The team links of a page of one team, by abbreviation; empty on every other page. */
-const teams = new Map([...document.querySelectorAll('#teams a')].map((link) =>
-  [new URL(link.href).searchParams.get('team'), link]));
+/** What is known of each table: its heads in the order of the fragments' columns, and the rows that have come. */
+const states = new Map(page.tables.map((table) => [table, {columns: [...table.tHead?.rows[0].cells ?? []]}]));
 
 const asked = () => new URL(location.href).searchParams;
 
@@ -43,94 +49,7 @@ function nextOrder(head, shown) {
   return shown === opening && turned !== undefined ? turned : opening;
 }
 
-/** The text of a fragment: UTF-8 or, where it is none, the 8-bit text of older Windows rosters. */
-function decoded(bytes) {
-  try {
-    return new TextDecoder('utf-8', {fatal: true}).decode(bytes);
-  } catch {
-    return new TextDecoder('windows-1252').decode(bytes);
-  }
-}
-
-/** The rows of the fragment at `address` or, when there are none to show, the message that says why. */
-async function loadedRows(address) {
-  if (location.protocol === 'file:') {
-    return {message: NO_SERVER};
-  }
-  const answer = await fetch(address).catch(() => null);
-  if (!answer?.ok) {
-    return {message: answer?.status === 404 ? UNPUBLISHED : UNREACHABLE};
-  }
-  const template = document.createElement('template');
-  template.innerHTML = `<table><tbody>${decoded(await answer.arrayBuffer())}</tbody></table>`;
-  const rows = [...template.content.querySelectorAll('tr')];
-  rows.forEach((row) => completeRow(row, address));
-  return rows.length > 0 ? {rows} : {message: EMPTY};
-}
-
-/** Leads the links and pictures of a row, which are relative to its fragment, and names the team of its logo. */
-function completeRow(row, fragment) {
-  for (const link of row.querySelectorAll('a[href]')) {
-    link.href = new URL(link.getAttribute('href'), fragment);
-  }
-  for (const picture of row.querySelectorAll('img[src]')) {
-    picture.src = new URL(picture.getAttribute('src'), fragment);
-    picture.alt = picture.src.replace(/^.*\/|\.gif$/g, '');
-    picture.parentElement.dataset.team = picture.alt;
-  }
-}
-
-const decimals = (cell) => /^\s*-?\d*\.(\d+)\s*$/.exec(cell.textContent)?.[1].length ?? 0;
-
-/** Marks the figures with fewer decimals than their column, for the style sheet to make up the room. */
-function alignFigures(rows) {
-  const widest = [];
-  for (const {cells} of rows) {
-    [...cells].forEach((cell, column) => {
-      widest[column] = Math.max(widest[column] ?? 0, decimals(cell));
-    });
-  }
-  for (const {cells} of rows) {
-    [...cells].forEach((cell, column) => {
-      const shown = decimals(cell);
-      if (shown < widest[column]) {
-        const room = (shown === 0 ? '.' : '') + '0'.repeat(widest[column] - shown);
-        (cell.firstElementChild ?? cell).dataset.room = room;
-      }
-    });
-  }
-}
-
-function messageRow(table, message) {
-  const row = document.createElement('tr');
-  const cell = row.insertCell();
-  cell.colSpan = table.tHead?.rows[0].cells.length ?? 2;
-  cell.className = 'message';
-  cell.textContent = message;
-  return row;
-}
-
-async function showRows(table, team, order) {
-  const path = table.dataset.fragment.replace('{team}', team).replace('{order}', order);
-  const address = new URL(path, location.href).href;
-  if (table.dataset.shown === address) {
-    return;
-  }
-  table.dataset.shown = address;
-  table.setAttribute('aria-busy', 'true');
-  const {rows, message} = await loadedRows(address);
-  if (table.dataset.shown !== address) {
-    return;
-  }
-  if (rows && order) {
-    alignFigures(rows);
-  }
-  table.tBodies[0].replaceChildren(...rows ?? [messageRow(table, message)]);
-  table.removeAttribute('aria-busy');
-  if (message === UNREACHABLE) {
-    delete table.dataset.shown;
-  }
-}
+/* Heads */
 
 function showHeads(table, shown) {
   for (const head of heads(table)) {
@@ -151,19 +70,176 @@ function makeSortable(head) {
   const link = document.createElement('a');
   link.append(...head.childNodes);
   head.append(link);
-  link.addEventListener('click', (click) => {
+  link.addEventListener('click', async (click) => {
     if (click.ctrlKey || click.metaKey || click.shiftKey) {
       return;
     }
     click.preventDefault();
     history.pushState(null, '', link.href);
-    showTables();
+    await showTables();
+    head.closest('.scroller').scrollTo(0, 0);
   });
 }
 
+/** The columns from left to right: on a telephone the sorted one comes right after the name. */
+function columnsOnView({columns}) {
+  const name = columns.findIndex((head) => head.matches('.name, [data-ascending-first]'));
+  const sorted = columns.findIndex((head) => head.ariaSort !== null);
+  const inPlace = columns.map((_, column) => column);
+  if (!narrow.matches || name < 0 || sorted <= name) {
+    return inPlace;
+  }
+  return [...inPlace.slice(0, name + 1), sorted, ...inPlace.slice(name + 1).filter((column) => column !== sorted)];
+}
+
+/** Puts the cells of a row in the order of `columns`, with the focus where it was. */
+function arrange(row, cells, columns) {
+  const arranged = columns.flatMap((column) => cells[column] ?? []);
+  if (arranged.every((cell, i) => cell === row.cells[i])) {
+    return;
+  }
+  const focused = row.contains(document.activeElement) ? document.activeElement : null;
+  row.append(...arranged);
+  focused?.focus({preventScroll: true});
+}
+
+/* Rows */
+
+/** Letters alone, so that a name is found without its accents, too. */
+const plain = (text) => text.normalize('NFD').replace(/\p{M}/gu, '').toLowerCase();
+
+function matchingRows({rows, columns}) {
+  const name = columns.findIndex((head) => head.matches('.name'));
+  if (!page.filters || name < 0) {
+    return rows;
+  }
+  const [team, part] = filterFields().map(({value}) => value);
+  const wanted = plain(part.trim());
+  return rows.filter(({team: own, cells}) => (team === '' || own === team) &&
+    (wanted === '' || plain(cells[name].textContent).includes(wanted)));
+}
+
+function messageRow({columns}, message) {
+  const row = document.createElement('tr');
+  const cell = row.insertCell();
+  cell.colSpan = columns.length || 2;
+  cell.className = 'message';
+  cell.append(document.createElement('span'));
+  cell.firstChild.textContent = message;
+  return row;
+}
+
+/** Loads what the table is to show, unless it has it, and shows it; done when the rows are there. */
+async function showRows(table, team, order) {
+  const path = table.dataset.fragment.replace('{team}', team).replace('{order}', order);
+  const address = new URL(path, location.href).href;
+  const state = states.get(table);
+  if (state.address !== address) {
+    Object.assign(state, {address, rows: null, message: null});
+    table.setAttribute('aria-busy', 'true');
+    const {rows, message} = await loadedRows(address);
+    if (state.address !== address) {
+      return;
+    }
+    rows?.forEach(nameTeam);
+    if (rows && order) {
+      alignFigures(rows);
+    }
+    state.rows = rows?.map((row) => ({row, cells: [...row.cells], team: teamOf(row)}));
+    state.message = message;
+    state.address = message === UNREACHABLE ? null : address;
+  }
+  if (state.rows || state.message) {
+    await drawRows(table, state);
+  }
+}
+
+/** Resolves when its caller may draw: one part of one table in each frame. */
+const turn = () => {
+  lastTurn = lastTurn.then(() => new Promise((done) => {
+    requestAnimationFrame(() => setTimeout(done));
+  }));
+  return lastTurn;
+};
+let lastTurn = Promise.resolve();
+
+/** Draws the rows that match, the first of them or all. A later drawing of the same table ends this one. */
+async function drawRows(table, state) {
+  const drawing = state.drawing = {};
+  table.setAttribute('aria-busy', 'true');
+  const columns = columnsOnView(state);
+  const matching = state.rows ? matchingRows(state) : [];
+  const shown = table.matches('.leaders') && !state.all ? matching.slice(0, FIRST_ROWS) : matching;
+  for (let i = 0; i === 0 || i < shown.length; i += ROWS_AT_A_TIME) {
+    await turn();
+    if (state.drawing !== drawing) {
+      return;
+    }
+    const part = shown.slice(i, i + ROWS_AT_A_TIME);
+    part.forEach(({row, cells}) => arrange(row, cells, columns));
+    const rows = shown.length > 0 ? part.map(({row}) => row) : [messageRow(state, state.message ?? NO_MATCH)];
+    if (i > 0) {
+      table.tBodies[0].append(...rows);
+      continue;
+    }
+    if (state.columns.length > 0) {
+      arrange(table.tHead.rows[0], state.columns, columns);
+    }
+    table.tBodies[0].replaceChildren(...rows);
+    showCount(table, shown.length, matching.length);
+  }
+  table.removeAttribute('aria-busy');
+}
+
+const countOf = (table) => document.querySelector(`[data-count="${table.id}"]`);
+
+function showCount(table, shown, matching) {
+  const count = countOf(table);
+  if (count) {
+    const [text, all] = count.children;
+    text.textContent = shown === 0 ? '' : `${shown} of ${matching}`;
+    all.hidden = shown === matching;
+  }
+}
+
+async function showAll(table) {
+  const state = states.get(table);
+  state.all = true;
+  await drawRows(table, state);
+  table.closest('.scroller').focus();
+}
+
+/* The filters: a team and a part of a name */
+
+const filterFields = () => [...page.filters.querySelectorAll('select, input')];
+
+function readFilters() {
+  for (const field of filterFields()) {
+    const value = asked().get(field.name) ?? '';
+    const known = !field.options || [...field.options].some((option) => option.value === value);
+    field.value = known ? value : '';
+  }
+}
+
+function takeFilters() {
+  const address = new URL(location.href);
+  for (const {name, value} of filterFields()) {
+    if (value.trim()) {
+      address.searchParams.set(name, value.trim());
+    } else {
+      address.searchParams.delete(name);
+    }
+  }
+  address.hash = '';
+  history.replaceState(null, '', address);
+  showTables();
+}
+
+/* The page of one team, notes, and what starts it all */
+
 /** Shows the team that the address asks for, or says what is missing; false when there is none to show. */
 function showTeam(abbreviation) {
-  const link = teams.get(abbreviation);
+  const link = page.teams.get(abbreviation);
   const note = document.getElementById('no-team');
   note.textContent = abbreviation === null ? 'Choose a team above.' :
     'This league has no such team: choose one of the 24 above.';
@@ -186,10 +262,10 @@ function showTeam(abbreviation) {
 /** Shows every table as the address asks for; done when all rows have come. */
 async function showTables() {
   const team = asked().get('team');
-  if (teams.size > 0 && !showTeam(team)) {
+  if (page.teams.size > 0 && !showTeam(team)) {
     return;
   }
-  await Promise.all(tables.map((table) => {
+  await Promise.all(page.tables.map((table) => {
     const order = chosenOrder(table);
     showHeads(table, order);
     return showRows(table, team, order);
@@ -202,9 +278,20 @@ async function showNote(note) {
   note.hidden = answer?.status !== 404;
 }
 
-tables.flatMap(heads).forEach(makeSortable);
+page.tables.flatMap(heads).forEach(makeSortable);
+page.tables.forEach((table) => countOf(table)?.querySelector('button').addEventListener('click', () => showAll(table)));
+if (page.filters) {
+  readFilters();
+  page.filters.addEventListener('input', takeFilters);
+}
 showTables().then(() => document.getElementById(location.hash.slice(1))?.scrollIntoView());
-window.addEventListener('popstate', showTables);
+window.addEventListener('popstate', () => {
+  if (page.filters) {
+    readFilters();
+  }
+  showTables();
+});
+narrow.addEventListener('change', showTables);
 if (location.protocol !== 'file:') {
   document.querySelectorAll('[data-needs]').forEach(showNote);
 }

@@ -9,6 +9,15 @@ export function overflow() {
   return {page: Math.max(0, scrollWidth - clientWidth), bar: Math.max(0, Math.ceil(right - innerWidth))};
 }
 
+/** The controls that a finger would miss: smaller than `least` pixels either way. */
+export function smallTargets(least) {
+  return [...document.querySelectorAll('a[href], button, select, input')]
+    .filter((target) => target.checkVisibility() && !target.matches('.skip'))
+    .map((target) => ({target, box: target.getBoundingClientRect()}))
+    .filter(({box}) => box.width < least || box.height < least)
+    .map(({target, box}) => `${target.outerHTML.slice(0, 80)}: ${box.width} x ${box.height}`);
+}
+
 /**
  * The texts that stand out from their background by less than `least` to 1, what style sheets add included. The
  * background of a text is that of the elements around it; not covered are lettering within pictures, text in front of

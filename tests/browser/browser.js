@@ -1,13 +1,13 @@
 /** Chromium as Debian packages it, and pages that remember what went wrong on them. */
 import {chromium} from 'playwright-core';
 
-export const launch = () => chromium.launch({
+export const launch = (...args) => chromium.launch({
   executablePath: process.env.CHROMIUM ?? '/usr/bin/chromium',
-  args: ['--no-sandbox', '--disable-gpu', '--disable-quic', '--no-first-run', '--disable-background-networking',
-    '--disable-component-update', '--disable-sync'],
+  args: [...args, '--no-sandbox', '--disable-gpu', '--disable-quic', '--no-first-run',
+    '--disable-background-networking', '--disable-component-update', '--disable-sync'],
 });
 
-const desktop = {viewport: {width: 1280, height: 900}};
+export const desktop = {viewport: {width: 1280, height: 900}};
 
 /** Turns the screen of a page into that of a telephone, which lays a page out 980 pixels wide if it names no width. */
 export async function turnIntoTelephone(page) {

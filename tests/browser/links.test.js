@@ -19,7 +19,8 @@ const attributes = (name, nodes) => DomUtils.find((node) => node.attribs?.[name]
 
 const files = new Set(filesOf(site));
 const textOf = (file) => readFileSync(path.join(site, file), 'utf8');
-const documents = new Map([...files].filter((file) => /\.(htm|php)$/.test(file)).map((file) =>
+/** The pages and the rows; team.php is code that the pages of PHP share. */
+const documents = new Map([...files].filter((file) => /(?<!^team)\.(htm|php)$/.test(file)).map((file) =>
   [file, parseDocument(textOf(file))]));
 
 /** The teams that a page offers, by abbreviation. */
@@ -42,8 +43,8 @@ const filledTables = (document) => DomUtils.getElementsByTagName('table', docume
   }));
 
 /**
- * What tables.js looks for on behalf of a page. It leads the links of the rows as seen from their fragment, and a page
- * of PHP stands in the folder of its fragments: the links of a fragment are those of any page in its folder.
+ * What tables.js looks for on behalf of a page. It leads the links of the rows as seen from their fragment, and the
+ * page of a team stands in the folder of its fragments: the links of a fragment are those of any page in its folder.
  */
 function filledIn(document) {
   const fragments = filledTables(document).flatMap((table) => {

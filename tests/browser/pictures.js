@@ -18,7 +18,7 @@ const PICTURES = [
   {name: 'box-score-page', page: 'BoxScores/game-0002.htm', options: {viewport: {width: 1280, height: 1300}}},
   {name: 'player-page', page: 'Profiles/BOS/Gene Olynovych.htm', options: desktop(740)},
   {name: 'playoff-tree-page', page: 'PlayoffTree.htm', options: desktop(920)},
-  {name: 'team-page-telephone', page: 'PStats/index.php?team=BOS', options: telephone},
+  {name: 'team-page-telephone', page: 'PStats/team.htm?team=BOS', options: telephone},
 ];
 
 const FEW_COLOURS = `

@@ -3,8 +3,10 @@ import assert from 'node:assert/strict';
 import {readdirSync} from 'node:fs';
 import path from 'node:path';
 import {after, before, describe, test} from 'node:test';
-import {faintTexts, overflow} from './audits.js';
-import {launch, turnIntoTelephone, visit} from './browser.js';
+import {pathToFileURL} from 'node:url';
+import axe from 'axe-core';
+import {faintTexts, overflow, smallTargets} from './audits.js';
+import {desktop, launch, turnIntoTelephone, visit} from './browser.js';
 import {coaches, site} from './league.js';
 import {assertOrder, runs} from './order.js';
 import {servers} from './servers.js';
@@ -37,7 +39,7 @@ const PAGES = {
   'Playoffs.htm': 'Playoff Team Stats',
   'PlayoffTree.htm': 'Western Conference',
   'PlayoffPlayerStats.htm': 'Patrick Division',
-  'PlayoffPStats/index.php?team=BOS': 'Forwards / Defensemen',
+  'PlayoffPStats/team.htm?team=BOS': 'Forwards / Defensemen',
   'PlayoffTeamStats.htm': 'Smythe Division',
   'PlayoffTStats/BOS.htm': 'Overtime Stats',
   'PlayoffLeagueLeaders.htm': 'Goalie League Leaders',
@@ -46,9 +48,9 @@ const PAGES = {
   'PlayoffAllTimeRecords.htm': 'Goalie Records in a Game',
 };
 
-/** Pages with tables that a click on a head sorts. */
-const SORTED = ['LeagueLeaders.htm', 'PlayoffLeagueLeaders.htm', 'PStats/index.php?team=BOS',
-  'PlayoffPStats/index.php?team=BOS'];
+/** Pages with tables that a click on a head sorts, with some of their rows. */
+const SORTED = ['LeagueLeaders.htm?name=an', 'PlayoffLeagueLeaders.htm?name=an', 'PStats/index.php?team=BOS',
+  'PlayoffPStats/team.htm?team=BOS'];
 
 const browser = await launch();
 after(() => browser.close());
@@ -64,13 +66,21 @@ const tableOnView = (table) => table.evaluate((element) => ({
     [...row.cells].map((cell) => cell.textContent.trim() || cell.dataset.team || '')),
 }));
 
+const allDrawn = (page) => page.waitForFunction(() => !document.querySelector('[aria-busy]'));
+
+async function showAllRows(page) {
+  await page.locator('.count button').evaluateAll((buttons) =>
+    buttons.filter(({hidden}) => !hidden).forEach((button) => button.click()));
+  await allDrawn(page);
+}
+
 /**
  * Clicks a head. Asserts that its column, and no other, is then sorted in `direction`, by its arrow, by the address and
  * by its figures, and gives the column's values, each run of equal ones once.
  */
 async function sortBy(page, table, head, direction) {
   await head.getByRole('link').click();
-  await page.waitForFunction(() => !document.querySelector('[aria-busy]'));
+  await allDrawn(page);
   const [{column, caption, orders}, id] = await Promise.all([
     head.evaluate((cell) => ({column: cell.cellIndex, caption: cell.textContent, orders: {...cell.dataset}})),
     table.getAttribute('id'),
@@ -86,7 +96,10 @@ async function sortBy(page, table, head, direction) {
 
 /** Sorts every table of a page by a figure, both ways round. Its address then leads to the same tables. */
 async function checkSorting(page) {
-  const tablesOf = (shown) => shown.locator('table:has(th[data-descending])').all();
+  const tablesOf = async (shown) => {
+    await showAllRows(shown);
+    return shown.locator('table:has(th[data-descending])').all();
+  };
   const tables = await tablesOf(page);
   assert.ok(tables.length > 1);
   for (const table of tables) {
@@ -113,9 +126,15 @@ async function checkLook(page) {
     assert.deepEqual(faint, [], `${colorScheme} colours`);
   }
   const fits = async (screen) => assert.deepEqual(await page.evaluate(overflow), {page: 0, bar: 0}, screen);
-  for (const width of [1280, 1100, 390]) {
+  for (const width of [1280, 1024, 390, 320]) {
     await page.setViewportSize({width, height: 844});
     await fits(`${width} pixels wide`);
+  }
+  assert.deepEqual(await page.evaluate(smallTargets, 24), []);
+  if (await page.locator('main').count() > 0) {
+    await page.evaluate(axe.source);
+    const {violations} = await page.evaluate(() => globalThis.axe.run({preload: false}));
+    assert.deepEqual(violations.map(({id, nodes}) => `${id}: ${nodes[0].html}`), []);
   }
   await turnIntoTelephone(page);
   await fits('on a telephone');
@@ -144,7 +163,7 @@ function checkSite(open, url, look) {
   test('what the address says never comes into a team\'s page', async () => {
     for (const team of ['<script>alert(1)</script>', '../..', 'bos']) {
       const given = `?team=${encodeURIComponent(team)}&skaters=../../index`;
-      const page = await open(`PStats/index.php${given}`);
+      const page = await open(`PStats/team.htm${given}`);
       const shown = await page.content();
       for (const text of ['alert(1)', '../..', '=bos', 'skaters=']) {
         assert.ok(!shown.includes(text), `${given} brings ${text}`);
@@ -170,9 +189,11 @@ function checkSite(open, url, look) {
     await page.getByRole('link', {name: 'Division Standings'}).click();
     await page.getByRole('link', {name: 'BOS'}).click();
     await page.locator('#skaters tbody a').first().click();
+    await page.waitForURL(/Profiles/);
     assert.match(await page.title(), /Player Profile$/);
     await page.getByRole('link', {name: 'Box Scores'}).click();
     await page.getByRole('link', {name: 'Box Score', exact: true}).first().click();
+    await page.waitForURL(/BoxScores\//);
     assert.match(await page.title(), /Box Score: /);
     await page.waitForLoadState('networkidle');
     assert.deepEqual(page.faults, []);
@@ -184,7 +205,115 @@ function checkSite(open, url, look) {
   });
 }
 
+/** What names that are markup become, and what a page at an odd address or from disk is, whatever the server. */
+function checkPages(url) {
+  const NAMES = ['<img src=x onerror=acted=1>', '<script>acted=1</script>', '<a href="javascript:acted=1">A</a>',
+    '<a href="http://elsewhere.invalid/">B</a>', '<svg onload=acted=1>', '<iframe srcdoc="<script>acted=1</script>">',
+    '<b onclick=acted=1 style="position:fixed">C</b>', '<img src=http://elsewhere.invalid/a.gif>'];
+  const rows = NAMES.map((name) => `<tr><td>1</td><td><img src="../LogoMinis/BOS.gif"></td><td>${name}</td></tr>`);
+
+  test('a name that is markup becomes text', async () => {
+    const page = await browser.newPage({bypassCSP: true});
+    await page.route('**/Rankings/Normal2.php', (route) => route.fulfill({body: rows.join('')}));
+    await page.goto(url('LeagueLeaders.htm'), {waitUntil: 'networkidle'});
+    const {acted, parts, links} = await page.locator('#players tbody').evaluate((body) => ({
+      acted: globalThis.acted,
+      parts: [...body.querySelectorAll('*')].flatMap(({localName, attributes}) =>
+        [localName, ...[...attributes].map(({name}) => `${localName} ${name}`)]),
+      links: [...body.querySelectorAll('[href], [src]')].map((link) => new URL(link.href ?? link.src).host),
+    }));
+    assert.equal(acted, undefined);
+    assert.deepEqual([...new Set(parts)].sort(), ['a', 'b', 'img', 'img alt', 'img src', 'td', 'td data-team', 'tr']);
+    assert.deepEqual([...new Set(links)], [new URL(url('')).host]);
+    assert.equal(await page.locator('#players tbody tr').count(), NAMES.length);
+    await page.close();
+  });
+
+  test('a script within a page of a team does not run', async () => {
+    const page = await browser.newPage();
+    await page.route('**/PStats/team.htm?team=BOS', async (route) => {
+      const answer = await route.fetch();
+      const body = (await answer.text()).replace('<main', `<table>${rows.join('')}</table><main`);
+      await route.fulfill({response: answer, body});
+    });
+    await page.goto(url('PStats/team.htm?team=BOS'), {waitUntil: 'networkidle'});
+    await page.locator('body > table a').first().click();
+    assert.equal(await page.evaluate(() => globalThis.acted), undefined);
+    await page.close();
+  });
+
+  test('the first rows of the leaders, all of them, and those of a team and a name', async () => {
+    const page = await visit(browser, url('LeagueLeaders.htm'));
+    const rows = page.locator('#players tbody tr');
+    assert.equal(await rows.count(), 50);
+    await showAllRows(page);
+    assert.ok(await rows.count() > 400);
+
+    const [team, name] = [page.locator('.filters select'), page.locator('.filters input')];
+    const last = (await rows.last().locator('td').nth(2).innerText()).trim();
+    await name.fill(last.slice(1).toUpperCase());
+    await allDrawn(page);
+    assert.deepEqual(await rows.locator('td:nth-child(3)').allInnerTexts(), [last]);
+    await name.fill('');
+    await team.selectOption('BOS');
+    await allDrawn(page);
+    const logos = await rows.locator('img').evaluateAll((pictures) => pictures.map(({alt}) => alt));
+    assert.deepEqual([...new Set(logos)], ['BOS']);
+
+    const again = await visit(browser, page.url());
+    assert.equal(await again.locator('#players tbody').innerText(), await page.locator('#players tbody').innerText());
+    assert.deepEqual([...page.faults, ...again.faults], []);
+    await Promise.all([page.close(), again.close()]);
+  });
+
+  test('on a telephone the sorted column comes right after the name', async () => {
+    const page = await visit(browser, url('LeagueLeaders.htm'), {viewport: {width: 390, height: 844}});
+    const players = page.locator('#players');
+    const values = await sortBy(page, players, players.locator('th', {hasText: 'GP'}), 'descending');
+    assert.equal(await players.locator('[aria-sort]').evaluate((head) => head.cellIndex), 3);
+    assert.deepEqual(runs(await players.locator('td:nth-child(4)').allInnerTexts()), values);
+    assert.deepEqual(page.faults, []);
+    await page.close();
+  });
+
+  test('from disk the tables are filled where the browser allows it, and say why where it does not', async () => {
+    const address = pathToFileURL(path.join(site, 'PStats/team.htm')) + '?team=BOS';
+    const allowing = await launch('--allow-file-access-from-files');
+    const page = await visit(allowing, address);
+    assert.ok(await page.locator('#skaters tbody tr').count() > 10);
+    assert.deepEqual(page.faults, []);
+    await allowing.close();
+    const refused = await visit(browser, address);
+    assert.match(await refused.locator('#skaters .message').innerText(), /web server/);
+    await refused.close();
+  });
+}
+
+/** What the page of a team shows, its addresses apart: whatever in it is on view. */
+const teamOnView = (page) => page.evaluate(() => {
+  const shown = (selector) => [...document.querySelectorAll(selector)].filter((element) => element.checkVisibility());
+  return {
+    title: document.title,
+    pictures: shown('main img').map(({src}) => src),
+    links: shown('main td a, main .see-also a').map(({href}) => href),
+    notes: shown('main .notice').map(({textContent}) => textContent),
+    rows: shown('main tr').map((row) => [...row.cells].map(({textContent}) => textContent.trim())),
+  };
+});
+
 function checkPhp(url) {
+  test('the page of a team is the same by PHP alone as by scripts alone', async () => {
+    for (const [folder, query] of [['PStats', '?team=TOR'], ['PlayoffPStats', '?team=TOR'], ['PStats', '']]) {
+      const scripts = await visit(browser, url(`${folder}/team.htm${query}`));
+      const php = await visit(browser, url(`${folder}/index.php${query}`), {...desktop, javaScriptEnabled: false});
+      const content = await teamOnView(scripts);
+      assert.ok(query === '' || content.rows.length > 40, `${content.rows.length} rows`);
+      assert.deepEqual(await teamOnView(php), content);
+      assert.deepEqual([...scripts.faults, ...php.faults], []);
+      await Promise.all([scripts.close(), php.close()]);
+    }
+  });
+
   test('without scripts a team\'s rows stand there, and none for a name that is no team', async () => {
     const rowsOf = async (query) => {
       const text = await (await fetch(url(`PStats/index.php?${query}`))).text();
@@ -210,6 +339,8 @@ describe('the site', {concurrency: 2}, () => {
       checkSite((address) => visit(browser, url(address)), url, name === 'preview');
       if (name === 'php') {
         checkPhp(url);
+      } else {
+        checkPages(url);
       }
     });
   }
