@@ -242,6 +242,19 @@ function checkPages(url) {
     await page.close();
   });
 
+  test('the page for what is missing leads home from any folder, and index.html leads there, too', async () => {
+    const page = await browser.newPage();
+    const missing = await (await fetch(url('404.html'))).text();
+    for (const address of ['none.htm', 'BoxScores/none.htm', 'Profiles/BOS/none.htm']) {
+      await page.route(url(address), (route) => route.fulfill({status: 404, contentType: 'text/html', body: missing}));
+      await page.goto(url(address), {waitUntil: 'networkidle'});
+      assert.equal(await page.getByRole('link', {name: 'Home'}).getAttribute('href'), url('index.htm'));
+    }
+    await page.goto(url('index.html'));
+    await page.waitForURL(url('index.htm'));
+    await page.close();
+  });
+
   test('the first rows of the leaders, all of them, and those of a team and a name', async () => {
     const page = await visit(browser, url('LeagueLeaders.htm'));
     const rows = page.locator('#players tbody tr');
