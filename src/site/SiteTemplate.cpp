@@ -2,13 +2,14 @@
 
 #include "store/LeaguePaths.h"
 
+#include <string_view>
+
 namespace iceline {
 
 namespace {
 
-bool isHidden(const std::string& name) {
-    return name.starts_with('.');
-}
+/// Keeps an empty folder in the source; no part of the site.
+constexpr std::string_view FolderKeeper = ".gitkeep";
 
 void copyMissing(Files& from, const std::string& folder, Files& to) {
     const std::string target = paths::WebRoot + folder;
@@ -16,12 +17,11 @@ void copyMissing(Files& from, const std::string& folder, Files& to) {
     to.makeFolder(target);
     for (const std::string& name : from.filesIn(source)) {
         const std::string path = target + "/" + name;
-        if (!isHidden(name) && !to.isFile(path))
+        if (name != FolderKeeper && !to.isFile(path))
             to.write(path, from.read(source.empty() ? name : source + "/" + name));
     }
     for (const std::string& name : from.foldersIn(source))
-        if (!isHidden(name))
-            copyMissing(from, folder + "/" + name, to);
+        copyMissing(from, folder + "/" + name, to);
 }
 
 } // namespace

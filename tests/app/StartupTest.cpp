@@ -100,10 +100,12 @@ TEST(FirstRun, TheSiteBeginsAsACopyOfTheTemplate) {
     MemoryFiles files;
     ProgramRun run(files);
     run.siteTemplate.files["Rankings/.gitkeep"] = "";
+    run.siteTemplate.files[".htaccess"] = "ErrorDocument 404 /404.html";
     ASSERT_TRUE(startUp(run.app));
     EXPECT_EQ(files.read("IcelineWebPages/styles.css"), run.siteTemplate.files["styles.css"]);
     EXPECT_EQ(files.read("IcelineWebPages/PStats/index.php"), run.siteTemplate.files["PStats/index.php"]);
     EXPECT_TRUE(files.isFolder("IcelineWebPages/PlayoffRankings"));
+    EXPECT_EQ(files.read("IcelineWebPages/.htaccess"), run.siteTemplate.files[".htaccess"]);
     EXPECT_FALSE(files.isFile("IcelineWebPages/Rankings/.gitkeep"));
 }
 

@@ -29,8 +29,8 @@ export async function visit(browser, address, options = desktop) {
   page.on('pageerror', (error) => fault(String(error)));
   page.on('requestfailed', (request) => {
     const {errorText} = request.failure();
-    // Chromium tells so of an answer to HEAD, too: its body never comes.
-    if (request.method() !== 'HEAD' || errorText !== 'net::ERR_ABORTED') {
+    // A request that Chromium gives up by itself, as another page was asked for, or for HEAD, whose body never comes.
+    if (errorText !== 'net::ERR_ABORTED') {
       fault(`${errorText} ${request.url()}`);
     }
   });
