@@ -1,8 +1,8 @@
 #pragma once
 
 #include "standings/ConferenceStandings.h"
-#include "standings/DivisionStandings.h"
-#include "standings/HomeAwayStandings.h"
+#include "standings/PointsStandings.h"
+#include "standings/SplitStandings.h"
 #include "standings/VersusStandings.h"
 
 #include <string>

@@ -1,7 +1,7 @@
-#include "standings/ConferenceStandings.h"
+#include "standings/PointsStandings.h"
 
 #include "standings/ClinchMarks.h"
-#include "standings/DivisionStandings.h"
+#include "standings/ConferenceStandings.h"
 #include "standings/StandingsSupport.h"
 
 #include <gmock/gmock.h>

@@ -1,4 +1,4 @@
-#include "standings/DivisionStandings.h"
+#include "standings/PointsStandings.h"
 
 #include "standings/Elimination.h"
 

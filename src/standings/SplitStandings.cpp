@@ -1,4 +1,4 @@
-#include "standings/HomeAwayStandings.h"
+#include "standings/SplitStandings.h"
 
 #include "league/Selection.h"
 #include "standings/StandingsTable.h"
