@@ -1,6 +1,7 @@
 #include "cli/TextTable.h"
 #include "cli/WindowPrinters.h"
 #include "standings/Standings.h"
+#include "standings/StandingsColumns.h"
 
 namespace iceline::cli {
 
@@ -8,56 +9,59 @@ namespace {
 
 using Align = TextTable::Align;
 
-/// The head of a column of team names, wide enough for all of them, so that tables beneath each other align.
+/// The head of a column of team names, wide enough for all of them, so that tables one above the other align.
 TextTable::Column teamColumn(const std::string& title) {
     constexpr std::size_t LongestName = 21;
     return {padded(title, LongestName, Align::Left), Align::Left};
 }
 
+/// The heads of the figures; `over` is what the first bears before its caption.
+template <class Columns>
+void addHeads(std::vector<TextTable::Column>& heads, const Columns& columns, const std::string& over = "") {
+    for (const auto& column : columns)
+        heads.push_back({(&column == &columns.front() ? over : "") + std::string(column.caption)});
+}
+
+template <class Columns, class Record>
+void addFigures(std::vector<std::string>& cells, const Columns& columns, const Record& record) {
+    for (const auto& column : columns)
+        cells.push_back(column.text(record));
+}
+
 template <class Rows>
 TextTable pointsTable(const std::string& title, const Rows& rows) {
-    TextTable table(
-        {{"", Align::Left}, teamColumn(title), {"W"}, {"L"}, {"T"}, {"Pts."}, {"GF"}, {"GA"}, {"GP"}});
-    for (const StandingsRow& row : rows) {
+    std::vector<TextTable::Column> heads{{"", Align::Left}, teamColumn(title)};
+    addHeads(heads, PointsColumns);
+    TextTable table(heads);
+    for (const PointsRow& row : rows) {
         std::vector<std::string> cells{row.mark, std::string(TeamName[row.team])};
-        for (const int figure : {row.wins, row.losses, row.ties, row.points, row.GF, row.GA, row.GP})
-            cells.push_back(std::to_string(figure));
+        addFigures(cells, PointsColumns, row.figures);
         table.addRow(cells);
     }
     return table;
 }
 
-void addRecord(std::vector<std::string>& cells, const SplitRecord& record) {
-    for (const int figure : {record.wins, record.losses, record.ties})
-        cells.push_back(std::to_string(figure));
-    cells.push_back(winPercentText(record));
-}
-
 TextTable homeAwayTable(const std::string& title, const HomeAwayRows& rows) {
-    TextTable table({teamColumn(title), {"W"}, {"L"}, {"T"}, {"Win%"}, {"GP"}});
+    std::vector<TextTable::Column> heads{teamColumn(title)};
+    addHeads(heads, HomeAwayColumns);
+    TextTable table(heads);
     for (const HomeAwayRow& row : rows) {
         std::vector<std::string> cells{std::string(TeamName[row.team])};
-        addRecord(cells, row.record);
-        cells.push_back(std::to_string(row.GP));
+        addFigures(cells, HomeAwayColumns, row.record);
         table.addRow(cells);
     }
     return table;
 }
 
 TextTable versusTable(const std::string& title, const VersusRows& rows) {
-    TextTable table({teamColumn(title),
-                     {"vs. Eastern Conf.  W"},
-                     {"L"},
-                     {"T"},
-                     {"Win%"},
-                     {"vs. Western Conf.  W"},
-                     {"L"},
-                     {"T"},
-                     {"Win%"}});
+    std::vector<TextTable::Column> heads{teamColumn(title)};
+    addHeads(heads, VersusColumns, "vs. Eastern Conf.  ");
+    addHeads(heads, VersusColumns, "vs. Western Conf.  ");
+    TextTable table(heads);
     for (const VersusRow& row : rows) {
         std::vector<std::string> cells{std::string(TeamName[row.team])};
         for (const SplitRecord& record : row.against)
-            addRecord(cells, record);
+            addFigures(cells, VersusColumns, record);
         table.addRow(cells);
     }
     return table;

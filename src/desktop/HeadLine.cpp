@@ -20,11 +20,13 @@ void HeadLine::paintEvent(QPaintEvent*) {
     const QStringList heads = text().split(TwoBlanks, Qt::SkipEmptyParts);
     QPainter painter(this);
     painter.setPen(palette().color(foregroundRole()));
-    for (qsizetype i = 0; i < std::min(heads.size(), static_cast<qsizetype>(columns_.size())); ++i) {
-        const QLabel& column = *columns_[i];
-        const int left = mapFromGlobal(column.mapToGlobal(QPoint())).x();
-        painter.drawText(QRect(left, 0, column.width(), height()),
-                         static_cast<int>(column.alignment()) | Qt::TextDontClip, heads[i]);
+    auto head = heads.begin();
+    for (const QLabel* column : columns_) {
+        if (head == heads.end())
+            break;
+        const int left = mapFromGlobal(column->mapToGlobal(QPoint())).x();
+        painter.drawText(QRect(left, 0, column->width(), height()),
+                         static_cast<int>(column->alignment()) | Qt::TextDontClip, *head++);
     }
 }
 

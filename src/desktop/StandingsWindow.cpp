@@ -4,6 +4,7 @@
 #include "desktop/HeadLine.h"
 #include "desktop/QtPlatform.h"
 #include "desktop/TeamRowsPanel.h"
+#include "standings/StandingsColumns.h"
 
 #include <QGridLayout>
 #include <QGroupBox>
@@ -13,7 +14,7 @@ namespace iceline::desktop {
 
 namespace {
 
-/// Heights of a row, where there is room and where 24 rows stand beneath each other.
+/// Heights of a row, where there is room and where there are 24 of them.
 constexpr int RowHeight = 36;
 constexpr int NarrowRowHeight = 24;
 
@@ -33,46 +34,28 @@ const std::array<DivisionNames, 4>& divisionNames() {
     return names;
 }
 
-std::vector<FigureColumn> columns(const QString& prefix,
-                                  std::initializer_list<std::pair<const char*, const char*>> namesAndHeads) {
-    std::vector<FigureColumn> columns;
-    for (const auto& [name, head] : namesAndHeads)
-        columns.push_back({prefix + QLatin1String(name), QLatin1String(head)});
-    return columns;
+/// The columns of a table whose control arrays have a prefix before the name of each column.
+template <class Columns>
+std::vector<FigureColumn> figureColumns(const QString& prefix, const Columns& columns) {
+    std::vector<FigureColumn> figures;
+    for (const auto& column : columns)
+        figures.push_back({prefix + toQt(column.control), toQt(column.caption)});
+    return figures;
 }
 
-std::vector<FigureColumn> pointsColumns(const QString& prefix) {
-    return columns(prefix, {{"Wins", "W"},
-                            {"Losses", "L"},
-                            {"Ties", "T"},
-                            {"Points", "Pts."},
-                            {"GoalsFor", "GF"},
-                            {"GoalsAgainst", "GA"},
-                            {"GP", "GP"}});
-}
-
-std::vector<FigureColumn> splitColumns(const QString& prefix) {
-    return columns(prefix, {{"Wins", "W"}, {"Losses", "L"}, {"Ties", "T"}, {"GP", "Win%"}});
-}
-
-QStringList texts(std::initializer_list<int> figures) {
+template <class Columns, class Record>
+QStringList texts(const Columns& columns, const Record& record) {
     QStringList texts;
-    for (const int figure : figures)
-        texts << QString::number(figure);
+    for (const auto& column : columns)
+        texts << toQt(column.text(record));
     return texts;
-}
-
-QStringList texts(const SplitRecord& record) {
-    return texts({record.wins, record.losses, record.ties}) << toQt(winPercentText(record));
 }
 
 template <class Rows>
 void showRows(TeamRowsPanel* panel, const Rows& rows) {
-    int place = 0;
-    for (const StandingsRow& row : rows)
-        panel->show(place++, row.team,
-                    texts({row.wins, row.losses, row.ties, row.points, row.GF, row.GA, row.GP}),
-                    toQt(row.mark));
+    std::size_t place = 0;
+    for (const PointsRow& row : rows)
+        panel->show(place++, row.team, texts(PointsColumns, row.figures), toQt(row.mark));
 }
 
 QLabel* markLegend(QWidget* parent) {
@@ -86,7 +69,7 @@ QString conferenceTitle(Conference conference) {
                                            : QStringLiteral("Campbell (West)");
 }
 
-/// Room for two tables beside each other, as wide as each other.
+/// Room for two tables side by side, of equal width.
 QGridLayout* twoTables(QWidget* owner) {
     auto* grid = new QGridLayout(owner);
     grid->setHorizontalSpacing(32);
@@ -128,18 +111,19 @@ QWidget* StandingsWindow::makeDivisionTab() {
                        "Norris Div.           W      L       T    Pts.   GF    GA   GP"),
         QStringLiteral("Patrick Div.          W      L       T  Pts.   GF     GA     GP       "
                        "Smythe Div.        W      L       T    Pts.   GF    GA   GP")};
-    for (int line = 0; line < 2; ++line) {
+    for (std::size_t line = 0; line < 2; ++line) {
+        const int gridLine = 2 * static_cast<int>(line);
         auto* headLine = new HeadLine(LineNames[line], heads[line], box);
-        grid->addWidget(headLine, 2 * line, 0, 1, 2);
+        grid->addWidget(headLine, gridLine, 0, 1, 2);
         std::vector<QLabel*> headed;
-        for (const int division : {line, line + 2}) {
+        for (const std::size_t division : {line, line + 2}) {
             const auto& [figures, marks] = divisionNames()[division];
-            std::vector<FigureColumn> columns = pointsColumns(figures);
+            std::vector<FigureColumn> columns = figureColumns(figures, PointsColumns);
             for (FigureColumn& column : columns)
                 column.head.clear();
             divisions_[division] =
                 new TeamRowsPanel({figures, marks, columns}, DivisionTeams, RowHeight, box);
-            grid->addWidget(divisions_[division], 2 * line + 1, division / 2);
+            grid->addWidget(divisions_[division], gridLine + 1, division == line ? 0 : 1);
             const auto labels = divisions_[division]->firstRow();
             headed.insert(headed.end(), labels.begin(), labels.end());
         }
@@ -153,14 +137,15 @@ QWidget* StandingsWindow::makeDivisionTab() {
 QWidget* StandingsWindow::makeConferenceTab() {
     QGroupBox* box = frame("Frame3", QStringLiteral("Conference Standings"), this);
     QGridLayout* grid = twoTables(box);
-    for (int i = 0; i < 2; ++i) {
+    for (std::size_t i = 0; i < conferences_.size(); ++i) {
         const QString side = i == 0 ? QStringLiteral("East") : QStringLiteral("West");
-        conferences_[i] = new TeamRowsPanel({side + QStringLiteral("ernConference"),
-                                             side.toUpper() + QStringLiteral("Clinch"), pointsColumns(side)},
-                                            ConferenceTeams, RowHeight, box);
+        conferences_[i] =
+            new TeamRowsPanel({side + QStringLiteral("ernConference"),
+                               side.toUpper() + QStringLiteral("Clinch"), figureColumns(side, PointsColumns)},
+                              ConferenceTeams, RowHeight, box);
         conferences_[i]->setTitle(conferenceTitle(static_cast<Conference>(i)));
-        conferences_[i]->setLastPlayoffRow(7);
-        grid->addWidget(conferences_[i], 0, i);
+        conferences_[i]->setLastPlayoffRow(PlayoffPlaces - 1);
+        grid->addWidget(conferences_[i], 0, static_cast<int>(i));
     }
     grid->setRowStretch(1, 1);
     grid->addWidget(markLegend(box), 2, 0, 1, 2);
@@ -172,13 +157,9 @@ QWidget* StandingsWindow::makeHomeAwayTab() {
     QGridLayout* grid = twoTables(box);
     grid->setVerticalSpacing(0);
     const auto add = [&](const QString& side, int column) {
-        auto* panel = new TeamRowsPanel(
-            {QStringLiteral("Teams") + side,
-             {},
-             columns(
-                 side,
-                 {{"Wins", "W"}, {"Losses", "L"}, {"Ties", "T"}, {"TeamWinPct", "Win%"}, {"TeamsGP", "GP"}})},
-            LeagueTeams, NarrowRowHeight, box);
+        auto* panel =
+            new TeamRowsPanel({QStringLiteral("Teams") + side, {}, figureColumns(side, HomeAwayColumns)},
+                              LeagueTeams, NarrowRowHeight, box);
         grid->addWidget(panel, 1, column);
         return panel;
     };
@@ -207,15 +188,16 @@ QWidget* StandingsWindow::makeVersusTab() {
 TeamRowsPanel* StandingsWindow::makeVersusPanel(Conference conference, QWidget* parent) {
     const bool wales = conference == Conference::Wales;
     const QString prefix = wales ? QStringLiteral("Evs") : QStringLiteral("WVs");
-    std::vector<FigureColumn> figures = splitColumns(prefix + QStringLiteral("East"));
-    for (const FigureColumn& column : splitColumns(prefix + QStringLiteral("West")))
+    std::vector<FigureColumn> figures = figureColumns(prefix + QStringLiteral("East"), VersusColumns);
+    for (const FigureColumn& column : figureColumns(prefix + QStringLiteral("West"), VersusColumns))
         figures.push_back(column);
     auto* panel =
         new TeamRowsPanel({wales ? QStringLiteral("TeamsEast") : QStringLiteral("TeamsWest"), {}, figures},
                           ConferenceTeams, RowHeight, parent);
     panel->setTitle(conferenceTitle(conference));
-    panel->addHeadOver(makeSortHead(conference, Conference::Wales, panel), 0, 4);
-    panel->addHeadOver(makeSortHead(conference, Conference::Campbell, panel), 4, 4);
+    constexpr int Columns = VersusColumns.size();
+    panel->addHeadOver(makeSortHead(conference, Conference::Wales, panel), 0, Columns);
+    panel->addHeadOver(makeSortHead(conference, Conference::Campbell, panel), Columns, Columns);
     return versus_[static_cast<std::size_t>(conference)] = panel;
 }
 
@@ -251,9 +233,9 @@ void StandingsWindow::refresh() {
 
 void StandingsWindow::showHomeAway(const HomeAwayStandings& standings) {
     const auto show = [](TeamRowsPanel* panel, const HomeAwayRows& rows) {
-        int place = 0;
+        std::size_t place = 0;
         for (const HomeAwayRow& row : rows)
-            panel->show(place++, row.team, texts(row.record) << QString::number(row.GP));
+            panel->show(place++, row.team, texts(HomeAwayColumns, row.record));
     };
     show(home_, standings.home);
     show(away_, standings.away);
@@ -261,9 +243,11 @@ void StandingsWindow::showHomeAway(const HomeAwayStandings& standings) {
 
 void StandingsWindow::showVersus(const Standings::Content& content) {
     for (std::size_t table = 0; table < versus_.size(); ++table) {
-        int place = 0;
+        std::size_t place = 0;
         for (const VersusRow& row : content.versus[table])
-            versus_[table]->show(place++, row.team, texts(row.against[0]) + texts(row.against[1]));
+            versus_[table]->show(place++, row.team,
+                                 texts(VersusColumns, row.recordAgainst(Conference::Wales)) +
+                                     texts(VersusColumns, row.recordAgainst(Conference::Campbell)));
         for (std::size_t against = 0; against < 2; ++against)
             sortHeads_[table][against]->mark(
                 static_cast<std::size_t>(content.versusRankedBy[table]) == against ? SortMark::Descending

@@ -79,7 +79,7 @@ void TeamRowsPanel::setTitle(const QString& title) {
                      FirstFigureColumn);
 }
 
-void TeamRowsPanel::show(int row, TeamIndex team, const QStringList& figures, const QString& mark) {
+void TeamRowsPanel::show(std::size_t row, TeamIndex team, const QStringList& figures, const QString& mark) {
     const Row& shown = rows_.at(row);
     showTeamBanner(shown.banner, team, BannerHeight);
     for (std::size_t i = 0; i < shown.figures.size(); ++i)

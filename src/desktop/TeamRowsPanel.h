@@ -40,10 +40,10 @@ public:
     /// A hint before the heads in that line.
     void addHint(QWidget* hint);
 
-    /// Draws a line beneath a row: the places above it go to the play-offs.
+    /// Draws a line below a row: the places above it go to the play-offs.
     void setLastPlayoffRow(int row) { lastPlayoffRow_ = row; }
 
-    void show(int row, TeamIndex team, const QStringList& figures, const QString& mark = {});
+    void show(std::size_t row, TeamIndex team, const QStringList& figures, const QString& mark = {});
 
     /// The banner and the figures of the first row.
     std::vector<QLabel*> firstRow() const;

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "league/LeagueTable.h"
 #include "league/StarOfGame.h"
 #include "store/LeagueFiles.h"
 #include "store/LeaguePaths.h"
@@ -44,24 +45,15 @@ struct ApplicationState {
     std::array<StarOfGame, 3> Star;
     std::array<int, 3> StarSlot{}; ///< roster rows of the stars, 0 to 24
 
-    /// Standings: wins, losses, ties, points, games played, goals for, goals against, goal difference a game
-    /// as a whole number, power ranking in hundredths; a row for each team.
-    std::array<std::array<int, 9>, 26> StandingsTable{};
-    std::array<TeamIndex, 6> AdamsOrder{};
-    std::array<TeamIndex, 6> PatrickOrder{};
-    std::array<TeamIndex, 6> NorrisOrder{};
-    std::array<TeamIndex, 6> SmytheOrder{};
-    std::array<std::string, 26> ClinchMark; ///< "", "x", "y" or "z"
-    std::array<TeamIndex, 12> WalesSeeds{};
-    std::array<TeamIndex, 12> CampbellSeeds{};
-
-    /// Wins, losses, ties, winning percentage in thousandths, games played; and the order of the 24 teams.
-    std::array<std::array<int, 5>, LeagueTeams> HomeAwayTable{};
-    std::array<TeamIndex, LeagueTeams> HomeAwayOrder{};
-
-    /// Team, then wins, losses, ties and percentage in thousandths against Wales, then against Campbell.
-    std::array<std::array<int, 9>, 12> WalesVersus{};
-    std::array<std::array<int, 9>, 12> CampbellVersus{};
+    /// The standings as they were last worked out.
+    LeagueTable StandingsTable;
+    DivisionOrder AdamsOrder;
+    DivisionOrder PatrickOrder;
+    DivisionOrder NorrisOrder;
+    DivisionOrder SmytheOrder;
+    ConferenceSeeds WalesSeeds;
+    ConferenceSeeds CampbellSeeds;
+    std::array<std::string, LeagueTeams> ClinchMark; ///< "", "x", "y" or "z"
 
     PlayoffSeriesTable PlayoffSeries;
 

@@ -9,12 +9,6 @@
 
 namespace iceline {
 
-inline constexpr int DivisionTeams = 6;
-inline constexpr int ConferenceTeams = 12;
-
-using DivisionOrder = std::array<TeamIndex, DivisionTeams>;
-using ConferenceSeeds = std::array<TeamIndex, ConferenceTeams>;
-
 /// A division: its name and where the shared state keeps its order, best team first.
 struct DivisionInfo {
     std::string_view name;

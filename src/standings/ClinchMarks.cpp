@@ -1,7 +1,6 @@
 #include "standings/ClinchMarks.h"
 
 #include "standings/Alignment.h"
-#include "standings/StandingsTable.h"
 
 #include <span>
 #include <tuple>
@@ -10,22 +9,16 @@ namespace iceline {
 
 namespace {
 
-constexpr std::size_t PlayoffPlaces = 8;
-
 /// What the marks are worked out from.
 struct Race {
-    const StandingsTable& table;
+    const LeagueTable& table;
     int seasonLength;
 
-    int figure(TeamIndex team, StandingsFigure figure) const { return figureOf(table, team, figure); }
-    int points(TeamIndex team) const { return figure(team, StandingsFigure::Points); }
-    int wins(TeamIndex team) const { return figure(team, StandingsFigure::Wins); }
+    int points(TeamIndex team) const { return table[team].Points; }
+    int wins(TeamIndex team) const { return table[team].Wins; }
+    bool isDone(TeamIndex team) const { return table[team].GP == seasonLength; }
 
-    bool isDone(TeamIndex team) const { return figure(team, StandingsFigure::GP) == seasonLength; }
-
-    int reach(TeamIndex team) const {
-        return points(team) + 2 * (seasonLength - figure(team, StandingsFigure::GP));
-    }
+    int reach(TeamIndex team) const { return points(team) + 2 * (seasonLength - table[team].GP); }
 
     bool outOfReach(TeamIndex team, TeamIndex rival) const { return points(team) > reach(rival); }
 
@@ -40,9 +33,8 @@ struct Race {
     /// Power ranking, goal difference and goals for: what tells teams apart that are level on points and
     /// wins.
     auto tieBreaks(TeamIndex team) const {
-        const int goals = figure(team, StandingsFigure::GF);
-        return std::tuple(figure(team, StandingsFigure::PowerRanking),
-                          goals - figure(team, StandingsFigure::GA), goals);
+        const TeamStanding& own = table[team];
+        return std::tuple(own.PowerRanking, own.GF - own.GA, own.GF);
     }
 
     bool winsTieBreak(TeamIndex team, TeamIndex rival) const {

@@ -6,50 +6,36 @@ namespace iceline {
 
 namespace {
 
-/// Teams still in the running. A list that is emptied keeps what stands in its places until it is written
-/// from the first one again.
-struct RunningList {
-    std::array<TeamIndex, LeagueTeams> teams{};
-    int count = 0;
+using Teams = std::vector<TeamIndex>;
 
-    void add(TeamIndex team) { teams[count++] = team; }
-};
-
-void keepBest(const StandingsTable& table, StandingsFigure key, const RunningList& from, RunningList& into) {
+/// The teams that are level on the best value of a figure; none when all values are negative.
+Teams levelOnBest(const LeagueTable& table, const Teams& teams, int TeamStanding::*figure) {
     int best = 0;
-    into.count = 0;
-    for (int place = from.count - 1; place >= 0; --place) {
-        const int value = figureOf(table, from.teams[place], key);
-        if (value < best)
-            continue;
-        if (value > best)
-            into.count = 0;
-        best = value;
-        into.add(from.teams[place]);
-    }
-}
-
-RunningList listOf(const std::vector<TeamIndex>& teams) {
-    RunningList list;
-    std::ranges::for_each(teams, [&list](TeamIndex team) { list.add(team); });
-    return list;
+    for (const TeamIndex team : teams)
+        best = std::max(best, table[team].*figure);
+    Teams level;
+    std::ranges::copy_if(teams, std::back_inserter(level),
+                         [&](TeamIndex team) { return table[team].*figure == best; });
+    return level;
 }
 
 } // namespace
 
-TeamIndex bestByElimination(const StandingsTable& table, const std::vector<TeamIndex>& candidates) {
-    RunningList odd = listOf({candidates.rbegin(), candidates.rend()});
-    RunningList even;
-    keepBest(table, StandingsFigure::Points, listOf(candidates), odd);
-    keepBest(table, StandingsFigure::Wins, odd, even);
-    keepBest(table, StandingsFigure::PowerRanking, even, odd);
-    keepBest(table, StandingsFigure::Diff, odd, even);
-    keepBest(table, StandingsFigure::GF, even, odd);
-    return odd.teams.front();
+TeamIndex bestByElimination(const LeagueTable& table, const Teams& candidates) {
+    const auto filter = [&table](const Teams& teams, int TeamStanding::*figure) {
+        return levelOnBest(table, teams, figure);
+    };
+    const Teams byPoints = filter(candidates, &TeamStanding::Points);
+    const Teams byRanking = filter(filter(byPoints, &TeamStanding::Wins), &TeamStanding::PowerRanking);
+    const Teams byGoals = filter(filter(byRanking, &TeamStanding::Difference), &TeamStanding::GF);
+    for (const Teams* left : {&byGoals, &byRanking, &byPoints})
+        if (!left->empty())
+            return left->back();
+    return candidates.back();
 }
 
-std::vector<TeamIndex> eliminationOrder(const StandingsTable& table, std::vector<TeamIndex> candidates) {
-    std::vector<TeamIndex> order;
+std::vector<TeamIndex> eliminationOrder(const LeagueTable& table, Teams candidates) {
+    Teams order;
     while (!candidates.empty()) {
         order.push_back(bestByElimination(table, candidates));
         std::erase(candidates, order.back());

@@ -1,24 +1,22 @@
 #pragma once
 
-#include "standings/StandingsTable.h"
+#include "league/LeagueTable.h"
 
 #include <vector>
 
 namespace iceline {
 
-/// The best of `candidates`, of which there is at least one and which stand in the order of the team table.
+/// The best of `candidates`, of which there is at least one and which are in the order of the team table.
 ///
-/// Five stages, each of which keeps the teams level on the best value of its key, the higher the better:
-/// points, wins, power ranking, goal difference a game, goals for. Teams level on all five go by the team
-/// table, the last first.
+/// Three filters, one after the other, leave the teams that are level on the best values of their keys, the
+/// higher the better: points; wins, then power ranking; goal difference a game, then goals for. Of the teams
+/// that are left the last in the team table is the best.
 ///
-/// A negative value never qualifies. Where all are negative the keys behind that one decide nothing: without
-/// a goal difference that qualifies the choice is the first of the teams that the power ranking kept, and
-/// without a power ranking or wins that qualify the first of those that the points kept, again by the team
-/// table, the last first.
-TeamIndex bestByElimination(const StandingsTable& table, const std::vector<TeamIndex>& candidates);
+/// A negative value never qualifies. A filter whose keys nobody qualifies for leaves the choice to the one
+/// before it: the last in the team table of the teams that that one left, whatever their other keys.
+TeamIndex bestByElimination(const LeagueTable& table, const std::vector<TeamIndex>& candidates);
 
 /// All candidates, best first, by repeated elimination.
-std::vector<TeamIndex> eliminationOrder(const StandingsTable& table, std::vector<TeamIndex> candidates);
+std::vector<TeamIndex> eliminationOrder(const LeagueTable& table, std::vector<TeamIndex> candidates);
 
 } // namespace iceline

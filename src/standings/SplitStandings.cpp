@@ -1,52 +1,83 @@
 #include "standings/SplitStandings.h"
 
+#include "league/Numbers.h"
 #include "league/Selection.h"
-#include "standings/StandingsTable.h"
+#include "standings/WholeFigure.h"
 #include "store/TeamFiles.h"
-
-#include <algorithm>
 
 namespace iceline {
 
 namespace {
 
-using Table = decltype(ApplicationState::HomeAwayTable);
+/// The rows by winning percentage, best first. `recordOf` gives the record of a row that counts.
+template <class Rows, class RecordOf>
+Rows byWinPercent(const Rows& rows, RecordOf recordOf) {
+    std::array<int, std::tuple_size_v<Rows>> percentages{};
+    std::ranges::transform(rows, percentages.begin(),
+                           [&](const auto& row) { return recordOf(row).WinPercent; });
+    Rows ranked;
+    std::ranges::transform(selectionOrder(percentages, Direction::HighestFirst), ranked.begin(),
+                           [&rows](int row) { return rows[static_cast<std::size_t>(row)]; });
+    return ranked;
+}
 
-/// Columns of HomeAwayTable.
-enum Column { Wins, Losses, Ties, WinPercent, GP };
+HomeAwayRows byWinPercent(const HomeAwayRows& rows) {
+    return byWinPercent(rows, [](const HomeAwayRow& row) { return row.record; });
+}
 
-HomeAwayRows rowsOf(const Table& table, ApplicationState& state) {
-    std::array<int, LeagueTeams> percentages{};
-    std::ranges::transform(table, percentages.begin(), [](const auto& row) { return row[WinPercent]; });
-    std::ranges::transform(selectionOrder(percentages, Direction::HighestFirst), state.HomeAwayOrder.begin(),
-                           [](int team) { return TeamIndex(team); });
-    state.HomeAwayTable = table;
+/// Wins, losses and ties against the teams of one conference, as a team's record holds them.
+struct CountsInRecord {
+    double TeamRecord::*wins;
+    double TeamRecord::*losses;
+    double TeamRecord::*ties;
+};
 
-    HomeAwayRows rows;
-    std::ranges::transform(state.HomeAwayOrder, rows.begin(), [&table](TeamIndex team) {
-        const auto& row = table[team];
-        return HomeAwayRow{team, {row[Wins], row[Losses], row[Ties], row[WinPercent]}, row[GP]};
-    });
-    return rows;
+constexpr CountsInRecord AgainstOwn{&TeamRecord::SameConfW, &TeamRecord::SameConfL, &TeamRecord::SameConfT};
+constexpr CountsInRecord AgainstOther{&TeamRecord::OtherConfW, &TeamRecord::OtherConfL,
+                                      &TeamRecord::OtherConfT};
+
+SplitRecord splitRecord(TeamIndex team, const TeamRecord& record, const CountsInRecord& counts) {
+    SplitRecord split{.Wins = wholeFigure(team, record, counts.wins),
+                      .Losses = wholeFigure(team, record, counts.losses),
+                      .Ties = wholeFigure(team, record, counts.ties)};
+    split.GP = split.Wins + split.Losses + split.Ties;
+    if (split.GP != 0)
+        split.WinPercent = wholeNumber(1000.0 * split.Wins / split.GP);
+    return split;
 }
 
 } // namespace
 
-HomeAwayStandings readHomeAwayStandings(Files& files, ApplicationState& state) {
-    Table home{};
-    Table away{};
+HomeAwayStandings readHomeAwayStandings(Files& files) {
+    HomeAwayStandings standings;
     for (const TeamIndex team : AllLeagueTeams) {
         const TeamRecord record = readTeamRecord(files, paths::teamFolder(team));
-        home[team] = {record.HW, record.HL, record.HT,
-                      scaledFigure(team, record, &TeamRecord::HWinPercent, 1000), record.HGP};
-        away[team] = {record.AW, record.AL, record.AT,
-                      scaledFigure(team, record, &TeamRecord::AWinPercent, 1000), record.AGP};
+        standings.home[team] = {team,
+                                {record.HW, record.HL, record.HT,
+                                 wholeFigure(team, record, &TeamRecord::HWinPercent, 1000), record.HGP}};
+        standings.away[team] = {team,
+                                {record.AW, record.AL, record.AT,
+                                 wholeFigure(team, record, &TeamRecord::AWinPercent, 1000), record.AGP}};
     }
-    // One after the other: the shared table ends with the away figures.
-    HomeAwayStandings standings;
-    standings.home = rowsOf(home, state);
-    standings.away = rowsOf(away, state);
-    return standings;
+    return {byWinPercent(standings.home), byWinPercent(standings.away)};
+}
+
+VersusRows readVersusRows(Files& files, Conference conference) {
+    VersusRows rows;
+    auto row = rows.begin();
+    for (const TeamIndex team : teamsOf(conference)) {
+        const TeamRecord record = readTeamRecord(files, paths::teamFolder(team));
+        row->team = team;
+        row->against[static_cast<std::size_t>(conference)] = splitRecord(team, record, AgainstOwn);
+        row->against[static_cast<std::size_t>(otherConference(conference))] =
+            splitRecord(team, record, AgainstOther);
+        ++row;
+    }
+    return rows;
+}
+
+VersusRows ranked(const VersusRows& rows, Conference opponents) {
+    return byWinPercent(rows, [opponents](const VersusRow& row) { return row.recordAgainst(opponents); });
 }
 
 } // namespace iceline

@@ -1,22 +1,17 @@
 #include "standings/Standings.h"
 
-#include "page/PageFrame.h"
 #include "shell/Application.h"
 #include "standings/ClinchMarks.h"
-#include "standings/StandingsTable.h"
+#include "standings/StandingsPages.h"
 
 namespace iceline {
 
 namespace {
 
-const VersusTable& versusTable(const ApplicationState& state, Conference conference) {
-    return conference == Conference::Wales ? state.WalesVersus : state.CampbellVersus;
-}
-
 template <class Tables>
 void showMarks(Tables& tables, const ApplicationState& state) {
     for (auto& rows : tables)
-        for (StandingsRow& row : rows)
+        for (PointsRow& row : rows)
             row.mark = state.ClinchMark[row.team];
 }
 
@@ -34,19 +29,10 @@ void Standings::Form_Load() {
     DivisionStandingsUpdate();
     HomeAwayStandingsUpdate();
     vsConfLoad();
-    if (!writesPages()) {
-        EvE_Click();
-        WvW_Click();
-        return;
-    }
-    EvW_Click();
     EvE_Click();
-    WvE_Click();
     WvW_Click();
-    const auto& [wales, campbell] = content_.versus;
-    writePage(app_.files(), paths::page("vsConfStandings.htm"),
-              versusStandingsPage({{{wales, versusRows(app_.state.WalesVersus, EvWOrder)},
-                                    {campbell, versusRows(app_.state.CampbellVersus, WvEOrder)}}}));
+    if (writesPages())
+        writeVersusStandings(app_.files(), versus_);
 }
 
 void Standings::DivisionStandingsUpdate() {
@@ -54,8 +40,7 @@ void Standings::DivisionStandingsUpdate() {
     orderDivisions(app_.state);
     content_.divisions = divisionRows(app_.state);
     if (writesPages())
-        writePage(app_.files(), paths::page("DivisionStandings.htm"),
-                  divisionStandingsPage(content_.divisions));
+        writeDivisionStandings(app_.files(), content_.divisions);
     ConferenceStandingsUpdate();
 }
 
@@ -63,8 +48,7 @@ void Standings::ConferenceStandingsUpdate() {
     seedConferences(app_.state);
     content_.conferences = conferenceRows(app_.state);
     if (writesPages())
-        writePage(app_.files(), paths::page("ConferenceStandings.htm"),
-                  conferenceStandingsPage(content_.conferences));
+        writeConferenceStandings(app_.files(), content_.conferences);
     markClinched(app_.state);
     ClinchMarksUpdate();
 }
@@ -76,15 +60,15 @@ void Standings::ClinchMarksUpdate() {
 }
 
 void Standings::HomeAwayStandingsUpdate() {
-    content_.homeAway = readHomeAwayStandings(app_.files(), app_.state);
+    content_.homeAway = readHomeAwayStandings(app_.files());
     if (writesPages())
-        writePage(app_.files(), paths::page("HomeAwayStandings.htm"),
-                  homeAwayStandingsPage(content_.homeAway));
+        writeHomeAwayStandings(app_.files(), content_.homeAway);
     changed();
 }
 
 void Standings::vsConfLoad() {
-    readVersusTables(app_.files(), app_.state);
+    versus_ = {readVersusRows(app_.files(), Conference::Wales),
+               readVersusRows(app_.files(), Conference::Campbell)};
 }
 
 void Standings::EvE_Click() {
@@ -92,9 +76,7 @@ void Standings::EvE_Click() {
 }
 
 void Standings::EvW_Click() {
-    const VersusOrder order = rank(Conference::Wales, Conference::Campbell);
-    if (writesPages())
-        EvWOrder = order;
+    rank(Conference::Wales, Conference::Campbell);
 }
 
 void Standings::WvW_Click() {
@@ -102,19 +84,14 @@ void Standings::WvW_Click() {
 }
 
 void Standings::WvE_Click() {
-    const VersusOrder order = rank(Conference::Campbell, Conference::Wales);
-    if (writesPages())
-        WvEOrder = order;
+    rank(Conference::Campbell, Conference::Wales);
 }
 
-VersusOrder Standings::rank(Conference conference, Conference opponents) {
-    const VersusTable& table = versusTable(app_.state, conference);
+void Standings::rank(Conference conference, Conference opponents) {
     const auto index = static_cast<std::size_t>(conference);
-    VersusOrder order = versusOrder(table, opponents);
-    content_.versus[index] = versusRows(table, order);
+    content_.versus[index] = ranked(versus_[index], opponents);
     content_.versusRankedBy[index] = opponents;
     changed();
-    return order;
 }
 
 } // namespace iceline

@@ -1,7 +1,8 @@
 #pragma once
 
 #include "shell/Window.h"
-#include "standings/StandingsPages.h"
+#include "standings/PointsStandings.h"
+#include "standings/SplitStandings.h"
 
 namespace iceline {
 
@@ -19,12 +20,12 @@ public:
 
     /// What the window shows.
     struct Content {
-        std::array<DivisionRows, 4> divisions;     ///< by Division
-        std::array<ConferenceRows, 2> conferences; ///< by Conference
+        std::array<DivisionRows, Divisions.size()> divisions;       ///< by Division
+        std::array<ConferenceRows, Conferences.size()> conferences; ///< by Conference
         HomeAwayStandings homeAway;
-        std::array<VersusRows, 2> versus; ///< by Conference
-        /// Against whom each conference's versus table is ranked: the label that is red.
-        std::array<Conference, 2> versusRankedBy{Conference::Wales, Conference::Campbell};
+        std::array<VersusRows, Conferences.size()> versus; ///< by Conference
+        /// Against whom each conference's versus rows are ranked: the label that is red.
+        std::array<Conference, Conferences.size()> versusRankedBy{Conference::Wales, Conference::Campbell};
     };
 
     void Form_Load() override;
@@ -41,7 +42,7 @@ public:
 
     void HomeAwayStandingsUpdate();
 
-    /// Renews WalesVersus and CampbellVersus and shows nothing.
+    /// Renews what the four clicks rank, and shows nothing.
     void vsConfLoad();
 
     /// Ranks a conference (the first letter, E for Wales) by its record against a conference (the last).
@@ -54,11 +55,10 @@ public:
 
 private:
     bool writesPages() const;
-    VersusOrder rank(Conference conference, Conference opponents);
+    void rank(Conference conference, Conference opponents);
 
     Content content_;
-    VersusOrder EvWOrder; ///< rows of WalesVersus by the record against Campbell, for the page
-    VersusOrder WvEOrder; ///< rows of CampbellVersus by the record against Wales, for the page
+    std::array<VersusRows, Conferences.size()> versus_; ///< by Conference, in the order of the team table
 };
 
 } // namespace iceline

@@ -1,31 +1,23 @@
 #pragma once
 
-#include "standings/ConferenceStandings.h"
 #include "standings/PointsStandings.h"
 #include "standings/SplitStandings.h"
-#include "standings/VersusStandings.h"
-
-#include <string>
 
 namespace iceline {
 
-/// The whole text of `DivisionStandings.htm`.
-std::string divisionStandingsPage(const std::array<DivisionRows, 4>& divisions);
+/// Writes `DivisionStandings.htm`.
+void writeDivisionStandings(Files& files, const std::array<DivisionRows, Divisions.size()>& divisions);
 
-/// The whole text of `ConferenceStandings.htm`.
-std::string conferenceStandingsPage(const std::array<ConferenceRows, 2>& conferences);
+/// Writes `ConferenceStandings.htm`.
+void writeConferenceStandings(Files& files,
+                              const std::array<ConferenceRows, Conferences.size()>& conferences);
 
-/// The whole text of `HomeAwayStandings.htm`.
-std::string homeAwayStandingsPage(const HomeAwayStandings& standings);
+/// Writes `HomeAwayStandings.htm`.
+void writeHomeAwayStandings(Files& files, const HomeAwayStandings& standings);
 
-/// A conference's two rankings, side by side on the page: left by the record against the own conference,
-/// right by the record against the other. A row of the page can hold two teams.
-struct VersusRankings {
-    VersusRows againstOwn;
-    VersusRows againstOther;
-};
-
-/// The whole text of `vsConfStandings.htm`, by Conference.
-std::string versusStandingsPage(const std::array<VersusRankings, 2>& conferences);
+/// Writes `vsConfStandings.htm`: two rankings of each conference side by side, so that a row can hold two
+/// teams. Left is the one by the record against the own conference, right the one against the other. Takes
+/// the rows by Conference, in the order of the team table.
+void writeVersusStandings(Files& files, const std::array<VersusRows, Conferences.size()>& conferences);
 
 } // namespace iceline

@@ -171,8 +171,8 @@ TEST_F(ImportFolder, TheStandingsCountTheGamesBeforeAFileError) {
     EXPECT_THROW(run(), FileError);
     int games = 0;
     for (const DivisionRows& division : Standings::in(league.app).content().divisions)
-        for (const StandingsRow& row : division)
-            games += row.GP;
+        for (const PointsRow& row : division)
+            games += row.figures.GP;
     EXPECT_EQ(games, 2) << "one for each of two teams";
 }
 

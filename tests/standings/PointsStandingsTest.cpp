@@ -1,7 +1,6 @@
 #include "standings/PointsStandings.h"
 
 #include "standings/ClinchMarks.h"
-#include "standings/ConferenceStandings.h"
 #include "standings/StandingsSupport.h"
 
 #include <gmock/gmock.h>
@@ -9,12 +8,10 @@
 namespace iceline::test {
 namespace {
 
-using enum StandingsFigure;
-
 /// A league in mid-season, in memory alone.
 class Seeds : public testing::Test {
 protected:
-    void set(std::string_view abbr, Figures figures) { setFigures(state.StandingsTable, abbr, figures); }
+    TeamStanding& of(std::string_view abbr) { return state.StandingsTable[team(abbr)]; }
 
     void order() {
         orderDivisions(state);
@@ -29,24 +26,24 @@ protected:
 
 TEST_F(Seeds, LeadersComeFirstWhateverTheirPointsAndTheOthersByElimination) {
     for (const std::string_view abbr : {"BOS", "BUF", "HFD", "MTL", "OTA", "QUE"})
-        set(abbr, {{Points, 30}, {Wins, 15}});
-    set("BOS", {{GF, 1}});
-    set("LI", {{Points, 4}, {Wins, 2}});
-    set("WSH", {{Points, 4}, {Wins, 1}});
+        of(abbr) = {.Wins = 15, .Points = 30};
+    of("BOS").GF = 1;
+    of("LI") = {.Wins = 2, .Points = 4};
+    of("WSH") = {.Wins = 1, .Points = 4};
     order();
     EXPECT_EQ(wales(), "BOS LI QUE OTA MTL HFD BUF WSH PIT PHI NYR NJ");
 }
 
 TEST_F(Seeds, LeadersLevelOnPointsGoToAdamsAndSmythe) {
-    set("PIT", {{Points, 10}, {Wins, 5}, {PowerRanking, 5000}});
-    set("HFD", {{Points, 10}, {Wins, 2}});
-    set("CHI", {{Points, 10}, {Wins, 5}});
-    set("CGY", {{Points, 10}, {Wins, 2}});
+    of("PIT") = {.Wins = 5, .Points = 10, .PowerRanking = 5000};
+    of("HFD") = {.Wins = 2, .Points = 10};
+    of("CHI") = {.Wins = 5, .Points = 10};
+    of("CGY") = {.Wins = 2, .Points = 10};
     order();
     EXPECT_THAT(wales(), testing::StartsWith("HFD PIT "));
     EXPECT_THAT(campbell(), testing::StartsWith("CGY CHI "));
-    set("PIT", {{Points, 11}});
-    set("CHI", {{Points, 11}});
+    of("PIT").Points = 11;
+    of("CHI").Points = 11;
     order();
     EXPECT_THAT(wales(), testing::StartsWith("PIT HFD "));
     EXPECT_THAT(campbell(), testing::StartsWith("CHI CGY "));
@@ -61,7 +58,7 @@ protected:
         int points = 30;
         for (const std::string_view abbr :
              {"BOS", "LI", "BUF", "NJ", "HFD", "NYR", "MTL", "PHI", "OTA", "PIT", "QUE", "WSH"}) {
-            set(abbr, {{Points, points}, {Wins, points / 2}, {GP, 20}});
+            of(abbr) = {.Wins = points / 2, .Points = points, .GP = 20};
             points -= 2;
         }
     }
@@ -95,60 +92,66 @@ TEST_F(Clinching, NothingIsClinchedBeforeTheFirstGame) {
 }
 
 TEST_F(Clinching, TeamThatCanStillBeEqualledHasNotClinched) {
-    set("WSH", {{GP, 16}}); // 8 points, reaches 16, what PHI has
+    of("WSH").GP = 16; // 8 points, reaches 16, what PHI has
     mark();
     EXPECT_EQ(walesMarks(), "zyxxxxx-----");
-    set("WSH", {{GP, 17}});
+    of("WSH").GP = 17;
     mark();
     EXPECT_EQ(walesMarks(), "zyxxxxxx----");
 }
 
 TEST_F(Clinching, LevelAtTheEndMoreWinsMakeATeamSafe) {
-    set("PHI", {{Points, 14}, {Wins, 7}});
-    set("OTA", {{Points, 14}, {Wins, 6}});
+    of("PHI") = {.Wins = 7, .Points = 14, .GP = 20};
+    of("OTA") = {.Wins = 6, .Points = 14, .GP = 20};
     mark();
     EXPECT_EQ(markOf("PHI"), "x");
     EXPECT_EQ(markOf("OTA"), "");
 }
 
 TEST_F(Clinching, MoreWinsAreNotEnoughWhileGamesAreLeft) {
-    set("PHI", {{Points, 14}, {Wins, 7}, {GP, 19}});
-    set("OTA", {{Points, 14}, {Wins, 6}});
+    of("PHI") = {.Wins = 7, .Points = 14, .GP = 19};
+    of("OTA") = {.Wins = 6, .Points = 14, .GP = 20};
     mark();
     EXPECT_EQ(markOf("PHI"), "");
 }
 
 TEST_F(Clinching, MoreWinsMustMakeATeamSafeFromAllFour) {
-    set("PHI", {{Points, 14}, {Wins, 7}});
-    set("OTA", {{Points, 14}, {Wins, 6}});
-    set("WSH", {{GP, 16}});
+    of("PHI") = {.Wins = 7, .Points = 14, .GP = 20};
+    of("OTA") = {.Wins = 6, .Points = 14, .GP = 20};
+    of("WSH").GP = 16;
     mark();
     EXPECT_EQ(markOf("PHI"), "");
 }
 
 TEST_F(Clinching, LevelOnPointsAndWinsTheTieBreaksDecideAgainstOneTeamAlone) {
-    set("WSH", {{GP, 10}}); // can still pass PHI
+    of("WSH").GP = 10; // can still pass PHI
     for (const std::string_view abbr : {"PHI", "OTA"})
-        set(abbr, {{Points, 14}, {Wins, 7}, {PowerRanking, 4000}, {GF, 60}, {GA, 50}});
-    set("OTA", {{GF, 59}, {GA, 49}});
+        of(abbr) = {.Wins = 7, .Points = 14, .GP = 20, .GF = 60, .GA = 50, .PowerRanking = 4000};
+    of("OTA").GF = 59;
+    of("OTA").GA = 49;
     mark();
     EXPECT_EQ(markOf("PHI"), "x") << "as good a difference, more goals";
 
     state.ClinchMark = {};
-    set("OTA", {{GF, 60}});
-    set("PHI", {{GA, 48}});
+    of("OTA").GF = 60;
+    of("PHI").GA = 48;
     mark();
     EXPECT_EQ(markOf("PHI"), "x") << "a better difference";
 
     state.ClinchMark = {};
-    set("OTA", {{GA, 48}});
+    of("OTA").GA = 48;
     mark();
     EXPECT_EQ(markOf("PHI"), "") << "level in everything";
+
+    of("OTA").PowerRanking = 3999;
+    of("PHI").GF = 10;
+    mark();
+    EXPECT_EQ(markOf("PHI"), "x") << "a better power ranking";
 }
 
 TEST_F(Clinching, ClinchedDivisionMarksTheFirstSeedToo) {
-    set("LI", {{Points, 28}, {Wins, 14}});
-    set("BUF", {{GP, 15}}); // 26 points, can pass BOS
+    of("LI") = {.Wins = 14, .Points = 28, .GP = 20};
+    of("BUF").GP = 15; // 26 points, can pass BOS
     mark();
     EXPECT_EQ(state.WalesSeeds[0], team("BOS"));
     EXPECT_EQ(markOf("LI"), "y");

@@ -1,8 +1,12 @@
 #include "standings/StandingsPages.h"
 
 #include "standings/StandingsSupport.h"
+#include "store/LeaguePaths.h"
+#include "support/MemoryFiles.h"
 
 #include <gmock/gmock.h>
+
+#include <span>
 
 namespace iceline::test {
 namespace {
@@ -29,23 +33,36 @@ const std::string PointsHeads =
 const std::string TableStart = "<table cellpadding = 2 border = 1>";
 
 std::vector<std::string> part(const std::vector<std::string>& lines, std::size_t first, std::size_t count) {
-    return {lines.begin() + first, lines.begin() + first + count};
+    const auto part = std::span(lines).subspan(first, count);
+    return {part.begin(), part.end()};
 }
 
 std::string spanning(int columns, const std::string& title) {
     return "<tr><th colspan = " + std::to_string(columns) + "><b>" + title + "</b></th></tr>";
 }
 
+/// The lines of a page as it is written to the site.
+template <class Content>
+std::vector<std::string> written(const std::string& page, void (*write)(Files&, const Content&),
+                                 const Content& content) {
+    MemoryFiles files;
+    files.folders.insert(paths::WebRoot);
+    write(files, content);
+    return linesOf(files.read(paths::page(page)));
+}
+
 /// Boston has clinched; everybody has 41 wins, 30 losses and 9 ties.
-StandingsRow standing(TeamIndex team) {
-    return {team, 41, 30, 9, 91, 80, 250, 240, team == 0 ? "y" : ""};
+PointsRow standing(TeamIndex team) {
+    return {team,
+            {.Wins = 41, .Losses = 30, .Ties = 9, .Points = 91, .GP = 80, .GF = 250, .GA = 240},
+            TeamAbbr[team] == "BOS" ? "y" : ""};
 }
 
 TEST(StandingsPages, DivisionStandings) {
     std::array<DivisionRows, 4> divisions;
     for (std::size_t i = 0; i < divisions.size(); ++i)
         std::ranges::transform(teamsOf(static_cast<Division>(i)), divisions[i].begin(), standing);
-    const auto lines = linesOf(divisionStandingsPage(divisions));
+    const auto lines = written("DivisionStandings.htm", writeDivisionStandings, divisions);
     ASSERT_EQ(lines.size(), 4u + 11 + 10 + 11 + 10);
     EXPECT_THAT(
         part(lines, 0, 10),
@@ -76,7 +93,7 @@ TEST(StandingsPages, ConferenceStandings) {
     std::array<ConferenceRows, 2> conferences;
     for (std::size_t i = 0; i < conferences.size(); ++i)
         std::ranges::transform(teamsOf(static_cast<Conference>(i)), conferences[i].begin(), standing);
-    const auto lines = linesOf(conferenceStandingsPage(conferences));
+    const auto lines = written("ConferenceStandings.htm", writeConferenceStandings, conferences);
     ASSERT_EQ(lines.size(), 4u + 2 * 16);
     EXPECT_THAT(
         part(lines, 0, 8),
@@ -97,11 +114,11 @@ TEST(StandingsPages, ConferenceStandings) {
 TEST(StandingsPages, HomeAwayStandings) {
     HomeAwayStandings standings;
     for (const TeamIndex team : AllLeagueTeams) {
-        standings.home[team] = {team, {25, 10, 5, 625}, 40};
-        standings.away[team] = {TeamIndex(LeagueTeams - 1 - team.number()), {40, 0, 0, 1000}, 40};
+        standings.home[team] = {team, {25, 10, 5, 625, 40}};
+        standings.away[team] = {TeamIndex(LeagueTeams - 1 - team.number()), {40, 0, 0, 1000, 40}};
     }
-    standings.home.back().record = {0, 9, 1, 0};
-    const auto lines = linesOf(homeAwayStandingsPage(standings));
+    standings.home.back().record = {0, 9, 1, 0, 10};
+    const auto lines = written("HomeAwayStandings.htm", writeHomeAwayStandings, standings);
     ASSERT_EQ(lines.size(), 4u + 2 * 28);
     EXPECT_THAT(
         part(lines, 0, 8),
@@ -122,17 +139,20 @@ TEST(StandingsPages, HomeAwayStandings) {
     EXPECT_EQ(lines.back(), "</table><br/></br>");
 }
 
-VersusRow versus(std::string_view abbr) {
-    return {team(abbr), {{{12, 3, 1, 750}, {4, 8, 2, 286}}}};
+/// A conference whose first team leads it against Wales, and whose last against Campbell.
+VersusRows versus(Conference conference) {
+    VersusRows rows;
+    std::ranges::transform(teamsOf(conference), rows.begin(), [](TeamIndex team) {
+        return VersusRow{team, {}};
+    });
+    rows.front().against = {{{12, 3, 1, 750, 16}, {4, 8, 2, 286, 14}}};
+    rows.back().against = {{{1, 5, 0, 167, 6}, {7, 6, 9, 318, 22}}};
+    return rows;
 }
 
 TEST(StandingsPages, VersusStandings) {
-    std::array<VersusRankings, 2> conferences;
-    conferences[0].againstOwn.fill(versus("BOS"));
-    conferences[0].againstOther.fill(versus("QUE"));
-    conferences[1].againstOwn.fill(versus("CHI"));
-    conferences[1].againstOther.fill(versus("LA"));
-    const auto lines = linesOf(versusStandingsPage(conferences));
+    const std::array conferences{versus(Conference::Wales), versus(Conference::Campbell)};
+    const auto lines = written("vsConfStandings.htm", writeVersusStandings, conferences);
     ASSERT_EQ(lines.size(), 4u + 2 * 17);
     const std::string heads = "<th></th><th><b>Team</b></th><th><b>W</b></th><th><b>L</b></th>"
                               "<th><b>T</b></th><th><b>Win%</b></th>";
@@ -149,14 +169,14 @@ TEST(StandingsPages, VersusStandings) {
                     R"(<tr><td><center><img src="./LogoMinis/BOS.gif"></img></center></td><td><a href=)"
                     R"("./PStats/index.php?team=BOS"><b>BOS </b></a></center></td><td><center>12</td><td>)"
                     R"(<center>3</td><td><center>1</td><td><center> .75 </center></td>)"
-                    R"(<td><center><img src="./LogoMinis/QUE.gif"></img></center></td><td><a href=)"
-                    R"("./PStats/index.php?team=QUE"><b>QUE </b></a></center></td><td><center>4</td><td>)"
-                    R"(<center>8</td><td><center>2</td><td><center> .286 </center></td></tr>)"));
+                    R"(<td><center><img src="./LogoMinis/WSH.gif"></img></center></td><td><a href=)"
+                    R"("./PStats/index.php?team=WSH"><b>WSH </b></a></center></td><td><center>7</td><td>)"
+                    R"(<center>6</td><td><center>9</td><td><center> .318 </center></td></tr>)"));
     EXPECT_THAT(part(lines, 20, 4),
                 ElementsAre("</table><br/></br><br/>", TableStart, spanning(17, "Campbell Conference"),
                             "<tr><th colspan = 6><b>vs. Campbell Conference</b></th>"
                             "<th colspan = 6><b>vs. Wales Conference</b></th></tr>"));
-    EXPECT_THAT(lines[25], testing::MatchesRegex(".*CHI.gif.* .286 .*LA.gif.* .75 .*"));
+    EXPECT_THAT(lines[25], testing::MatchesRegex(".*WPG.gif.* .318 .*CGY.gif.* .75 .*"));
     EXPECT_EQ(lines.back(), "</table></body></html>");
 }
 

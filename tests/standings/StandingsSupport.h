@@ -1,13 +1,10 @@
 #pragma once
 
 #include "league/TeamTable.h"
-#include "standings/StandingsTable.h"
 
-#include <initializer_list>
 #include <sstream>
 #include <string>
 #include <string_view>
-#include <utility>
 #include <vector>
 
 namespace iceline::test {
@@ -44,14 +41,6 @@ inline std::vector<std::string> linesOf(const std::string& page) {
         lines.push_back(line.substr(0, line.size() - 1));
     }
     return lines;
-}
-
-/// A team's figures in the standings, all others 0.
-using Figures = std::initializer_list<std::pair<StandingsFigure, int>>;
-
-inline void setFigures(StandingsTable& table, std::string_view abbr, Figures figures) {
-    for (const auto& [figure, value] : figures)
-        table[team(abbr)][static_cast<std::size_t>(figure)] = value;
 }
 
 } // namespace iceline::test
