@@ -11,16 +11,14 @@ namespace iceline {
 
 namespace {
 
-/// The range of a whole number of 16 bits.
-constexpr double Lowest = std::numeric_limits<std::int16_t>::min();
-constexpr double Highest = std::numeric_limits<std::int16_t>::max();
+/// The counts of a file end at 32,767, and no figure worked out from them is more than the sum of two.
+constexpr double LargestFigure = 65535;
 
 } // namespace
 
 int wholeFigure(TeamIndex team, const TeamRecord& record, double TeamRecord::*figure, int scale) {
-    const double value = std::nearbyint(record.*figure * scale);
-    if (value >= Lowest && value <= Highest)
-        return static_cast<int>(value);
+    if (std::fabs(record.*figure) <= LargestFigure)
+        return wholeNumber(record.*figure * scale);
     const auto fields = fieldsOf<TeamRecord>();
     const auto field =
         std::ranges::find(fields, Field<TeamRecord>::Member(figure), &Field<TeamRecord>::member);

@@ -87,6 +87,19 @@ TEST_F(StandingsWindow, DifferenceCountsAsAWholeNumberToTheEvenSide) {
     EXPECT_THAT(adams(), StartsWith("BOS BUF QUE"));
 }
 
+TEST_F(StandingsWindow, PowerRankingsOfALongSeasonRankToTheHundredth) {
+    TeamRecord record;
+    record.PowerRanking = 32767.99;
+    set("BOS", record);
+    record.PowerRanking = 327.68;
+    set("BUF", record);
+    record.PowerRanking = 327.67;
+    set("QUE", record);
+    record.PowerRanking = 32768;
+    set("HFD", record);
+    EXPECT_EQ(adams(), "HFD BOS BUF QUE OTA MTL");
+}
+
 TEST_F(StandingsWindow, EveryProcedureReadsEachRecordOnceAndWritesNothing) {
     Standings& window = open();
     const auto reads = [&](void (Standings::*procedure)()) {
@@ -244,10 +257,10 @@ TEST_F(StandingsWindow, RecordThatCannotBeReadStopsTheUpdateAndChangesNothing) {
     Standings& window = open();
     record.Points = 9;
     set("BUF", record);
-    record.PowerRanking = 327.68;
+    record.PowerRanking = 65536;
     set("CGY", record);
     EXPECT_EQ(errorMessage([&] { window.DivisionStandingsUpdate(); }),
-              "Calgary Flames/Records.txt, line 1, item 12 (PowerRanking): 327.68 is more than the standings "
+              "Calgary Flames/Records.txt, line 1, item 12 (PowerRanking): 65536 is more than the standings "
               "can hold");
     league.files.files["Calgary Flames/Records.txt"] = "1,2\r\n";
     EXPECT_THAT(errorMessage([&] { window.DivisionStandingsUpdate(); }),
