@@ -4,7 +4,6 @@
 #include "desktop/Pictures.h"
 #include "desktop/QtPlatform.h"
 #include "desktop/SeriesBox.h"
-#include "playoffs/PlayoffResult.h"
 
 #include <QGridLayout>
 #include <QPainter>
@@ -18,7 +17,7 @@ namespace {
 constexpr int FirstLine = 1;
 constexpr int RoundLines = 8;
 
-/// Columns of the grid: three rounds from each side, a gap behind each, and the middle.
+/// Columns of the grid: three rounds from each side, a gap after each, and the middle.
 constexpr int MiddleColumn = 6;
 constexpr int LastColumn = 12;
 constexpr int GapWidth = 20;
@@ -41,27 +40,30 @@ bool isEast(Conference conference) {
     return conference == Conference::Wales;
 }
 
-/// The two slots of a series.
-std::array<BracketSlot, 2> slotsOf(Conference conference, int number) {
-    std::array<BracketSlot, 2> slots;
+constexpr std::array Teams{SeriesTeam::A, SeriesTeam::B};
+
+/// The seeds of a first-round series, and 0 in any other.
+std::array<int, 2> seedsOf(Conference conference, SeriesIndex series) {
+    std::array<int, 2> seeds{};
     for (const BracketSlot& slot : bracketSlots(conference))
-        if (slot.series == number)
-            slots[static_cast<std::size_t>(slot.team)] = slot;
-    return slots;
+        if (slot.place.series == series)
+            seeds[static_cast<std::size_t>(slot.place.team)] = slot.seed;
+    return seeds;
 }
 
-SeriesBox::Names namesOf(int number, const std::array<BracketSlot, 2>& slots, Conference conference) {
+SeriesBox::Names namesOf(SeriesIndex series, const std::array<int, 2>& seeds, Conference conference) {
+    const int number = series.number();
     SeriesBox::Names names{
         {}, {element("W1", number), element("W2", number)}, QStringLiteral("Label%1").arg(number + 1), {}};
     if (number >= FirstRoundSeries) {
         names.banners = {element("T1", number - FirstRoundSeries), element("T2", number - FirstRoundSeries)};
         return names;
     }
-    const auto& seeds = (isEast(conference) ? EastSeeds : WestSeeds)[number % 4];
-    for (std::size_t team = 0; team < 2; ++team) {
+    const auto& seedLabels = (isEast(conference) ? EastSeeds : WestSeeds)[series % 4];
+    for (std::size_t team = 0; team < Teams.size(); ++team) {
         names.banners[team] =
-            element(isEast(conference) ? "EastFirstRound" : "WestFirstRound", slots[team].place);
-        names.seeds[team] = QLatin1String(seeds[team]);
+            element(isEast(conference) ? "EastFirstRound" : "WestFirstRound", seeds[team] - 1);
+        names.seeds[team] = QLatin1String(seedLabels[team]);
     }
     return names;
 }
@@ -107,21 +109,20 @@ void BracketPanel::addHeading(Conference conference) {
 
 void BracketPanel::addConference(Conference conference) {
     for (int round = 0; round < BracketRounds - 1; ++round) {
-        const int first = firstSeriesOf(conference, round);
-        for (int number = first; number < first + (4 >> round); ++number)
-            addSeries(number, conference, round);
+        SeriesIndex series = firstSeriesOf(conference, round);
+        for (int i = 0; i < 4 >> round; ++i, ++series)
+            addSeries(series, conference, round, i);
     }
 }
 
-void BracketPanel::addSeries(int number, Conference conference, int round) {
-    const auto slots = slotsOf(conference, number);
-    auto* box = new SeriesBox(namesOf(number, slots, conference), this);
+void BracketPanel::addSeries(SeriesIndex series, Conference conference, int round, int index) {
+    const auto seeds = seedsOf(conference, series);
+    auto* box = new SeriesBox(namesOf(series, seeds, conference), this);
     if (round == 0)
-        box->setSeeds({QString::number(slots[0].place + 1), QString::number(slots[1].place + 1)});
+        box->setSeeds({QString::number(seeds[0]), QString::number(seeds[1])});
     const int lines = 2 << round;
-    const int index = number - firstSeriesOf(conference, round);
     grid_->addWidget(box, FirstLine + index * lines, columnOf(conference, round), lines, 1, Qt::AlignCenter);
-    series_[number] = box;
+    series_[series] = box;
 }
 
 void BracketPanel::addMiddle() {
@@ -142,21 +143,15 @@ void BracketPanel::addMiddle() {
 }
 
 void BracketPanel::show(const Playoffs::Content& content) {
-    const auto showSeries = [&](int number, TeamIndex first, TeamIndex second) {
-        series_[number]->show(
-            {{first, second}, {toQt(content.W1[number]), toQt(content.W2[number])}, content.winner[number]});
-    };
-    for (const Conference conference : {Conference::Wales, Conference::Campbell}) {
-        const int first = firstSeriesOf(conference, 0);
-        for (int number = first; number < first + 4; ++number) {
-            const auto slots = slotsOf(conference, number);
-            showSeries(number, content.team(conference, slots[0]), content.team(conference, slots[1]));
-        }
+    for (const SeriesIndex series : AllSeries) {
+        const SeriesPlace first{series, SeriesTeam::A};
+        const SeriesPlace second{series, SeriesTeam::B};
+        series_[series]->show({{content.team(first), content.team(second)},
+                               {toQt(content.wins(first)), toQt(content.wins(second))},
+                               content.winner(series)});
     }
-    for (int number = FirstRoundSeries; number < SeriesCount; ++number)
-        showSeries(number, content.T1[number - FirstRoundSeries], content.T2[number - FirstRoundSeries]);
-    setStyleProperty(champion_, "champion", content.StanleyCup != BlankTeam);
-    showTeamBanner(champion_, content.StanleyCup);
+    setStyleProperty(champion_, "champion", content.champion() != BlankTeam);
+    showTeamBanner(champion_, content.champion());
     update();
 }
 
@@ -168,12 +163,14 @@ void BracketPanel::paintEvent(QPaintEvent*) {
         painter.setPen(QPen(ChampionColor, 2));
         painter.drawLine(middle, champion_->geometry().bottom(), middle, series_[FinalSeries]->y());
     }
-    for (int number = 0; number < FinalSeries; ++number) {
+    for (const SeriesIndex number : AllSeries) {
+        const auto next = placeOfWinner(number);
+        if (!next)
+            continue;
         const SeriesBox& from = *series_[number];
-        const SeriesBox& to = *series_[*nextSeries(number)];
         const QColor color = from.isDecided() ? palette().color(QPalette::Highlight) : OpenColor;
         painter.setPen(QPen(color, 2));
-        painter.drawPath(lineBetween(from, to, number % 2 == 0 ? SeriesTeam::A : SeriesTeam::B));
+        painter.drawPath(lineBetween(from, *series_[next->series], next->team));
     }
 }
 

@@ -29,7 +29,7 @@ protected:
 private:
     void addHeading(Conference conference);
     void addConference(Conference conference);
-    void addSeries(int number, Conference conference, int round);
+    void addSeries(SeriesIndex series, Conference conference, int round, int index);
     void addMiddle();
 
     QGridLayout* grid_;

@@ -22,24 +22,13 @@ SeriesBox::SeriesBox(const Names& names, QWidget* parent) : QFrame(parent) {
     grid->setContentsMargins(4, 5, 4, 5);
     grid->setHorizontalSpacing(4);
     grid->setVerticalSpacing(0);
-    for (int team = 0; team < 2; ++team) {
-        const int line = 2 * team;
-        if (!names.seeds[team].isEmpty()) {
-            seed_[team] = textLabel(names.seeds[team], this);
-            seed_[team]->setProperty("role", QStringLiteral("head"));
-            grid->addWidget(seed_[team], line, 0);
-        }
-        banner_[team] = pictureLabel(names.banners[team], this);
-        banner_[team]->setFixedSize(BannerWidth, BannerHeight);
-        auto* fading = new QGraphicsOpacityEffect(banner_[team]);
-        fading->setOpacity(1);
-        banner_[team]->setGraphicsEffect(fading);
-        grid->addWidget(banner_[team], line, 1);
-        wins_[team] = figureLabel(names.wins[team], this);
-        wins_[team]->setProperty("role", QStringLiteral("wins"));
-        wins_[team]->setFixedWidth(WinsWidth);
-        wins_[team]->setAlignment(Qt::AlignCenter);
-        grid->addWidget(wins_[team], line, 2);
+    int line = 0;
+    for (std::size_t team = 0; team < rows_.size(); ++team, line += 2) {
+        const Row& row = rows_[team] = makeRow(names, team);
+        if (row.seed)
+            grid->addWidget(row.seed, line, 0);
+        grid->addWidget(row.banner, line, 1);
+        grid->addWidget(row.wins, line, 2);
     }
     dash_ = headLabel(QStringLiteral("-"), this, Qt::AlignCenter);
     dash_->setObjectName(names.dash);
@@ -49,20 +38,38 @@ SeriesBox::SeriesBox(const Names& names, QWidget* parent) : QFrame(parent) {
     setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
 }
 
+SeriesBox::Row SeriesBox::makeRow(const Names& names, std::size_t team) {
+    Row row;
+    if (!names.seeds[team].isEmpty()) {
+        row.seed = textLabel(names.seeds[team], this);
+        row.seed->setProperty("role", QStringLiteral("head"));
+    }
+    row.banner = pictureLabel(names.banners[team], this);
+    row.banner->setFixedSize(BannerWidth, BannerHeight);
+    row.fading = new QGraphicsOpacityEffect(row.banner);
+    row.fading->setOpacity(1);
+    row.banner->setGraphicsEffect(row.fading);
+    row.wins = figureLabel(names.wins[team], this);
+    row.wins->setProperty("role", QStringLiteral("wins"));
+    row.wins->setFixedWidth(WinsWidth);
+    row.wins->setAlignment(Qt::AlignCenter);
+    return row;
+}
+
 void SeriesBox::setSeeds(const std::array<QString, 2>& seeds) {
-    for (int team = 0; team < 2; ++team)
-        seed_[team]->setText(seeds[team]);
+    for (std::size_t team = 0; team < rows_.size(); ++team)
+        rows_[team].seed->setText(seeds[team]);
 }
 
 void SeriesBox::show(const Series& series) {
     decided_ = series.winner != BlankTeam;
-    for (int team = 0; team < 2; ++team) {
+    for (std::size_t team = 0; team < rows_.size(); ++team) {
+        const Row& row = rows_[team];
         const bool lost = decided_ && series.teams[team] != series.winner;
-        showTeamBanner(banner_[team], series.teams[team], BannerHeight);
-        static_cast<QGraphicsOpacityEffect*>(banner_[team]->graphicsEffect())
-            ->setOpacity(lost ? LoserOpacity : 1);
-        wins_[team]->setText(series.wins[team]);
-        setStyleProperty(wins_[team], "result",
+        showTeamBanner(row.banner, series.teams[team], BannerHeight);
+        row.fading->setOpacity(lost ? LoserOpacity : 1);
+        row.wins->setText(series.wins[team]);
+        setStyleProperty(row.wins, "result",
                          !decided_ ? QString()
                          : lost    ? QStringLiteral("lost")
                                    : QStringLiteral("won"));
@@ -72,7 +79,7 @@ void SeriesBox::show(const Series& series) {
 }
 
 int SeriesBox::middleOf(SeriesTeam team) const {
-    return y() + banner_[static_cast<std::size_t>(team)]->geometry().center().y();
+    return y() + rows_[static_cast<std::size_t>(team)].banner->geometry().center().y();
 }
 
 } // namespace iceline::desktop

@@ -1,17 +1,17 @@
 #pragma once
 
-#include "league/TeamTable.h"
 #include "playoffs/Bracket.h"
 
 #include <QFrame>
 
 #include <array>
 
+class QGraphicsOpacityEffect;
 class QLabel;
 
 namespace iceline::desktop {
 
-/// A series of the play-offs: its two teams beneath each other, the wins of each beside its banner.
+/// A series of the play-offs: its two teams one above the other, the wins of each beside its banner.
 class SeriesBox : public QFrame {
     Q_OBJECT
 
@@ -21,7 +21,7 @@ public:
         std::array<QString, 2> banners;
         std::array<QString, 2> wins;
         QString dash;
-        std::array<QString, 2> seeds; ///< empty behind the first round
+        std::array<QString, 2> seeds; ///< empty after the first round
     };
 
     /// What a box shows. A count that is not shown is empty.
@@ -44,9 +44,17 @@ public:
     int middleOf(SeriesTeam team) const;
 
 private:
-    QLabel* seed_[2] = {};
-    QLabel* banner_[2] = {};
-    QLabel* wins_[2] = {};
+    /// The controls of one of the two teams.
+    struct Row {
+        QLabel* seed = nullptr; ///< in the first round
+        QLabel* banner = nullptr;
+        QGraphicsOpacityEffect* fading = nullptr; ///< the banner's
+        QLabel* wins = nullptr;
+    };
+
+    Row makeRow(const Names& names, std::size_t team);
+
+    std::array<Row, 2> rows_;
     QLabel* dash_ = nullptr;
     bool decided_ = false;
 };

@@ -2,7 +2,7 @@
 #include "files/FileError.h"
 #include "games/GameSheetReader.h"
 #include "games/StatExtractor.h"
-#include "playoffs/PlayoffResult.h"
+#include "playoffs/Bracket.h"
 #include "shell/Application.h"
 #include "standings/Standings.h"
 
@@ -100,7 +100,7 @@ std::optional<Refusal> GameInHand::refusal(const SaveState& save) {
     series_ = app_.state.PlayoffSeries;
     if (!window_.Season || !app_.state.PlayoffMode)
         return std::nullopt;
-    seriesOfGame_ = seriesOfGame(series_, home_, away_);
+    seriesOfGame_ = seriesOfGame(series_, {.home = home_, .away = away_});
     if (!seriesOfGame_)
         return Refusal{"Cannot import file because this is not a valid post season game."};
     return std::nullopt;
@@ -150,7 +150,7 @@ void GameInHand::fold(const SaveState& save) {
                             state.StarSlot};
     importGame(app_.files(), game);
     if (seriesOfGame_)
-        recordResult(series_, *seriesOfGame_, game.sheet.home.Goals, game.sheet.away.Goals);
+        recordResult(series_, *seriesOfGame_, {.home = game.sheet.home.Goals, .away = game.sheet.away.Goals});
     if (window_.Season)
         app_.files().write(paths::PlayoffRecords, textOf(series_));
 }

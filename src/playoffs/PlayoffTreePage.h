@@ -4,7 +4,7 @@
 
 namespace iceline {
 
-/// The whole text of `PlayoffTree.htm`.
-std::string playoffTreePage(const Playoffs::Content& content);
+/// Writes `PlayoffTree.htm`.
+void writePlayoffTree(Files& files, const Playoffs::Content& content);
 
 } // namespace iceline

@@ -7,28 +7,25 @@
 
 namespace iceline {
 
-/// The bracket of the play-offs: as it would stand if the season ended now, and once the play-offs are on, as
-/// it stands.
+/// The bracket of the play-offs: as it would be if the season ended now, and once the play-offs are on, as it
+/// is.
 class Playoffs : public Window {
 public:
     using Window::Window;
 
-    /// What the window shows. East is the Wales Conference, West the Campbell Conference; BlankTeam is a team
-    /// that is not yet known, and a number of wins that is not shown is empty.
+    /// What the window shows. BlankTeam is a team that is not yet known.
     struct Content {
-        std::array<TeamIndex, 8> EastFirstRound = blankTeams<8>(); ///< by place among the seeds
-        std::array<TeamIndex, 8> WestFirstRound = blankTeams<8>();
-        std::array<TeamIndex, 7> T1 = blankTeams<7>(); ///< first teams of series 8 to 14
-        std::array<TeamIndex, 7> T2 = blankTeams<7>(); ///< second teams
-        std::array<std::string, SeriesCount> W1;       ///< wins of the series' first teams
-        std::array<std::string, SeriesCount> W2;
-        std::array<TeamIndex, SeriesCount> winner =
-            blankTeams<SeriesCount>();    ///< of each series that is decided
-        TeamIndex StanleyCup = BlankTeam; ///< the champion
-        bool PlayoffMode = false;         ///< the play-offs are on
+        PlayoffSeriesTable series;
+        bool PlayoffMode = false; ///< the play-offs are on
 
-        TeamIndex team(Conference conference, const BracketSlot& slot) const;
-        const std::string& wins(const BracketSlot& slot) const;
+        TeamIndex team(SeriesPlace place) const { return teamAt(series, place); }
+
+        /// A team's wins in a series; empty until the play-offs are on and both teams are known.
+        std::string wins(SeriesPlace place) const;
+
+        /// BlankTeam while a series is not decided.
+        TeamIndex winner(SeriesIndex number) const { return winnerOf(series[number]); }
+        TeamIndex champion() const { return winner(FinalSeries); }
     };
 
     /// Works out the state of the season, reads `Playoff Records.txt` and runs PlayoffTreeUpdate.
@@ -40,8 +37,6 @@ public:
     const Content& content() const { return content_; }
 
 private:
-    void showSeries(int number);
-
     Content content_;
 };
 

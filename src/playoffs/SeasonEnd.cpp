@@ -35,7 +35,7 @@ void checkSeason(Application& app) {
         app.platform().say("Regular Season COMPLETE, Playoff Mode now active for the Postseason.");
     app.state.PlayoffMode = true;
     app.state.SeasonFolder = seasonFolder(PartOfYear::Playoffs);
-    seedFirstRound(app.state.PlayoffSeries, app.state.WalesSeeds, app.state.CampbellSeeds);
+    seedFirstRound(app.state.PlayoffSeries, app.state);
     redrawGameWindow(app.windows());
 }
 

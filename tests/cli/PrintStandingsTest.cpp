@@ -1,5 +1,4 @@
 #include "cli/WindowPrinters.h"
-#include "playoffs/PlayoffResult.h"
 #include "playoffs/Playoffs.h"
 #include "standings/Standings.h"
 #include "support/TestLeague.h"
@@ -40,15 +39,16 @@ protected:
 };
 
 TEST_F(PrintStandings, FourViewsFitTheTerminal) {
-    TeamRecord record = league.record(TeamIndex(0));
+    constexpr TeamIndex Boston{0};
+    TeamRecord record = league.record(Boston);
     record.HW = 3;
     record.HL = 2;
     record.HWinPercent = 0.6;
     record.HGP = 5;
     record.OtherConfW = 12;
     record.OtherConfL = 4;
-    league.setRecord(TeamIndex(0), PartOfYear::Season, record);
-    league.app.state.ClinchMark[0] = "x";
+    league.setRecord(Boston, PartOfYear::Season, record);
+    league.app.state.ClinchMark[Boston] = "x";
     const std::string text = print(WindowId::Standings);
     EXPECT_LE(longestLine(text), 100u);
     EXPECT_THAT(text, testing::HasSubstr("   Adams Division         W  L  T  Pts.  GF  GA  GP\n"
@@ -64,10 +64,10 @@ TEST_F(PrintStandings, BracketLeadsWinnersToTheirPlaces) {
     print(WindowId::Playoffs);
     auto& series = league.app.state.PlayoffSeries;
     for (int game = 0; game < 4; ++game) {
-        recordResult(series, {0, true}, 2, 1);
-        recordResult(series, {1, true}, 1, 2);
+        recordResult(series, {SeriesIndex(0), SeriesTeam::A}, {.home = 2, .away = 1});
+        recordResult(series, {SeriesIndex(1), SeriesTeam::A}, {.home = 1, .away = 2});
     }
-    recordResult(series, {8, true}, 2, 1);
+    recordResult(series, {SeriesIndex(8), SeriesTeam::A}, {.home = 2, .away = 1});
     league.files.files[paths::PlayoffRecords] = textOf(series);
     const std::string text = print(WindowId::Playoffs);
     EXPECT_LE(longestLine(text), 100u);

@@ -1,12 +1,12 @@
 #include "desktop/DesktopTest.h"
-#include "playoffs/PlayoffResult.h"
+#include "playoffs/Bracket.h"
 
 #include <QGroupBox>
 
 namespace iceline::desktop {
 namespace {
 
-/// Teams stand in the order of the team table: BOS LI BUF HFD MTL NJ NYR OTA, CGY CHI DET EDM LA MIN SJ STL.
+/// Teams rank in the order of the team table: BOS LI BUF HFD MTL NJ NYR OTA, CGY CHI DET EDM LA MIN SJ STL.
 class PlayoffsWindowTest : public DesktopTest {
 protected:
     PlayoffsWindowTest() {
@@ -23,9 +23,10 @@ protected:
         open(WindowId::Playoffs).close();
     }
 
-    void win(int series, bool firstTeam, int games) {
+    void win(int series, SeriesTeam winner, int games) {
         for (int i = 0; i < games; ++i)
-            recordResult(league.app.state.PlayoffSeries, {series, true}, firstTeam ? 2 : 0, 1);
+            recordResult(league.app.state.PlayoffSeries, {SeriesIndex(series), winner},
+                         {.home = 2, .away = 1});
         league.files.files[paths::PlayoffRecords] = textOf(league.app.state.PlayoffSeries);
     }
 
@@ -58,8 +59,8 @@ TEST_F(PlayoffsWindowTest, BracketOfTheMomentFitsTheScreen) {
 
 TEST_F(PlayoffsWindowTest, WinsAndWinnersMoveTowardsTheMiddle) {
     startPlayoffs();
-    win(0, true, 4);
-    win(1, false, 3);
+    win(0, SeriesTeam::A, 4);
+    win(1, SeriesTeam::B, 3);
     LeagueWindow& window = open(WindowId::Playoffs);
     EXPECT_EQ(text(window, "W1(0)") + text(window, "W2(0)"), "40");
     EXPECT_EQ(text(window, "W2(1)"), "3");
@@ -76,7 +77,7 @@ TEST_F(PlayoffsWindowTest, WinsAndWinnersMoveTowardsTheMiddle) {
 TEST_F(PlayoffsWindowTest, ChampionIsFramed) {
     startPlayoffs();
     for (int series = 0; series < SeriesCount; ++series)
-        win(series, series != 14, 4);
+        win(series, series == FinalSeries.number() ? SeriesTeam::B : SeriesTeam::A, 4);
     LeagueWindow& window = open(WindowId::Playoffs);
     EXPECT_EQ(banner(window, "StanleyCup"), "Calgary Flames");
     EXPECT_TRUE(control<QLabel>(window, QStringLiteral("StanleyCup")).property("champion").toBool());

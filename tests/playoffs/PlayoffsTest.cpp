@@ -4,7 +4,6 @@
 #include "app/Startup.h"
 #include "app/WelcomeWindow.h"
 #include "files/FileError.h"
-#include "playoffs/PlayoffResult.h"
 #include "playoffs/SeasonEnd.h"
 #include "standings/StandingsSupport.h"
 #include "support/TestLeague.h"
@@ -21,7 +20,7 @@ using testing::StartsWith;
 
 constexpr const char* SeasonIsOver = "Regular Season COMPLETE, Playoff Mode now active for the Postseason.";
 
-/// A league whose teams stand in the order of the team table: Wales is seeded BOS LI BUF HFD MTL NJ NYR OTA,
+/// A league whose teams rank in the order of the team table: Wales is seeded BOS LI BUF HFD MTL NJ NYR OTA,
 /// Campbell CGY CHI DET EDM LA MIN SJ STL.
 class SeasonEnd : public testing::Test {
 protected:
@@ -36,12 +35,13 @@ protected:
         TeamRecord record;
         record.GP = games;
         record.Points = 2 * LeagueTeams - 2 * team.number();
+        record.PowerRanking = games;
         league.setRecord(team, PartOfYear::Season, record);
     }
 
-    void playSeason() {
+    void playSeason(int games = 10) {
         for (const TeamIndex team : AllLeagueTeams)
-            play(team, 10);
+            play(team, games);
     }
 
     TestLeague league;
@@ -50,11 +50,11 @@ protected:
 
 TEST_F(SeasonEnd, WaitsForTheLastTeam) {
     playSeason();
-    play(TeamIndex(23), 9);
+    play(team("WPG"), 9);
     checkSeason(league.app);
     EXPECT_FALSE(state.PlayoffMode);
     EXPECT_EQ(state.SeasonFolder, "");
-    play(TeamIndex(23), 10);
+    play(team("WPG"), 10);
     checkSeason(league.app);
     EXPECT_TRUE(state.PlayoffMode);
     EXPECT_EQ(state.SeasonFolder, "/Post Season");
@@ -73,15 +73,16 @@ TEST_F(SeasonEnd, FillsTheFirstRoundAndHappensOnce) {
 }
 
 TEST_F(SeasonEnd, EndedByHandItTakesTheSeedsOfTheMoment) {
-    play(TeamIndex(1), 3);
+    play(team("BUF"), 3);
     setSeasonLength(-1);
     checkSeason(league.app);
     EXPECT_TRUE(state.PlayoffMode);
     EXPECT_EQ(state.PlayoffSeries[0].TeamA, team("BUF"));
 }
 
-TEST_F(SeasonEnd, NextRunFindsItOutWithoutAMessage) {
-    playSeason();
+TEST_F(SeasonEnd, NextRunFindsItOutWithoutAMessageHoweverLongTheSeason) {
+    setSeasonLength(32767);
+    playSeason(32767);
     MemoryFiles siteTemplate;
     TestPlatform platform;
     Application nextRun(league.files, siteTemplate, platform, windowCatalogue());
@@ -93,7 +94,7 @@ TEST_F(SeasonEnd, NextRunFindsItOutWithoutAMessage) {
 
 TEST_F(SeasonEnd, RecordThatCannotBeReadLeavesTheRegularSeason) {
     setSeasonLength(-1);
-    // Whole up to the games played, cut behind them.
+    // Whole up to the games played, cut after them.
     league.files.files["Winnipeg Jets/Records.txt"] = "0,0,0,0,0,10\r\n";
     EXPECT_THROW(checkSeason(league.app), FileError);
     EXPECT_FALSE(state.PlayoffMode);
@@ -111,17 +112,35 @@ protected:
     const Playoffs::Content& open() { return open(league); }
 
     /// Gives games of a series to its first or second team, as the import does.
-    void win(int number, SeriesTeam side, int games) {
+    void win(int number, SeriesTeam winner, int games) {
         PlayoffSeriesTable& table = state.PlayoffSeries;
         readPlayoffRecords(league.files, table);
         for (int i = 0; i < games; ++i)
-            recordResult(table, {number, true}, side == SeriesTeam::A ? 2 : 0, 1);
+            recordResult(table, {SeriesIndex(number), winner}, {.home = 2, .away = 1});
         league.files.files[paths::PlayoffRecords] = textOf(table);
     }
 
     void startPlayoffs() {
         playSeason();
         checkSeason(league.app);
+    }
+
+    /// A series as the window shows it: "BOS 4, OTA 0".
+    static std::string text(const Playoffs::Content& content, int number) {
+        const auto side = [&](SeriesTeam team) {
+            const SeriesPlace place{SeriesIndex(number), team};
+            const std::string wins = content.wins(place);
+            return std::string(TeamAbbr[content.team(place)]) + (wins.empty() ? "" : " " + wins);
+        };
+        return side(SeriesTeam::A) + ", " + side(SeriesTeam::B);
+    }
+
+    /// The series from one number to another.
+    static std::vector<std::string> texts(const Playoffs::Content& content, int first, int last) {
+        std::vector<std::string> texts;
+        for (int number = first; number <= last; ++number)
+            texts.push_back(text(content, number));
+        return texts;
     }
 
     std::vector<std::string> pageLines() { return linesOf(league.page("PlayoffTree.htm")); }
@@ -145,13 +164,12 @@ std::string row(const std::string& opening, const std::string& abbr, const std::
 
 TEST_F(PlayoffsWindow, DuringTheSeasonTheTreeIsThatOfTheMoment) {
     playSeason();
-    play(TeamIndex(1), 9);
+    play(team("BUF"), 9);
     const Playoffs::Content& content = open();
-    EXPECT_EQ(abbrs(content.EastFirstRound), "BOS LI BUF HFD MTL NJ NYR OTA");
-    EXPECT_EQ(abbrs(content.WestFirstRound), "CGY CHI DET EDM LA MIN SJ STL");
-    EXPECT_THAT(content.W1, Each(""));
-    EXPECT_THAT(content.T1, Each(BlankTeam));
-    EXPECT_EQ(content.StanleyCup, BlankTeam);
+    EXPECT_THAT(texts(content, 0, 7), ElementsAre("BOS, OTA", "HFD, MTL", "BUF, NJ", "LI, NYR", "CGY, STL",
+                                                  "EDM, LA", "DET, MIN", "CHI, SJ"));
+    EXPECT_THAT(texts(content, 8, 14), Each("Blank, Blank"));
+    EXPECT_EQ(content.champion(), BlankTeam);
     EXPECT_THAT(league.said(), testing::IsEmpty());
 
     EXPECT_THAT(
@@ -183,8 +201,8 @@ TEST_F(PlayoffsWindow, OpeningItEndsASeasonThatIsOver) {
     const Playoffs::Content& content = open();
     EXPECT_TRUE(content.PlayoffMode);
     EXPECT_THAT(league.said(), ElementsAre(SeasonIsOver));
-    EXPECT_EQ(content.W1[0], "0");
-    EXPECT_EQ(content.W1[8], "");
+    EXPECT_EQ(text(content, 0), "BOS 0, OTA 0");
+    EXPECT_EQ(text(content, 8), "Blank, Blank");
 }
 
 TEST_F(PlayoffsWindow, CountsOfALaterSeriesShowOnceBothTeamsAreKnown) {
@@ -192,10 +210,9 @@ TEST_F(PlayoffsWindow, CountsOfALaterSeriesShowOnceBothTeamsAreKnown) {
     win(0, SeriesTeam::A, 4);
     win(6, SeriesTeam::B, 3);
     const Playoffs::Content& content = open();
-    EXPECT_EQ(content.T1[0], team("BOS"));
-    EXPECT_EQ(content.T2[0], BlankTeam);
-    EXPECT_EQ(content.W1[0], "4");
-    EXPECT_EQ(content.W1[8], "");
+    EXPECT_EQ(text(content, 0), "BOS 4, OTA 0");
+    EXPECT_EQ(text(content, 6), "DET 0, MIN 3");
+    EXPECT_EQ(text(content, 8), "BOS, Blank");
     const auto lines = pageLines();
     EXPECT_EQ(lines.at(5), row(seed(1), "BOS", "4"));
     EXPECT_EQ(lines.at(6), row(SecondRound, "BOS"));
@@ -205,8 +222,7 @@ TEST_F(PlayoffsWindow, CountsOfALaterSeriesShowOnceBothTeamsAreKnown) {
               "<td>3</td></tr>");
 
     win(1, SeriesTeam::B, 4);
-    EXPECT_EQ(open().T2[0], team("MTL"));
-    EXPECT_EQ(open().W1[8], "0");
+    EXPECT_EQ(text(open(), 8), "BOS 0, MTL 0");
 }
 
 TEST_F(PlayoffsWindow, AllRoundsAcrossRestartsToTheChampion) {
@@ -214,23 +230,22 @@ TEST_F(PlayoffsWindow, AllRoundsAcrossRestartsToTheChampion) {
     for (int series = 0; series < 8; ++series)
         win(series, series == 2 ? SeriesTeam::B : SeriesTeam::A, 4);
     TestLeague afterFirstRound(league.files);
-    EXPECT_EQ(abbrs(open(afterFirstRound).T1), "BOS NJ CGY DET Blank Blank Blank");
-    EXPECT_EQ(abbrs(open(afterFirstRound).T2), "HFD LI EDM CHI Blank Blank Blank");
+    EXPECT_THAT(texts(open(afterFirstRound), 8, 12),
+                ElementsAre("BOS 0, HFD 0", "NJ 0, LI 0", "CGY 0, EDM 0", "DET 0, CHI 0", "Blank, Blank"));
 
     for (int series = 8; series < 12; ++series)
         win(series, SeriesTeam::B, 4);
     win(12, SeriesTeam::B, 4);
     win(13, SeriesTeam::A, 4);
-    EXPECT_EQ(abbrs(open().T1), "BOS NJ CGY DET HFD EDM LI");
-    EXPECT_EQ(abbrs(open().T2), "HFD LI EDM CHI LI CHI EDM");
-    EXPECT_EQ(open().StanleyCup, BlankTeam);
+    EXPECT_THAT(texts(open(), 12, 14), ElementsAre("HFD 0, LI 4", "EDM 4, CHI 0", "LI 0, EDM 0"));
+    EXPECT_EQ(open().champion(), BlankTeam);
 
     win(14, SeriesTeam::A, 3);
     win(14, SeriesTeam::B, 4);
     TestLeague afterTheFinal(league.files);
     const Playoffs::Content& content = open(afterTheFinal);
-    EXPECT_EQ(content.StanleyCup, team("EDM"));
-    EXPECT_EQ(content.W1[14] + "-" + content.W2[14], "3-4");
+    EXPECT_EQ(content.champion(), team("EDM"));
+    EXPECT_EQ(text(content, 14), "LI 3, EDM 4");
     const auto lines = linesOf(afterTheFinal.page("PlayoffTree.htm"));
     EXPECT_EQ(lines.at(12), row(Final, "LI", "3"));
     EXPECT_THAT(lines.at(21), HasSubstr(R"(Champions</th></tr><tr><td><img src="./BannerMinis/EDM.gif">)"));
