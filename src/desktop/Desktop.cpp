@@ -20,6 +20,18 @@ namespace iceline::desktop {
 
 namespace {
 
+/// The application of the program, which shows what a click or a timer throws instead of being aborted by it.
+class GuardedApplication : public QApplication {
+public:
+    using QApplication::QApplication;
+
+    bool notify(QObject* receiver, QEvent* event) override {
+        bool handled = false;
+        guarded(nullptr, [&] { handled = QApplication::notify(receiver, event); });
+        return handled;
+    }
+};
+
 /// The start: the splash window, then the main window. Ends the program when the league does not load.
 class Start {
 public:
@@ -69,7 +81,7 @@ int runLeague(const std::filesystem::path& folder, const std::filesystem::path& 
 }
 
 int run(int argc, char** argv) {
-    QApplication application(argc, argv);
+    GuardedApplication application(argc, argv);
     QApplication::setQuitOnLastWindowClosed(false);
     applyStyle(application);
     int status = 1;
