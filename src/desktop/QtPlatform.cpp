@@ -58,12 +58,13 @@ Answer answerOf(int button, Buttons buttons) {
     }
 }
 
+/// The filters as Qt takes them: it hides the last pair of brackets, which holds the pattern, and shows the
+/// caption whole. To Qt "*.*" is a name with a dot in it.
 QString filterText(const std::vector<FileFilter>& filters) {
     QStringList entries;
     for (const FileFilter& filter : filters) {
-        const QString name = toQt(filter.caption).section(QLatin1Char('('), 0, 0).trimmed();
         const QString pattern = filter.pattern == "*.*" ? QStringLiteral("*") : toQt(filter.pattern);
-        entries << name + QStringLiteral(" (") + pattern + QLatin1Char(')');
+        entries << toQt(filter.caption) + QStringLiteral(" (") + pattern + QLatin1Char(')');
     }
     return entries.join(QStringLiteral(";;"));
 }
@@ -111,7 +112,8 @@ Answer QtPlatform::ask(const Message& message) {
 
 std::optional<std::string> QtPlatform::chooseFile(const std::string& title,
                                                   const std::vector<FileFilter>& filters) {
-    return chosen(QFileDialog::getOpenFileName(windowInFront(), toQt(title), {}, filterText(filters)));
+    return chosen(QFileDialog::getOpenFileName(windowInFront(), toQt(title), {}, filterText(filters), nullptr,
+                                               QFileDialog::HideNameFilterDetails));
 }
 
 std::optional<std::string> QtPlatform::chooseFolder(const std::string& title) {
