@@ -41,9 +41,7 @@ StatExtractor& gameWindow(Application& app) {
 void readGame(benchmark::State& state) {
     MemoryFiles files = leagueWithGame();
     for (auto _ : state) {
-        const SaveState save = SaveState::read(files, GamePath);
-        benchmark::DoNotOptimize(gameReport(save, readRosters(files, save), 0));
-        benchmark::DoNotOptimize(readGameSheet(save));
+        benchmark::DoNotOptimize(gameReport(iceline::readGame(files, GamePath), 0));
     }
 }
 BENCHMARK(readGame)->Unit(benchmark::kMicrosecond);

@@ -7,7 +7,7 @@
 
 namespace iceline {
 
-/// The clearing of statistics: the initial content is written over the files. There is no way back.
+/// The clearing of statistics: the initial content is written over the files. It cannot be undone.
 /// Rosters, pages, and the coaches' own files stay as they are, unless a coach is what is cleared.
 
 /// A team's files of both parts of the year.

@@ -1,12 +1,10 @@
 #include "books/GameImport.h"
 
 #include "books/PlayerStatsUpdate.h"
-#include "books/StreakUpdate.h"
 #include "books/TeamRecordUpdate.h"
 #include "store/LeaguePaths.h"
 #include "store/TeamFiles.h"
 
-#include <algorithm>
 #include <map>
 #include <vector>
 
@@ -45,8 +43,8 @@ void importPlayers(Files& files, const ImportedGame& game) {
     PlayerSheets sheets(files, game.part);
     for (const Side side : {Side::Home, Side::Away})
         updatePlayerStats(sheets.of(game.sheet.of(side).team), game.sheet, side, game.seasonLength);
-    for (int star = 0; star < 3; ++star)
-        addStarPoints(sheets.of(game.Star[star].Team)[game.StarSlot[star]], pointsOfStar(star));
+    for (std::size_t star = 0; star < PointsOfStars.size(); ++star)
+        addStarPoints(sheets.of(game.Star[star].Team)[game.StarSlot[star]], PointsOfStars[star]);
     sheets.write();
 }
 
@@ -107,8 +105,6 @@ std::vector<Holder> readHolders(Files& files, const ImportedGame& game) {
 void update(Holder& holder, const ImportedGame& game) {
     updateTeamRecord(holder.record, game.sheet, holder.side, game.overtime, holder.kind);
     updateStreak(holder.streak, resultLetter(game.sheet, holder.side));
-    if (holder.side == Side::Home)
-        holder.record.ArenaMeter = std::max<double>(holder.record.ArenaMeter, game.sheet.crowdMeter);
 }
 
 void write(Files& files, const Holder& holder, const GameSheet& game) {
@@ -117,7 +113,7 @@ void write(Files& files, const Holder& holder, const GameSheet& game) {
     appendResult(files, holder.folder, resultLetter(game, holder.side));
 }
 
-/// All lines are read before one is written, so that of a team that plays itself the home line stands.
+/// All lines are read before one is written, so that of a team that plays itself the home line stays.
 void importLines(Files& files, const ImportedGame& game) {
     std::vector<Holder> holders = readHolders(files, game);
     for (Holder& holder : holders)

@@ -21,7 +21,7 @@ struct ImportedGame {
     int seasonLength = 0;
     GameCoaches coaches;
     std::array<StarOfGame, 3> Star;
-    std::array<int, 3> StarSlot{};
+    std::array<RosterIndex, 3> StarSlot;
 };
 
 /// Folds a game into the league's files: players with their star points, single-game records, the lines,

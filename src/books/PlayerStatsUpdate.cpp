@@ -18,10 +18,6 @@ double skaterAverages(const SkaterStats& line, int seasonLength) {
            0.3 * (line.ShotPct / 10) - 0.35 * seasonPlayed;
 }
 
-double aGame(int total, int games) {
-    return games == 0 ? 0 : r2(static_cast<double>(total) / games);
-}
-
 double goalieRating(const GoalieStats& line, double savesBefore, int seasonLength) {
     if (line.GP == 0 || seasonLength == 0)
         return 0;
@@ -36,18 +32,17 @@ double goalieRating(const GoalieStats& line, double savesBefore, int seasonLengt
 SpecialGoals specialGoals(const GameSheet& game, Side side) {
     SpecialGoals goals;
     for (const ScoringEntry& goal : game.goals) {
-        if (goal.scorer >= RosterRows)
+        const auto scorer = rosterRow(goal.scorer);
+        const auto strength = strengthOf(goal.type);
+        if (!scorer || !strength || sideOf(goal.type) != side)
             continue;
-        const auto strength = static_cast<Strength>(goal.type - typeByte(side, 0));
-        if (strength == Strength::TwoMenShort || strength == Strength::OneManShort)
-            ++goals.shorthanded[goal.scorer];
-        if (strength == Strength::PowerPlay || strength == Strength::TwoManPowerPlay)
-            ++goals.powerPlay[goal.scorer];
+        goals.shorthanded[*scorer] += isShorthanded(*strength);
+        goals.powerPlay[*scorer] += isPowerPlay(*strength);
     }
     return goals;
 }
 
-PlayerGame playerGame(const TeamSheet& team, const SpecialGoals& special, int row) {
+PlayerGame playerGame(const TeamSheet& team, const SpecialGoals& special, RosterIndex row) {
     return {team.G[row],
             team.A[row],
             team.SOG[row],
@@ -66,12 +61,12 @@ void updateSkater(SkaterStats& line, const PlayerGame& game, int seasonLength) {
     line.SHG += game.shorthandedGoals;
 
     line.Pts = line.G + line.A;
-    line.ShotPct = line.SOG == 0 ? 0 : r1(static_cast<double>(line.G) / line.SOG * 100);
-    line.GPG = aGame(line.G, line.GP);
-    line.APG = aGame(line.A, line.GP);
-    line.SOGPG = aGame(line.SOG, line.GP);
-    line.PIMPG = aGame(line.PIM, line.GP);
-    line.PtsPG = aGame(line.Pts, line.GP);
+    line.ShotPct = shootingPct(line.G, line.SOG);
+    line.GPG = r2(perGame(line.G, line.GP));
+    line.APG = r2(perGame(line.A, line.GP));
+    line.SOGPG = r2(perGame(line.SOG, line.GP));
+    line.PIMPG = r2(perGame(line.PIM, line.GP));
+    line.PtsPG = r2(perGame(line.Pts, line.GP));
     line.Rating =
         line.GP == 0 ? 0 : r3((0.2 * skaterTotals(line) + 0.8 * skaterAverages(line, seasonLength)) / 2);
 }
@@ -89,7 +84,7 @@ void updateGoalie(GoalieStats& line, const PlayerGame& game, int ownGoals, int o
         ++(ownGoals > otherGoals ? line.GW : ownGoals < otherGoals ? line.GL : line.GT);
 
     if (line.GP != 0)
-        line.GAA = r2(static_cast<double>(line.GA) / line.GP);
+        line.GAA = r2(perGame(line.GA, line.GP));
     if (line.SA != 0)
         line.SvPct = r3(static_cast<double>(line.SA - line.GA) / line.SA);
     line.Rating = goalieRating(line, savesBefore, seasonLength);
@@ -101,7 +96,7 @@ void updatePlayerStats(TeamPlayerStats& stats, const GameSheet& game, Side side,
     const TeamSheet& own = game.of(side);
     const int otherGoals = game.of(otherSide(side)).Goals;
     const SpecialGoals special = specialGoals(game, side);
-    for (int row = 0; row < RosterRows; ++row) {
+    for (const RosterIndex row : AllRosterRows) {
         const PlayerGame player = playerGame(own, special, row);
         if (auto* goalie = std::get_if<GoalieStats>(&stats[row]))
             updateGoalie(*goalie, player, own.Goals, otherGoals, seasonLength);

@@ -3,6 +3,8 @@
 #include "league/GameSheet.h"
 #include "store/PlayerFiles.h"
 
+#include <array>
+
 namespace iceline {
 
 /// Power-play and shorthanded goals of a team's roster rows, counted from the scoring summary.
@@ -28,7 +30,7 @@ struct PlayerGame {
     bool hasPlayed() const { return goals != 0 || assists != 0 || shots != 0 || penaltyMinutes != 0; }
 };
 
-PlayerGame playerGame(const TeamSheet& team, const SpecialGoals& special, int row);
+PlayerGame playerGame(const TeamSheet& team, const SpecialGoals& special, RosterIndex row);
 
 /// Adds a game to a skater's line and renews his averages and his rating. A season length of 0 leaves its
 /// term out of the rating.
@@ -42,9 +44,7 @@ void updateGoalie(GoalieStats& line, const PlayerGame& game, int ownGoals, int o
 /// Adds a game to the 25 lines of a side's team.
 void updatePlayerStats(TeamPlayerStats& stats, const GameSheet& game, Side side, int seasonLength);
 
-/// Points of a star, the first star being 0: 30, 20 and 10.
-inline constexpr int pointsOfStar(int star) {
-    return 30 - 10 * star;
-}
+/// Points of the first, second and third star.
+inline constexpr std::array<int, 3> PointsOfStars{30, 20, 10};
 
 } // namespace iceline

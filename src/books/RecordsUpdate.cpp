@@ -2,31 +2,117 @@
 
 #include "books/PlayerStatsUpdate.h"
 
+#include <array>
+
 namespace iceline {
 
 namespace {
 
-template <class Records, class Kind>
-auto& recordOf(Records& records, Kind kind) {
-    return records[static_cast<std::size_t>(kind)];
+/// A record of players and the figure of a game that contests it.
+template <class Kind>
+struct PlayerContest {
+    Kind record;
+    int (*figure)(const PlayerGame&);
+};
+
+template <int PlayerGame::*Figure>
+int figureOf(const PlayerGame& game) {
+    return game.*Figure;
 }
+
+int pointsOf(const PlayerGame& game) {
+    return game.goals + game.assists;
+}
+
+int savesOf(const PlayerGame& game) {
+    return game.shots - game.goals;
+}
+
+constexpr std::array SkaterContests{
+    PlayerContest{PlayerRecordOf::Goals, figureOf<&PlayerGame::goals>},
+    PlayerContest{PlayerRecordOf::Assists, figureOf<&PlayerGame::assists>},
+    PlayerContest{PlayerRecordOf::Points, pointsOf},
+    PlayerContest{PlayerRecordOf::Shots, figureOf<&PlayerGame::shots>},
+    PlayerContest{PlayerRecordOf::PenaltyMinutes, figureOf<&PlayerGame::penaltyMinutes>},
+};
+
+constexpr std::array SpecialGoalContests{
+    PlayerContest{PlayerRecordOf::ShorthandedGoals, figureOf<&PlayerGame::shorthandedGoals>},
+    PlayerContest{PlayerRecordOf::PowerPlayGoals, figureOf<&PlayerGame::powerPlayGoals>},
+};
+
+static_assert(SkaterContests.size() + SpecialGoalContests.size() == PlayerRecordCount);
+
+constexpr std::array GoalieContests{
+    PlayerContest{GoalieRecordOf::Saves, savesOf},
+    PlayerContest{GoalieRecordOf::GoalsAllowed, figureOf<&PlayerGame::goals>},
+    PlayerContest{GoalieRecordOf::ShotsFaced, figureOf<&PlayerGame::shots>},
+    PlayerContest{GoalieRecordOf::Assists, figureOf<&PlayerGame::assists>},
+};
+
+constexpr std::array ShutoutContests{
+    PlayerContest{GoalieRecordOf::ShutoutSaves, savesOf},
+};
+
+static_assert(GoalieContests.size() + ShutoutContests.size() == GoalieRecordCount);
+
+/// A record of teams and the figure of a game that contests it.
+struct TeamContest {
+    LeagueRecordOf record;
+    int TeamSheet::*figure;
+};
+
+constexpr std::array TeamContests{
+    TeamContest{LeagueRecordOf::Goals, &TeamSheet::Goals},
+    TeamContest{LeagueRecordOf::Shots, &TeamSheet::Shots},
+    TeamContest{LeagueRecordOf::BodyChecks, &TeamSheet::BodyChecks},
+    TeamContest{LeagueRecordOf::Penalties, &TeamSheet::Penalties},
+    TeamContest{LeagueRecordOf::PowerPlayGoals, &TeamSheet::PPG},
+    TeamContest{LeagueRecordOf::PowerPlays, &TeamSheet::PPA},
+    TeamContest{LeagueRecordOf::PPAux, &TeamSheet::PPAux},
+    TeamContest{LeagueRecordOf::AuxFor, &TeamSheet::AuxFor},
+    TeamContest{LeagueRecordOf::PairAMade, &TeamSheet::PairAMade},
+    TeamContest{LeagueRecordOf::PairAAtt, &TeamSheet::PairAAtt},
+    TeamContest{LeagueRecordOf::PairBMade, &TeamSheet::PairBMade},
+    TeamContest{LeagueRecordOf::PairBAtt, &TeamSheet::PairBAtt},
+};
+
+/// All but the crowd meter, which is no team's figure.
+static_assert(TeamContests.size() == LeagueRecordCount - 1);
 
 /// A player of the game who may take records.
 struct Contender {
     TeamIndex team;
     const std::string& name;
+    PlayerGame game;
 
-    void contest(PlayerRecord& record, int figure) const {
-        if (figure > record.Value)
-            record = {team, name, figure};
+    template <class Records, class Contests>
+    void contest(Records& records, const Contests& contests) const {
+        for (const auto& [kind, figure] : contests) {
+            PlayerRecord& record = recordOf(records, kind);
+            if (figure(game) > record.Value)
+                record = {team, name, figure(game)};
+        }
     }
 };
 
-/// The figures of the first twelve league records, in file order.
-constexpr std::array<int TeamSheet::*, LeagueRecordCount - 1> LeagueRecordFigures{
-    &TeamSheet::Goals,     &TeamSheet::Shots,    &TeamSheet::BodyChecks, &TeamSheet::Penalties,
-    &TeamSheet::PPG,       &TeamSheet::PPA,      &TeamSheet::PPAux,      &TeamSheet::AuxFor,
-    &TeamSheet::PairAMade, &TeamSheet::PairAAtt, &TeamSheet::PairBMade,  &TeamSheet::PairBAtt};
+/// The players of one side of a game.
+class Contenders {
+public:
+    Contenders(const GameSheet& game, Side side, const GameRosters& rosters)
+        : team_(game.of(side)), special_(specialGoals(game, side)), roster_(rosters.of(side)) {}
+
+    Contender operator[](RosterIndex row) const {
+        return {team_.team, roster_[row].Name, playerGame(team_, special_, row)};
+    }
+
+    bool isGoalie(RosterIndex row) const { return roster_[row].isGoalie(); }
+
+private:
+    const TeamSheet& team_;
+    SpecialGoals special_;
+    const Roster& roster_;
+};
 
 void contest(LeagueRecord& record, CoachRecord& coachRecord, TeamIndex team,
              const std::optional<std::string>& coach, int figure) {
@@ -41,61 +127,41 @@ void contest(LeagueRecord& record, CoachRecord& coachRecord, TeamIndex team,
 
 void updateSpecialGoalRecords(AllTimePlayerRecords& records, const GameSheet& game,
                               const GameRosters& rosters) {
-    const SpecialGoals homeGoals = specialGoals(game, Side::Home);
-    const SpecialGoals awayGoals = specialGoals(game, Side::Away);
-    PlayerRecord& shorthanded = recordOf(records, PlayerRecordOf::ShorthandedGoals);
-    PlayerRecord& powerPlay = recordOf(records, PlayerRecordOf::PowerPlayGoals);
-    for (int row = 0; row < RosterRows; ++row) {
-        const Contender homePlayer{game.home.team, rosters.home[row].Name};
-        const Contender awayPlayer{game.away.team, rosters.away[row].Name};
-        awayPlayer.contest(shorthanded, awayGoals.shorthanded[row]);
-        homePlayer.contest(shorthanded, homeGoals.shorthanded[row]);
-        awayPlayer.contest(powerPlay, awayGoals.powerPlay[row]);
-        homePlayer.contest(powerPlay, homeGoals.powerPlay[row]);
+    const Contenders home(game, Side::Home, rosters);
+    const Contenders away(game, Side::Away, rosters);
+    for (const RosterIndex row : AllRosterRows) {
+        away[row].contest(records, SpecialGoalContests);
+        home[row].contest(records, SpecialGoalContests);
     }
 }
 
 void updatePlayerRecords(AllTimePlayerRecords& records, const GameSheet& game, Side side,
                          const GameRosters& rosters) {
-    const TeamSheet& team = game.of(side);
-    const Roster& roster = rosters.of(side);
-    for (int row = 0; row < RosterRows; ++row) {
-        if (roster[row].isGoalie())
-            continue;
-        const Contender skater{team.team, roster[row].Name};
-        skater.contest(recordOf(records, PlayerRecordOf::Goals), team.G[row]);
-        skater.contest(recordOf(records, PlayerRecordOf::Assists), team.A[row]);
-        skater.contest(recordOf(records, PlayerRecordOf::Points), team.G[row] + team.A[row]);
-        skater.contest(recordOf(records, PlayerRecordOf::Shots), team.SOG[row]);
-        skater.contest(recordOf(records, PlayerRecordOf::PenaltyMinutes), team.PIM[row]);
-    }
+    const Contenders players(game, side, rosters);
+    for (const RosterIndex row : AllRosterRows)
+        if (!players.isGoalie(row))
+            players[row].contest(records, SkaterContests);
 }
 
 void updateGoalieRecords(AllTimeGoalieRecords& records, const GameSheet& game, Side side,
                          const GameRosters& rosters) {
-    const TeamSheet& team = game.of(side);
-    const Roster& roster = rosters.of(side);
+    const Contenders players(game, side, rosters);
     const bool shutout = game.of(otherSide(side)).Goals == 0;
-    for (int row = 0; row < RosterRows; ++row) {
-        if (!roster[row].isGoalie())
+    for (const RosterIndex row : AllRosterRows) {
+        if (!players.isGoalie(row))
             continue;
-        const Contender goalie{team.team, roster[row].Name};
-        const int saves = team.SOG[row] - team.G[row];
-        goalie.contest(recordOf(records, GoalieRecordOf::Saves), saves);
+        players[row].contest(records, GoalieContests);
         if (shutout)
-            goalie.contest(recordOf(records, GoalieRecordOf::ShutoutSaves), saves);
-        goalie.contest(recordOf(records, GoalieRecordOf::GoalsAllowed), team.G[row]);
-        goalie.contest(recordOf(records, GoalieRecordOf::ShotsFaced), team.SOG[row]);
-        goalie.contest(recordOf(records, GoalieRecordOf::Assists), team.A[row]);
+            players[row].contest(records, ShutoutContests);
     }
 }
 
 void updateLeagueRecords(AllTimeLeagueRecords& records, CoachesLeagueRecords& coachRecords,
                          const GameSheet& game, const GameCoaches& coaches) {
-    for (std::size_t i = 0; i < LeagueRecordFigures.size(); ++i)
+    for (const auto& [kind, figure] : TeamContests)
         for (const Side side : {Side::Away, Side::Home})
-            contest(records[i], coachRecords.pairs[i], game.of(side).team, coaches.of(side),
-                    game.of(side).*LeagueRecordFigures[i]);
+            contest(recordOf(records, kind), recordOf(coachRecords.pairs, kind), game.of(side).team,
+                    coaches.of(side), game.of(side).*figure);
     contest(recordOf(records, LeagueRecordOf::CrowdMeter),
             recordOf(coachRecords.pairs, LeagueRecordOf::CrowdMeter), game.home.team, coaches.home,
             game.crowdMeter);

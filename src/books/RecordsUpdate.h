@@ -24,7 +24,7 @@ void updatePlayerRecords(AllTimePlayerRecords& records, const GameSheet& game, S
 void updateGoalieRecords(AllTimeGoalieRecords& records, const GameSheet& game, Side side,
                          const GameRosters& rosters);
 
-/// The coaches who stand behind the two teams of a game.
+/// The coaches of the two teams of a game.
 struct GameCoaches {
     std::optional<std::string> home;
     std::optional<std::string> away;
@@ -33,7 +33,7 @@ struct GameCoaches {
 };
 
 /// The records of teams, the away team first in each; the crowd's is the home team's. A coach enters his pair
-/// when his team breaks the record; the pair stands when a team without a coach does.
+/// when his team breaks the record; the pair stays as it was when a team without a coach does.
 void updateLeagueRecords(AllTimeLeagueRecords& records, CoachesLeagueRecords& coachRecords,
                          const GameSheet& game, const GameCoaches& coaches);
 

@@ -2,6 +2,9 @@
 
 #include "league/Numbers.h"
 
+#include <algorithm>
+#include <array>
+
 namespace iceline {
 
 namespace {
@@ -30,9 +33,25 @@ constexpr Split HomeGames{&R::HW,  &R::HL,   &R::HT,   &R::HGP,      &R::HWinPer
 constexpr Split AwayGames{&R::AW,  &R::AL,   &R::AT,   &R::AGP,      &R::AWinPercent,     &R::AGF,
                           &R::AGA, &R::AGFA, &R::AGAA, &R::AwayDiff, &R::AwayPowerRanking};
 
-double ratio(double total, int games) {
-    return games == 0 ? 0 : total / games;
-}
+/// A count of attempts in a game and how many of them were made.
+struct Pair {
+    int TeamSheet::*madeInGame;
+    int TeamSheet::*attemptsInGame;
+    int R::*made;
+    double R::*madeAverage;
+    int R::*attempts;
+    double R::*attemptsAverage;
+    double R::*percent;
+};
+
+constexpr std::array Pairs{
+    Pair{&TeamSheet::PairAMade, &TeamSheet::PairAAtt, &R::PairAMade, &R::PairAMadePG, &R::PairAAtt,
+         &R::PairAAttPG, &R::PairAPct},
+    Pair{&TeamSheet::PairBMade, &TeamSheet::PairBAtt, &R::PairBMade, &R::PairBMadePG, &R::PairBAtt,
+         &R::PairBAttPG, &R::PairBPct},
+    Pair{&TeamSheet::PairCMade, &TeamSheet::PairCAtt, &R::PairCMade, &R::PairCMadePG, &R::PairCAtt,
+         &R::PairCAttPG, &R::PairCPct},
+};
 
 /// Raises the one of three counters that a result belongs to.
 template <class Counter>
@@ -45,10 +64,10 @@ void addResult(R& record, const Split& split, const TeamSheet& own, const TeamSh
     const int games = ++(record.*split.games);
     record.*split.goalsFor += own.Goals;
     record.*split.goalsAgainst += other.Goals;
-    record.*split.goalsForAverage = r2(ratio(record.*split.goalsFor, games));
-    record.*split.goalsAgainstAverage = r2(ratio(record.*split.goalsAgainst, games));
+    record.*split.goalsForAverage = r2(perGame(record.*split.goalsFor, games));
+    record.*split.goalsAgainstAverage = r2(perGame(record.*split.goalsAgainst, games));
     count(record, result, split.wins, split.losses, split.ties);
-    record.*split.winPercent = r3(ratio(record.*split.wins, games));
+    record.*split.winPercent = r3(perGame(record.*split.wins, games));
 }
 
 /// The wins, plus the goal difference a game weighted by the share of the possible points taken.
@@ -79,7 +98,7 @@ void countConference(R& record, const GameSheet& game, const std::string& result
 void countOvertime(R& record, const std::string& result) {
     ++record.OTGP;
     count(record, result, &R::OTW, &R::OTL, &R::OTT);
-    record.OTWPct = r3(ratio(record.OTW, record.OTGP));
+    record.OTWPct = r3(perGame(record.OTW, record.OTGP));
 }
 
 void add(R& record, int R::*total, int figure) {
@@ -92,16 +111,16 @@ void add(R& record, double R::*total, int figure) {
 
 /// Adds a figure of the game to its running sum and renews the average a game.
 template <class Total>
-void addUp(R& record, Total R::*total, double R::*perGame, int figure) {
+void addUp(R& record, Total R::*total, double R::*average, int figure) {
     add(record, total, figure);
-    record.*perGame = r1(ratio(record.*total, record.GP));
+    record.*average = r1(perGame(record.*total, record.GP));
 }
 
 void addShots(R& record, const TeamSheet& own, const TeamSheet& other, RecordHolder holder) {
     addUp(record, &R::SOG, &R::SOGPG, own.Shots);
     addUp(record, &R::SOGA, &R::SOGAPG, other.Shots);
     record.SOGPct =
-        holder == RecordHolder::Team ? pct(record.GF, record.SOG) : r1(ratio(record.GF, record.SOG) * 100);
+        holder == RecordHolder::Team ? pct(record.GF, record.SOG) : shootingPct(record.GF, record.SOG);
 }
 
 void addPowerPlays(R& record, const TeamSheet& own, const TeamSheet& other) {
@@ -134,20 +153,16 @@ void addSecondBlock(R& record, const TeamSheet& own, const TeamSheet& other, Rec
     addUp(record, &R::AuxFor, &R::AuxForPG, own.AuxFor);
     if (holder == RecordHolder::Team)
         addUp(record, &R::AuxAgainst, &R::AuxAgainstPG, other.AuxFor);
-    addUp(record, &R::PairAMade, &R::PairAMadePG, own.PairAMade);
-    addUp(record, &R::PairAAtt, &R::PairAAttPG, own.PairAAtt);
-    record.PairAPct = pct(record.PairAMade, record.PairAAtt);
-    addUp(record, &R::PairBMade, &R::PairBMadePG, own.PairBMade);
-    addUp(record, &R::PairBAtt, &R::PairBAttPG, own.PairBAtt);
-    record.PairBPct = pct(record.PairBMade, record.PairBAtt);
-    addUp(record, &R::PairCMade, &R::PairCMadePG, own.PairCMade);
-    addUp(record, &R::PairCAtt, &R::PairCAttPG, own.PairCAtt);
-    record.PairCPct = pct(record.PairCMade, record.PairCAtt);
+    for (const Pair& pair : Pairs) {
+        addUp(record, pair.made, pair.madeAverage, own.*pair.madeInGame);
+        addUp(record, pair.attempts, pair.attemptsAverage, own.*pair.attemptsInGame);
+        record.*pair.percent = pct(record.*pair.made, record.*pair.attempts);
+    }
 }
 
 void addPlay(R& record, const TeamSheet& own, const TeamSheet& other) {
     addTo(record, &R::AttZone, own.AttackZone);
-    record.AttZoneSecPG = ratio(record.AttZone, record.GP);
+    record.AttZoneSecPG = perGame(record.AttZone, record.GP);
     record.AttZonePG = minutesText(record.AttZoneSecPG);
     addUp(record, &R::FOW, &R::FOWPG, own.FaceoffsWon);
     addUp(record, &R::FOT, &R::FOTPG, own.FaceoffsWon + other.FaceoffsWon);
@@ -190,6 +205,13 @@ void updateTeamRecord(TeamRecord& record, const GameSheet& game, Side side, bool
     addPenalties(record, own, other, holder);
     addSecondBlock(record, own, other, holder);
     addPlay(record, own, other);
+    if (side == Side::Home)
+        record.ArenaMeter = std::max<double>(record.ArenaMeter, game.crowdMeter);
+}
+
+void updateStreak(Streak& streak, const std::string& result) {
+    streak.StreakCount = streak.StreakLetter == result ? streak.StreakCount + 1 : 1;
+    streak.StreakLetter = result;
 }
 
 } // namespace iceline

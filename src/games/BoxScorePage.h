@@ -2,6 +2,7 @@
 
 #include "files/Files.h"
 #include "games/GameReport.h"
+#include "store/LeagueFiles.h"
 
 #include <optional>
 #include <string>

@@ -1,9 +1,7 @@
 #pragma once
 
-#include "games/SaveState.h"
-#include "league/GameSheet.h"
-#include "shell/ApplicationState.h"
-#include "store/PlayerFiles.h"
+#include "games/GameSheetReader.h"
+#include "league/StarOfGame.h"
 
 #include <array>
 #include <string>
@@ -13,9 +11,6 @@ namespace iceline {
 
 /// The kinds of game, by what a game touches.
 enum class GameKind { Season, Exhibition, Playoff };
-
-/// Reads the rosters of a game's teams; the game must be one that the league can take (SaveState::refusal).
-GameRosters readRosters(Files& files, const SaveState& save);
 
 /// A team's figures in one game, with the texts that the window and the page show.
 struct TeamGameStats : TeamFigures {
@@ -57,12 +52,9 @@ struct GameReport {
     const GameSide& of(Side side) const { return side == Side::Home ? home : away; }
 };
 
-/// The period from which a game counts as having gone to overtime.
-inline constexpr int OvertimePeriod = 4;
-
 /// The report of a game that the league can take, but for its stars, which are not chosen yet. The last
 /// period is that of the last goal, or a later one of a penalty; a game without goals begins from
 /// `formerPeriod`, the last period of the game read before.
-GameReport gameReport(const SaveState& save, const GameRosters& rosters, int formerPeriod);
+GameReport gameReport(const PlayedGame& game, int formerPeriod);
 
 } // namespace iceline

@@ -2,6 +2,8 @@
 
 #include "games/SaveStateMap.h"
 #include "games/TeamSheetFields.h"
+#include "store/LeaguePaths.h"
+#include "store/PlayerFiles.h"
 
 namespace iceline {
 
@@ -12,11 +14,23 @@ void readTeam(const SaveState& save, Side side, TeamSheet& team) {
         team.*field.figure = save.figure(side, field.lowByte);
     team.AttackZone += 256 * save.figure(side, SaveStateMap::AttackZoneHigh);
     for (const PlayerArray& array : PlayerArrays)
-        for (int row = 0; row < RosterRows; ++row)
-            (team.*array.figures)[row] = save.figure(side, array.firstRow + row);
+        for (const RosterIndex row : AllRosterRows)
+            (team.*array.figures)[row] = save.figure(side, array.firstRow + row.number());
     const int secondBlock = side == Side::Home ? 0 : SaveStateMap::SecondAwayBlock;
     for (const TeamSheetField& field : SecondBlockFields)
         team.*field.figure = save.byteAt(secondBlock + field.lowByte);
+}
+
+GameRosters readRosters(Files& files, const GameSheet& game) {
+    return {readRoster(files, paths::playersList(game.home.team)),
+            readRoster(files, paths::playersList(game.away.team))};
+}
+
+/// The byte in the scorer's place of the entry that ends where the scoring table ends.
+int lastScorer(const SaveState& save) {
+    constexpr int FromEnd = 3;
+    const int end = SaveStateMap::ScoringTable + save.byteAt(SaveStateMap::ScoringLength);
+    return save.byteAt(end - FromEnd);
 }
 
 } // namespace
@@ -29,6 +43,14 @@ GameSheet readGameSheet(const SaveState& save) {
     game.awayPPTime = save.wordAt(SaveStateMap::AwayPPTimeHigh);
     game.goals = save.scoringEntries();
     game.penalties = save.penaltyEntries();
+    return game;
+}
+
+PlayedGame readGame(Files& files, const std::string& path) {
+    const SaveState save = SaveState::read(files, path);
+    PlayedGame game{readGameSheet(save), {}, lastScorer(save), save.refusal()};
+    if (!game.refusal)
+        game.rosters = readRosters(files, game.sheet);
     return game;
 }
 

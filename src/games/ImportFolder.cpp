@@ -1,5 +1,4 @@
 #include "files/FileError.h"
-#include "games/SaveState.h"
 #include "games/StatExtractor.h"
 #include "games/ThreeStars.h"
 #include "shell/Application.h"
@@ -70,14 +69,10 @@ private:
         app_.state.SaveStatePath = folder_ + "/" + name;
         window_.SaveStateFileName = name;
         window_.GameLoaded = true;
-        chooseStars();
+        const PlayedGame& game = window_.readGameInHand();
+        if (!game.refusal)
+            selectStars(app_.state, game);
         window_.ImportStats_Click();
-    }
-
-    void chooseStars() {
-        const SaveState save = SaveState::read(app_.files(), app_.state.SaveStatePath);
-        if (!save.refusal())
-            selectStars(app_.state, save, readRosters(app_.files(), save));
     }
 
     Application& app_;

@@ -1,6 +1,5 @@
 #include "books/GameImport.h"
 #include "files/FileError.h"
-#include "games/GameSheetReader.h"
 #include "games/StatExtractor.h"
 #include "playoffs/Bracket.h"
 #include "shell/Application.h"
@@ -53,24 +52,23 @@ class GameInHand {
 public:
     GameInHand(Application& app, StatExtractor& window) : app_(app), window_(window) {}
 
-    /// Stages everything that the game changes, or says why it is refused, having staged nothing.
+    /// Stages everything that the game changes, or says why it is refused, having staged nothing. A folder
+    /// run has read the game just now; a single game is read here, since its file may have changed after it
+    /// was selected.
     std::optional<Refusal> import();
 
     /// To be called once the changes are on the disk.
     void keepSeries() { app_.state.PlayoffSeries = series_; }
 
 private:
-    std::optional<Refusal> refusal(const SaveState& save);
-    std::optional<Refusal> seasonRefusal() const;
+    std::optional<Refusal> refusal(const PlayedGame& game);
+    std::optional<Refusal> seasonRefusal(const GameSheet& game) const;
     bool hasGamesLeft(TeamIndex team) const;
-    void takeTeams(const SaveState& save);
     void publish();
-    void fold(const SaveState& save);
+    void fold(const PlayedGame& game);
 
     Application& app_;
     StatExtractor& window_;
-    TeamIndex home_;
-    TeamIndex away_;
     PlayoffSeriesTable series_;
     std::optional<SeriesOfGame> seriesOfGame_;
 };
@@ -80,50 +78,42 @@ std::optional<Refusal> GameInHand::import() {
         return Refusal{"Please select at least one coach first to import exhibition game to", true};
     if (!window_.GameLoaded)
         return Refusal{"Please load a file first!"};
-    const SaveState save = SaveState::read(app_.files(), app_.state.SaveStatePath);
-    if (auto refused = refusal(save))
+    const PlayedGame& game = window_.ImportMode == 1 ? window_.gameInHand() : window_.readGameInHand();
+    if (auto refused = refusal(game))
         return refused;
     publish();
-    fold(save);
+    fold(game);
     return std::nullopt;
 }
 
-std::optional<Refusal> GameInHand::refusal(const SaveState& save) {
-    if (const auto wrong = save.refusal())
-        return Refusal{*wrong};
+std::optional<Refusal> GameInHand::refusal(const PlayedGame& game) {
+    if (game.refusal)
+        return Refusal{*game.refusal};
     if (!canBeListed(app_.state.SaveStatePath))
         return Refusal{"Cannot import file because its name holds a double quote or a line end."};
-    takeTeams(save);
-    if (auto seasonOver = seasonRefusal())
+    if (auto seasonOver = seasonRefusal(game.sheet))
         return seasonOver;
     readPlayoffRecords(app_.files(), app_.state.PlayoffSeries);
     series_ = app_.state.PlayoffSeries;
     if (!window_.Season || !app_.state.PlayoffMode)
         return std::nullopt;
-    seriesOfGame_ = seriesOfGame(series_, {.home = home_, .away = away_});
+    seriesOfGame_ = seriesOfGame(series_, {.home = game.sheet.home.team, .away = game.sheet.away.team});
     if (!seriesOfGame_)
         return Refusal{"Cannot import file because this is not a valid post season game."};
     return std::nullopt;
-}
-
-void GameInHand::takeTeams(const SaveState& save) {
-    home_ = save.team(Side::Home);
-    away_ = save.team(Side::Away);
-    app_.state.HomeName = TeamName[home_];
-    app_.state.AwayName = TeamName[away_];
 }
 
 bool GameInHand::hasGamesLeft(TeamIndex team) const {
     return app_.state.TeamLeaderTable[team][0] < app_.state.SeasonLength;
 }
 
-std::optional<Refusal> GameInHand::seasonRefusal() const {
-    const bool homePlays = hasGamesLeft(home_);
-    const bool awayPlays = hasGamesLeft(away_);
+std::optional<Refusal> GameInHand::seasonRefusal(const GameSheet& game) const {
+    const bool homePlays = hasGamesLeft(game.home.team);
+    const bool awayPlays = hasGamesLeft(game.away.team);
     if ((homePlays && awayPlays) || window_.Exhibition || app_.state.PlayoffMode)
         return std::nullopt;
-    const std::string& home = app_.state.HomeName;
-    const std::string& away = app_.state.AwayName;
+    const std::string home(TeamName[game.home.team]);
+    const std::string away(TeamName[game.away.team]);
     const std::string text = homePlays   ? seasonCompleted(away, "has")
                              : awayPlays ? seasonCompleted(home, "has")
                                          : seasonCompleted(home + " and " + away, "have");
@@ -137,13 +127,13 @@ void GameInHand::publish() {
     window_.FillWindow = true;
 }
 
-void GameInHand::fold(const SaveState& save) {
+void GameInHand::fold(const PlayedGame& played) {
     const ApplicationState& state = app_.state;
-    const ImportedGame game{readGameSheet(save),
-                            readRosters(app_.files(), save),
+    const ImportedGame game{played.sheet,
+                            played.rosters,
                             state.partOfYear(),
                             window_.Season,
-                            state.GameLastPeriod == OvertimePeriod,
+                            state.GameLastPeriod >= OvertimePeriod,
                             state.SeasonLength,
                             {window_.homeCoach(), window_.awayCoach()},
                             state.Star,

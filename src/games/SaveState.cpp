@@ -1,7 +1,7 @@
 #include "games/SaveState.h"
 
 #include "games/SaveStateMap.h"
-#include "store/PlayerFiles.h"
+#include "league/Roster.h"
 
 namespace iceline {
 
@@ -44,26 +44,22 @@ std::vector<Entry> wholeEntries(const SaveState& save, int offset, int length, i
     return entries;
 }
 
-bool isRosterRow(int row) {
-    return row < RosterRows;
-}
-
-bool isAssist(int row) {
-    return row == NoAssist || isRosterRow(row);
+bool isAssist(int byte) {
+    return byte == NoAssist || rosterRow(byte);
 }
 
 std::string teamRefusal(const std::string& side, TeamIndex team) {
-    return "the " + side + " team is number " + std::to_string(team) +
+    return "the " + side + " team is number " + std::to_string(team.number()) +
            ", but the league's teams are 0 to 23; a game outside the league cannot be read";
 }
 
-std::string rowRefusal(const std::string& entry, std::size_t index, const std::string& role, int row) {
-    return entry + " " + std::to_string(index + 1) + " names roster row " + std::to_string(row) + " as " +
+std::string rowRefusal(const std::string& entry, std::size_t index, const std::string& role, int byte) {
+    return entry + " " + std::to_string(index + 1) + " names roster row " + std::to_string(byte) + " as " +
            role + ", but a roster has rows 0 to 24";
 }
 
 std::optional<std::string> goalRefusal(std::size_t index, const ScoringEntry& goal) {
-    if (!isRosterRow(goal.scorer))
+    if (!rosterRow(goal.scorer))
         return rowRefusal("goal", index, "scorer", goal.scorer);
     if (!isAssist(goal.assist1))
         return rowRefusal("goal", index, "first assist", goal.assist1);
@@ -73,7 +69,7 @@ std::optional<std::string> goalRefusal(std::size_t index, const ScoringEntry& go
 }
 
 std::optional<std::string> penaltyRefusal(std::size_t index, const PenaltyEntry& penalty) {
-    if (isRosterRow(penalty.player))
+    if (rosterRow(penalty.player))
         return std::nullopt;
     return rowRefusal("penalty", index, "player", penalty.player);
 }
@@ -106,12 +102,6 @@ SaveState SaveState::read(Files& files, const std::string& path) {
 int SaveState::byteAt(int offset) const {
     const auto index = static_cast<std::size_t>(offset);
     return index < bytes_.size() ? static_cast<unsigned char>(bytes_[index]) : 0;
-}
-
-std::string_view SaveState::ReadTeamAbbr(int position, int& lastTeamByte) const {
-    lastTeamByte = byteAt(position);
-    const auto row = static_cast<std::size_t>(lastTeamByte);
-    return row < TeamAbbr.size() ? TeamAbbr[row] : std::string_view();
 }
 
 int SaveState::figure(Side side, int homeOffset) const {

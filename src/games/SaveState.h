@@ -6,13 +6,12 @@
 
 #include <optional>
 #include <string>
-#include <string_view>
 #include <vector>
 
 namespace iceline {
 
 /// The save state of a game, held in memory: what SaveStateMap tells about its bytes, decoded. There is no
-/// mark by which a file could be told to be one, so any bytes are taken for a game; a byte behind the end
+/// mark by which a file could be told to be one, so any bytes are taken for a game; a byte after the end
 /// reads as 0, and an empty file is team 0 against itself without goals, penalties or figures.
 class SaveState {
 public:
@@ -22,18 +21,11 @@ public:
     /// Reads the file once, up to SaveStateMap::MaxBytes. Throws FileError when it cannot be read.
     static SaveState read(Files& files, const std::string& path);
 
-    /// The byte at an offset counted from 0, as the map gives them; 0 behind the end.
+    /// The byte at an offset counted from 0, as the map gives them; 0 after the end.
     int byteAt(int offset) const;
 
     /// The big-endian word whose high byte lies at `offset`.
     int wordAt(int offset) const { return byteAt(offset) * 256 + byteAt(offset + 1); }
-
-    /// The byte that lies one behind `position`: the low byte of the counter whose word begins there.
-    int ReadStatByte(int position) const { return byteAt(position + 1); }
-
-    /// The abbreviation of the team whose number lies at `position`, empty for a number without a team. The
-    /// number itself goes to `lastTeamByte`.
-    std::string_view ReadTeamAbbr(int position, int& lastTeamByte) const;
 
     /// A figure of a side's team block or player arrays, by its offset in the home team's.
     int figure(Side side, int homeOffset) const;
@@ -45,7 +37,7 @@ public:
     std::vector<ScoringEntry> scoringEntries() const;
     std::vector<PenaltyEntry> penaltyEntries() const;
 
-    /// Why the league cannot take the game, in one line that names the file, the place and what stands there:
+    /// Why the league cannot take the game, in one line that names the file, the place and what it holds:
     /// a team outside the league, or a summary entry that names a roster row which no roster has. None when
     /// it can.
     std::optional<std::string> refusal() const;

@@ -25,7 +25,7 @@ inline constexpr int PenaltyEntryBytes = 4; ///< time stamp (2), penalty type, p
 inline constexpr int SecondsPerPeriodCode =
     16384; ///< a time stamp is (period - 1) times this, plus the seconds
 
-/// Team figures of the home team; the away team's lie AwayBlock bytes behind.
+/// Team figures of the home team; the away team's lie AwayBlock bytes after them.
 inline constexpr int AwayBlock = 418;
 inline constexpr int Shots = 59743;
 inline constexpr int PPG = 59745;
@@ -40,14 +40,14 @@ inline constexpr int BodyChecks = 59759;
 inline constexpr int PassAtt = 59761;
 inline constexpr int PassComp = 59763;
 
-/// Player arrays of the home team, one byte a roster row; the away team's lie AwayBlock bytes behind. In a
-/// goalie's row G holds the goals that he let in and SOG the shots that he faced.
+/// Player arrays of the home team, one byte a roster row; the away team's lie AwayBlock bytes after them. In
+/// a goalie's row G holds the goals that he let in and SOG the shots that he faced.
 inline constexpr int PlayerGoals = 59922;
 inline constexpr int PlayerAssists = 59948;
 inline constexpr int PlayerShots = 59974;
 inline constexpr int PlayerPenM = 60000;
 
-/// Second block of the home team; the away team's lies SecondAwayBlock bytes behind.
+/// Second block of the home team; the away team's lies SecondAwayBlock bytes after it.
 inline constexpr int SecondAwayBlock = 868;
 inline constexpr int PPAux = 61083;
 inline constexpr int AuxFor = 61085;

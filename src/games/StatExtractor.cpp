@@ -1,7 +1,6 @@
 #include "games/StatExtractor.h"
 
 #include "games/BoxScorePage.h"
-#include "games/SaveStateMap.h"
 #include "games/Summaries.h"
 #include "games/ThreeStars.h"
 #include "playoffs/SeasonEnd.h"
@@ -18,11 +17,6 @@ std::string trimmed(const std::string& text) {
 
 std::string fileNameOf(const std::string& path) {
     return path.substr(path.find_last_of("/\\") + 1);
-}
-
-void takeNames(const Roster& roster, std::array<std::string, RosterRows>& names) {
-    for (std::size_t row = 0; row < names.size(); ++row)
-        names[row] = roster[row].Name;
 }
 
 } // namespace
@@ -43,19 +37,29 @@ void StatExtractor::Form_Load() {
 }
 
 void StatExtractor::LoadStats_Click() {
-    const std::optional<std::string> path = FillWindow ? chooseSaveState() : app_.state.SaveStatePath;
+    if (FillWindow)
+        selectGame();
+    else
+        publishGame();
+}
+
+void StatExtractor::selectGame() {
+    const auto path = chooseSaveState();
     if (!path)
         return;
-    const SaveState save = SaveState::read(app_.files(), *path);
-    if (const auto refusal = save.refusal()) {
-        app_.platform().say(*refusal);
+    PlayedGame game = readGame(app_.files(), *path);
+    if (game.refusal) {
+        app_.platform().say(*game.refusal);
         return;
     }
-    const GameRosters rosters = readRosters(app_.files(), save);
-    if (FillWindow)
-        content_.FileName = *path;
+    game_ = std::move(game);
     app_.state.SaveStatePath = *path;
-    loadGame(save, rosters);
+    content_.FileName = *path;
+    content_.report = reportGame();
+    content_.ScoringSummary = scoringSummaryText(*content_.report);
+    content_.PenaltySummary = penaltySummaryText(*content_.report);
+    changed();
+    GameLoaded = true;
 }
 
 std::optional<std::string> StatExtractor::chooseSaveState() {
@@ -64,35 +68,25 @@ std::optional<std::string> StatExtractor::chooseSaveState() {
     return path ? std::optional(trimmed(*path)) : std::nullopt;
 }
 
-void StatExtractor::loadGame(const SaveState& save, const GameRosters& rosters) {
+const PlayedGame& StatExtractor::readGameInHand() {
+    game_ = readGame(app_.files(), app_.state.SaveStatePath);
+    return *game_;
+}
+
+GameReport StatExtractor::reportGame() {
     ApplicationState& state = app_.state;
-    state.HomeName = save.ReadTeamAbbr(SaveStateMap::HomeTeam, state.LastTeamByte);
-    state.AwayName = save.ReadTeamAbbr(SaveStateMap::AwayTeam, state.LastTeamByte);
-    GameReport report = gameReport(save, rosters, state.GameLastPeriod);
+    GameReport report = gameReport(*game_, state.GameLastPeriod);
     state.GameLastPeriod = report.GameLastPeriod;
-    takeNames(rosters.home, HomeNames);
-    takeNames(rosters.away, AwayNames);
-    selectStars(state, save, rosters);
+    selectStars(state, *game_);
     report.Star = state.Star;
-    if (FillWindow)
-        show(report);
-    else
-        publish(report);
-    GameLoaded = true;
+    return report;
 }
 
-void StatExtractor::show(const GameReport& report) {
-    content_.ScoringSummary = scoringSummaryText(report);
-    content_.PenaltySummary = penaltySummaryText(report);
-    content_.report = report;
-    changed();
-}
-
-void StatExtractor::publish(const GameReport& report) {
+void StatExtractor::publishGame() {
     if (ImportMode != 1)
         SaveStateFileName = fileNameOf(app_.state.SaveStatePath);
     writeBoxScore(app_.files(),
-                  {report, boxScorePageName(SaveStateFileName), gameKind(), homeCoach(), awayCoach()});
+                  {reportGame(), boxScorePageName(SaveStateFileName), gameKind(), homeCoach(), awayCoach()});
 }
 
 void StatExtractor::T1Coach_Click(int listIndex) {
@@ -127,8 +121,9 @@ std::optional<GameKind> StatExtractor::gameKind() const {
 }
 
 std::optional<std::string> StatExtractor::coachAt(int position) const {
-    const bool chosen = position > 0 && position < static_cast<int>(content_.coaches.size());
-    return chosen ? std::optional(content_.coaches[position]) : std::nullopt;
+    const auto entry = static_cast<std::size_t>(position);
+    const bool chosen = position > 0 && entry < content_.coaches.size();
+    return chosen ? std::optional(content_.coaches[entry]) : std::nullopt;
 }
 
 } // namespace iceline

@@ -3,9 +3,7 @@
 #include "games/GameReport.h"
 #include "shell/Platform.h"
 #include "shell/Window.h"
-#include "store/PlayerFiles.h"
 
-#include <array>
 #include <optional>
 #include <string>
 #include <vector>
@@ -31,13 +29,14 @@ public:
 
     void Form_Load() override;
 
-    /// "Select Game" while FillWindow is True: file dialog, read, show. Called by the import with FillWindow
-    /// False: reads the file at SaveStatePath, writes page, list row and recent games, shows nothing.
+    /// "Select Game": selectGame(). The import, which sets FillWindow False, has publishGame() called.
     void LoadStats_Click();
 
-    /// What LoadStats_Click does once it has read its files, for callers that hold them already. The game
-    /// must be one that the league can take (SaveState::refusal).
-    void loadGame(const SaveState& save, const GameRosters& rosters);
+    /// Reads the game of the save state at SaveStatePath: from here on the game in hand.
+    const PlayedGame& readGameInHand();
+
+    /// The game read last; readGameInHand() or LoadStats_Click must have read one.
+    const PlayedGame& gameInHand() const { return game_.value(); }
 
     /// "Import Game".
     void ImportStats_Click();
@@ -45,12 +44,12 @@ public:
     /// "Import Folder".
     void ImportFolder_Click();
 
-    /// The user has chosen an entry of a coach list. A coach cannot stand behind both teams: the list that
-    /// was changed last wins and the other goes to "No Coach".
+    /// The user has chosen an entry of a coach list. Nobody coaches both teams: the list that was
+    /// changed last wins and the other goes to "No Coach".
     void T1Coach_Click(int listIndex);
     void T2Coach_Click(int listIndex);
 
-    /// Turns the league to the play-offs when no team has games left; see standings/SeasonEnd.h.
+    /// Turns the league to the play-offs when no team has games left; see playoffs/SeasonEnd.h.
     void checkSeason();
 
     /// "Stat Extractor", with the mark of the play-offs while they are on.
@@ -65,7 +64,7 @@ public:
 
     const Content& content() const { return content_; }
 
-    bool FillWindow = true;           ///< False only while the import calls LoadStats_Click
+    bool FillWindow = true;           ///< a game that is loaded is shown; False: published
     bool GameLoaded = false;          ///< a game has been read and not yet imported
     int ImportMode = 0;               ///< 0 a single game, 1 a folder run
     int ImportCount = 0;              ///< games imported in this run
@@ -75,24 +74,30 @@ public:
     bool Season = false;
     bool Exhibition = true;
 
-    /// Positions of the coach lists: -1 untouched, 0 "No Coach", behind it the coaches.
+    /// Positions of the coach lists: -1 untouched, 0 "No Coach", from 1 on the coaches.
     int T1Coach = -1;
     int T2Coach = -1;
 
     std::string SaveStateFileName; ///< file name of the save state in hand, without its folder
-    std::array<std::string, RosterRows> HomeNames;
-    std::array<std::string, RosterRows> AwayNames;
 
 private:
     /// Renews the tables of home and away games and of the versus records, as every import does.
     void updateStandings();
 
+    /// File dialog, read, show; nothing changes when a game is not read.
+    void selectGame();
+
+    /// Writes the page, the list row and the recent games of the game in hand.
+    void publishGame();
+
     std::optional<std::string> chooseSaveState();
-    void show(const GameReport& report);
-    void publish(const GameReport& report);
+
+    /// The report of the game in hand, with its stars.
+    GameReport reportGame();
     std::optional<std::string> coachAt(int position) const;
 
     Content content_;
+    std::optional<PlayedGame> game_;
 };
 
 } // namespace iceline

@@ -14,7 +14,7 @@ struct TeamSheetField {
     int lowByte;
 };
 
-/// The figures whose away team's lie SaveStateMap::AwayBlock bytes behind.
+/// The figures whose away team's lie SaveStateMap::AwayBlock bytes after them.
 inline constexpr std::array FirstBlockFields{
     TeamSheetField{&TeamSheet::Shots, SaveStateMap::Shots},
     TeamSheetField{&TeamSheet::PPG, SaveStateMap::PPG},
@@ -29,7 +29,8 @@ inline constexpr std::array FirstBlockFields{
     TeamSheetField{&TeamSheet::PassComp, SaveStateMap::PassComp},
 };
 
-/// The figures whose away team's lie SaveStateMap::SecondAwayBlock bytes behind.
+/// The figures whose away team's lie SaveStateMap::SecondAwayBlock bytes after
+/// them.
 inline constexpr std::array SecondBlockFields{
     TeamSheetField{&TeamSheet::PPAux, SaveStateMap::PPAux},
     TeamSheetField{&TeamSheet::AuxFor, SaveStateMap::AuxFor},
@@ -42,7 +43,7 @@ inline constexpr std::array SecondBlockFields{
 };
 
 /// A figure of the roster rows and where row 0 of the home team lies; the away team's lie
-/// SaveStateMap::AwayBlock bytes behind.
+/// SaveStateMap::AwayBlock bytes after them.
 struct PlayerArray {
     TeamSheet::RowFigures TeamSheet::*figures;
     int firstRow;

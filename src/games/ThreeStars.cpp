@@ -1,8 +1,5 @@
 #include "games/ThreeStars.h"
 
-#include "games/GameSheetReader.h"
-#include "games/SaveStateMap.h"
-
 #include <algorithm>
 #include <initializer_list>
 #include <vector>
@@ -11,25 +8,25 @@ namespace iceline {
 
 namespace {
 
-using Rows = std::vector<int>; ///< in rising order
+using Rows = std::vector<std::size_t>; ///< in rising order
 using Figure = int StarRow::*;
 
 /// Rows at the head of a roster in which the rule of the shutout looks for a goalie.
-constexpr int ShutoutRows = 3;
+constexpr std::size_t ShutoutRows = 3;
 
-constexpr int firstRow(Side side) {
+constexpr std::size_t firstRow(Side side) {
     return side == Side::Home ? 0 : RosterRows;
 }
 
-constexpr Side sideOfRow(int row) {
+constexpr Side sideOfRow(std::size_t row) {
     return row < RosterRows ? Side::Home : Side::Away;
 }
 
-std::optional<int> upper(const Rows& rows) {
+std::optional<std::size_t> upper(const Rows& rows) {
     return rows.empty() ? std::nullopt : std::optional(rows.front());
 }
 
-std::optional<int> lower(const Rows& rows) {
+std::optional<std::size_t> lower(const Rows& rows) {
     return rows.empty() ? std::nullopt : std::optional(rows.back());
 }
 
@@ -56,7 +53,7 @@ public:
 
     const StarChoice& stars() const { return stars_; }
 
-    void skaterLadder(int firstStar, int rounds) {
+    void skaterLadder(std::size_t firstStar, int rounds) {
         for (int round = 0; round < rounds; ++round)
             firstStar += fillWithBestSkaters(firstStar);
     }
@@ -70,9 +67,10 @@ public:
     void busiestShooter() { stars_[2] = upper(best(rowsFrom(0, StarRows, isSkater), {&StarRow::SOG})); }
 
     void winningGoal(Side winner, int scorer) {
-        if (scorer >= RosterRows)
+        const auto row = rosterRow(scorer);
+        if (!row)
             return;
-        stars_[0] = firstRow(winner) + scorer;
+        stars_[0] = firstRow(winner) + *row;
         table_[*stars_[0]].Used = true;
     }
 
@@ -86,15 +84,15 @@ public:
     }
 
     void shutoutGoalie(Side side) {
-        const int first = firstRow(side);
+        const std::size_t first = firstRow(side);
         const Rows goalies = rowsFrom(first, first + ShutoutRows, isBusyGoalie);
         stars_[0] = upper(best(goalies, {&StarRow::SOG, &StarRow::A})).value_or(0);
     }
 
 private:
-    Rows rowsFrom(int first, int end, bool (*test)(const StarRow&)) const {
+    Rows rowsFrom(std::size_t first, std::size_t end, bool (*test)(const StarRow&)) const {
         Rows rows;
-        for (int row = first; row < end; ++row)
+        for (std::size_t row = first; row < end; ++row)
             if (test(table_[row]))
                 rows.push_back(row);
         return rows;
@@ -109,9 +107,9 @@ private:
     Rows keep(Rows rows, Figure figure, const Extreme& extreme) const {
         if (rows.empty())
             return rows;
-        const auto value = [&](int row) { return table_[row].*figure; };
+        const auto value = [&](std::size_t row) { return table_[row].*figure; };
         const int kept = value(extreme(rows, {}, value));
-        std::erase_if(rows, [&](int row) { return value(row) != kept; });
+        std::erase_if(rows, [&](std::size_t row) { return value(row) != kept; });
         return rows;
     }
 
@@ -122,15 +120,15 @@ private:
         return rows;
     }
 
-    /// One round of the ladder; returns how many skaters stood level at its top.
-    int fillWithBestSkaters(int firstStar) {
+    /// One round of the ladder; returns how many skaters were level at its top.
+    std::size_t fillWithBestSkaters(std::size_t firstStar) {
         const Rows rows = best(rowsFrom(0, StarRows, isFreeSkater),
                                {&StarRow::Pts, &StarRow::G, &StarRow::A, &StarRow::SOG});
         for (std::size_t i = 0; i < rows.size() && firstStar + i < stars_.size(); ++i) {
             stars_[firstStar + i] = rows[i];
             table_[rows[i]].Used = true;
         }
-        return static_cast<int>(rows.size());
+        return rows.size();
     }
 
     StarTable table_;
@@ -166,7 +164,7 @@ void regulationStars(Choice& choice, const StarRules& rules) {
     }
 }
 
-StarRow starRow(const TeamSheet& team, int row, const RosterRow& player) {
+StarRow starRow(const TeamSheet& team, RosterIndex row, const RosterRow& player) {
     const bool empty = player.isEmpty() || player.Name.empty();
     const int goals = team.G[row];
     const int assists = team.A[row];
@@ -174,19 +172,12 @@ StarRow starRow(const TeamSheet& team, int row, const RosterRow& player) {
 }
 
 /// The table of a game; empty roster rows are Used.
-StarTable starTable(const GameSheet& game, const GameRosters& rosters) {
+StarTable starTable(const PlayedGame& game) {
     StarTable table;
     for (const Side side : {Side::Home, Side::Away})
-        for (int row = 0; row < RosterRows; ++row)
-            table[firstRow(side) + row] = starRow(game.of(side), row, rosters.of(side)[row]);
+        for (const RosterIndex row : AllRosterRows)
+            table[firstRow(side) + row] = starRow(game.sheet.of(side), row, game.rosters.of(side)[row]);
     return table;
-}
-
-/// The byte in the scorer's place of the entry that ends where the scoring table ends.
-int lastScorer(const SaveState& save) {
-    constexpr int FromEnd = 3;
-    const int end = SaveStateMap::ScoringTable + save.byteAt(SaveStateMap::ScoringLength);
-    return save.byteAt(end - FromEnd);
 }
 
 } // namespace
@@ -200,18 +191,16 @@ StarChoice threeStars(const StarTable& table, const StarRules& rules) {
     return choice.stars();
 }
 
-void selectStars(ApplicationState& state, const SaveState& save, const GameRosters& rosters) {
-    const GameSheet game = readGameSheet(save);
-    state.HomeName = TeamName[game.home.team];
-    state.AwayName = TeamName[game.away.team];
-    const StarChoice stars = threeStars(
-        starTable(game, rosters), {state.GameLastPeriod, game.home.Goals, game.away.Goals, lastScorer(save)});
+void selectStars(ApplicationState& state, const PlayedGame& game) {
+    const StarChoice stars = threeStars(starTable(game), {state.GameLastPeriod, game.sheet.home.Goals,
+                                                          game.sheet.away.Goals, game.lastScorer});
     for (std::size_t k = 0; k < stars.size(); ++k) {
         if (!stars[k])
             continue;
         const Side side = sideOfRow(*stars[k]);
-        state.StarSlot[k] = *stars[k] - firstRow(side);
-        state.Star[k] = {game.of(side).team, rosters.of(side)[state.StarSlot[k]].Name};
+        const RosterIndex row(static_cast<int>(*stars[k] - firstRow(side)));
+        state.StarSlot[k] = row;
+        state.Star[k] = {game.sheet.of(side).team, game.rosters.of(side)[row].Name};
     }
 }
 

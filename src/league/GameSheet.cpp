@@ -19,7 +19,7 @@ void GameSheet::addShot(Side side, int shooter) {
     TeamSheet& other = of(otherSide(side));
     ++of(side).Shots;
     ++at(of(side).SOG, shooter);
-    ++at(other.SOG, other.goalie);
+    ++other.SOG[other.goalie];
 }
 
 void GameSheet::addGoal(int period, int seconds, Side side, Strength strength, int scorer, int assist1,
@@ -29,13 +29,13 @@ void GameSheet::addGoal(int period, int seconds, Side side, Strength strength, i
     TeamSheet& team = of(side);
     TeamSheet& other = of(otherSide(side));
     ++team.Goals;
-    if (strength == Strength::PowerPlay || strength == Strength::TwoManPowerPlay)
+    if (isPowerPlay(strength))
         ++team.PPG;
     ++at(team.G, scorer);
     for (const int assistant : {assist1, assist2})
         if (assistant != NoAssist)
             ++at(team.A, assistant);
-    ++at(other.G, other.goalie);
+    ++other.G[other.goalie];
 }
 
 void GameSheet::addPenalty(int period, int seconds, Side side, Infraction infraction, int player) {

@@ -47,7 +47,7 @@ struct TeamSheet : TeamFigures {
 
     /// Roster row of the goalie in the net, who is charged with the shots and goals that GameSheet adds. No
     /// part of the file.
-    int goalie = 0;
+    RosterIndex goalie;
 };
 
 /// A whole game, as it is laid into a save state. Every figure can be set by itself; the add functions keep
@@ -61,7 +61,8 @@ struct GameSheet {
     TeamSheet& of(Side side) { return side == Side::Home ? home : away; }
     const TeamSheet& of(Side side) const { return side == Side::Home ? home : away; }
 
-    /// A shot on goal that was stopped: the shooter's, his team's, and faced by the other team's goalie.
+    /// A shot on goal that was stopped: the shooter's, his team's, and faced by the other team's goalie. Here
+    /// and below players are given by the byte of their roster row; std::out_of_range for one that is no row.
     void addShot(Side side, int shooter);
 
     /// A goal and the shot that it was: the entry, the team's goals, power-play goals and shots, the figures
@@ -75,8 +76,8 @@ struct GameSheet {
 
     TeamSheet home;
     TeamSheet away;
-    int crowdMeter = 80; ///< dB
-    int awayPPTime = 0;  ///< seconds; the game keeps none for the home team
+    int crowdMeter = 0; ///< loudest moment, dB
+    int awayPPTime = 0; ///< seconds; the game keeps none for the home team
     std::vector<ScoringEntry> goals;
     std::vector<PenaltyEntry> penalties;
     std::optional<int> scoringLength; ///< the scoring table's length byte where it is not that of `goals`

@@ -25,6 +25,16 @@ int wholeNumber(double value);
 /// attempted. 1 of 3 gives 33.3.
 double pct(double made, double attempted);
 
+/// A total a game; 0 without a game.
+inline double perGame(double total, int games) {
+    return games == 0 ? 0 : total / games;
+}
+
+/// Goals per shot in percent, r1; 0 without a shot.
+inline double shootingPct(int goals, int shots) {
+    return shots == 0 ? 0 : r1(static_cast<double>(goals) / shots * 100);
+}
+
 /// Seconds as minutes, a colon and two digits of seconds. The minutes are cut and the seconds rounded apart
 /// from them, so 119.6 gives "1:00".
 std::string minutesText(double seconds);

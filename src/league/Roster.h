@@ -4,6 +4,7 @@
 #include "league/Side.h"
 
 #include <array>
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -17,6 +18,11 @@ using RosterIndex = Index<struct RosterTable>;
 
 /// The rows of a roster, for a loop over them.
 inline constexpr FirstRows<RosterIndex> AllRosterRows{RosterRows};
+
+/// The roster row that a byte of a game names; none for a byte that is no row of a roster.
+inline constexpr std::optional<RosterIndex> rosterRow(int byte) {
+    return byte < RosterRows ? std::optional(RosterIndex(byte)) : std::nullopt;
+}
 
 /// The name that marks an empty roster row.
 inline constexpr std::string_view EmptyRowName = "-----------";

@@ -6,7 +6,10 @@
 
 namespace iceline {
 
-/// What stands in a summary entry's place of an assistant when there was none.
+/// The period from which a game counts as having gone to overtime.
+inline constexpr int OvertimePeriod = 4;
+
+/// The byte in an assistant's place of a summary entry when there was none.
 inline constexpr int NoAssist = 255;
 
 /// The bit of a goal or penalty type that is set for the away team.
@@ -14,6 +17,14 @@ inline constexpr int AwaySide = 128;
 
 /// Skaters of the scoring team against those of the other team; the numbers are those of the goal types.
 enum class Strength { TwoMenShort = 0, OneManShort = 1, Even = 2, PowerPlay = 3, TwoManPowerPlay = 4 };
+
+inline constexpr bool isShorthanded(Strength strength) {
+    return strength < Strength::Even;
+}
+
+inline constexpr bool isPowerPlay(Strength strength) {
+    return strength > Strength::Even;
+}
 
 /// The infractions; the numbers are those of the penalty types.
 enum class Infraction {
@@ -62,8 +73,8 @@ inline constexpr std::optional<Strength> strengthOf(int typeByte) {
 struct ScoringEntry {
     int period = 1;  ///< 1 to 4; 4 is overtime
     int seconds = 0; ///< of the period's clock, 0 to 16383
-    int type = 0;    ///< side and Strength; any other byte may stand there
-    int scorer = 0;  ///< roster row in the scoring team
+    int type = 0;    ///< side and Strength, or any other byte
+    int scorer = 0;  ///< byte of the roster row in the scoring team; see rosterRow()
     int assist1 = NoAssist;
     int assist2 = NoAssist;
 
@@ -74,8 +85,8 @@ struct ScoringEntry {
 struct PenaltyEntry {
     int period = 1;
     int seconds = 0;
-    int type = 0;   ///< side and Infraction; any other byte may stand there
-    int player = 0; ///< roster row in the penalised team
+    int type = 0;   ///< side and Infraction, or any other byte
+    int player = 0; ///< byte of the roster row in the penalised team; see rosterRow()
 
     friend bool operator==(const PenaltyEntry&, const PenaltyEntry&) = default;
 };

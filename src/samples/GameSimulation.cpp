@@ -8,7 +8,6 @@ namespace iceline {
 namespace {
 
 constexpr int PeriodSeconds = 1200;
-constexpr int OvertimePeriod = 4;
 constexpr int OvertimeSeconds = 300;
 constexpr int MinorSeconds = 120;
 constexpr int MajorSeconds = 300;
@@ -16,7 +15,7 @@ constexpr int MostInBox = 6; ///< of a team; so many are left that scorer and as
 
 constexpr std::array BothSides{Side::Home, Side::Away};
 
-/// What a referee calls on one player; the commoner infractions stand twice.
+/// What a referee calls on one player; the commoner infractions are in it twice.
 constexpr std::array Minors{Infraction::Boarding,     Infraction::Charging, Infraction::Slashing,
                             Infraction::Roughing,     Infraction::Hooking,  Infraction::CrossChecking,
                             Infraction::Tripping,     Infraction::Hooking,  Infraction::Holding,
@@ -61,6 +60,10 @@ int meanRating(const Roster& roster) {
     return sum / 13;
 }
 
+int assistByte(std::optional<RosterIndex> assistant) {
+    return assistant ? assistant->number() : NoAssist;
+}
+
 int goalieCount(const Roster& roster) {
     return static_cast<int>(std::ranges::count_if(roster, &RosterRow::isGoalie));
 }
@@ -71,7 +74,11 @@ int GameSimulation::Bench::menShort() const {
     return std::min(2, static_cast<int>(shorthanded.size()));
 }
 
-bool GameSimulation::Bench::hasInBox(int row) const {
+std::span<GameSimulation::BoxedPlayer> GameSimulation::Bench::runningMinors() {
+    return std::span(shorthanded).first(static_cast<std::size_t>(menShort()));
+}
+
+bool GameSimulation::Bench::hasInBox(RosterIndex row) const {
     const auto holds = [row](const std::vector<BoxedPlayer>& box) {
         return std::ranges::find(box, row, &BoxedPlayer::row) != box.end();
     };
@@ -96,7 +103,7 @@ void GameSimulation::prepare(Side side, const SampleTeam& team) {
     bench(side).roster = &team.roster;
     bench(side).skill = meanRating(team.roster) - 5 + random_.below(11);
     const bool regularStarts = random_.chance(3, 4);
-    game_.of(side).goalie = regularStarts ? 0 : random_.below(goalieCount(team.roster));
+    game_.of(side).goalie = RosterIndex(regularStarts ? 0 : random_.below(goalieCount(team.roster)));
 }
 
 GameSheet GameSimulation::play() {
@@ -132,8 +139,8 @@ void GameSimulation::playSecond() {
 }
 
 void GameSimulation::servePenalties(Bench& bench) {
-    for (int served = 0; served < bench.menShort(); ++served)
-        --bench.shorthanded[served].seconds;
+    for (BoxedPlayer& player : bench.runningMinors())
+        --player.seconds;
     for (BoxedPlayer& player : bench.evenedOut)
         --player.seconds;
     const auto isDone = [](const BoxedPlayer& player) { return player.seconds == 0; };
@@ -190,8 +197,8 @@ void GameSimulation::attack(Side side) {
 
 void GameSimulation::shoot(Side side) {
     TeamSheet& team = game_.of(side);
-    const int shooter = pickSkater(side, Role::Shooter);
-    const int goalie = game_.of(otherSide(side)).goalie;
+    const RosterIndex shooter = pickSkater(side, Role::Shooter);
+    const RosterIndex goalie = game_.of(otherSide(side)).goalie;
     const int shooterRating = (*bench(side).roster)[shooter].Rating;
     const int goalieRating = (*bench(otherSide(side)).roster)[goalie].Rating;
     const SpecialShot* special = specialShot(random_.below(200));
@@ -205,7 +212,7 @@ void GameSimulation::shoot(Side side) {
         ++team.PPAux;
     const bool hasRoom = game_.goals.size() < GameSheet::MaxGoals;
     if (!random_.chance(std::clamp(thousandths, 20, 450), 1000) || !hasRoom) {
-        game_.addShot(side, shooter);
+        game_.addShot(side, shooter.number());
         if (random_.chance(1, 4))
             faceOff();
         return;
@@ -215,12 +222,13 @@ void GameSimulation::shoot(Side side) {
     score(side, shooter);
 }
 
-void GameSimulation::score(Side side, int shooter) {
+void GameSimulation::score(Side side, RosterIndex shooter) {
     const int menMore = advantage(side);
     const int roll = random_.below(100);
-    const int first = roll < 12 ? NoRow : pickAssistant(side, shooter, NoRow);
-    const int second = roll < 40 ? NoRow : pickAssistant(side, shooter, first);
-    game_.addGoal(period_, second_, side, static_cast<Strength>(menMore + 2), shooter, first, second);
+    const auto first = roll < 12 ? std::nullopt : std::optional(pickAssistant(side, shooter, {}));
+    const auto second = roll < 40 ? std::nullopt : std::optional(pickAssistant(side, shooter, first));
+    game_.addGoal(period_, second_, side, static_cast<Strength>(menMore + 2), shooter.number(),
+                  assistByte(first), assistByte(second));
     Bench& beaten = bench(otherSide(side));
     if (menMore < 0)
         ++game_.of(side).AuxFor;
@@ -236,7 +244,7 @@ void GameSimulation::changeGoalie(Side side) {
     const bool beatenOften = team.G[team.goalie] >= 5;
     if (bench(side).goalieChanged || goalies < 2 || !random_.chance(1, beatenOften ? 2 : 60))
         return;
-    team.goalie = (team.goalie + 1) % goalies;
+    team.goalie = RosterIndex((team.goalie.number() + 1) % goalies);
     bench(side).goalieChanged = true;
 }
 
@@ -258,23 +266,23 @@ void GameSimulation::judge() {
 }
 
 void GameSimulation::callInfraction(Side side) {
-    const Infraction infraction = Minors[random_.below(Minors.size())];
+    const auto infraction = random_.oneOf(std::span<const Infraction>(Minors));
     callMinor(side, infraction, pickSkater(side, Role::Offender));
 }
 
-void GameSimulation::callMinor(Side side, Infraction infraction, int row) {
-    game_.addPenalty(period_, second_, side, infraction, row);
+void GameSimulation::callMinor(Side side, Infraction infraction, RosterIndex row) {
+    game_.addPenalty(period_, second_, side, infraction, row.number());
     bench(side).shorthanded.push_back({row, MinorSeconds});
     ++game_.of(otherSide(side)).PPA;
 }
 
 void GameSimulation::fight() {
     ++fights_;
-    const Side winner = BothSides[random_.below(2)];
+    const auto winner = random_.oneOf(std::span<const Side>(BothSides));
     for (const Side side : BothSides) {
-        const int row = pickSkater(side, Role::Offender);
+        const RosterIndex row = pickSkater(side, Role::Offender);
         const Infraction infraction = side == winner ? Infraction::FightingStarred : Infraction::Fighting;
-        game_.addPenalty(period_, second_, side, infraction, row);
+        game_.addPenalty(period_, second_, side, infraction, row.number());
         bench(side).evenedOut.push_back({row, MajorSeconds});
         if (side != winner && random_.chance(1, 4))
             callMinor(side, Infraction::FightInstigator, row);
@@ -283,8 +291,8 @@ void GameSimulation::fight() {
 
 void GameSimulation::scuffle() {
     for (const Side side : BothSides) {
-        const int row = pickSkater(side, Role::Offender);
-        game_.addPenalty(period_, second_, side, Infraction::Roughing, row);
+        const RosterIndex row = pickSkater(side, Role::Offender);
+        game_.addPenalty(period_, second_, side, Infraction::Roughing, row.number());
         bench(side).evenedOut.push_back({row, MinorSeconds});
     }
 }
@@ -293,9 +301,10 @@ int GameSimulation::advantage(Side side) {
     return bench(otherSide(side)).menShort() - bench(side).menShort();
 }
 
-int GameSimulation::pickSkater(Side side, Role role, int scorer, int assistant) {
+RosterIndex GameSimulation::pickSkater(Side side, Role role, std::optional<RosterIndex> scorer,
+                                       std::optional<RosterIndex> assistant) {
     std::array<int, RosterRows> weights{};
-    for (int row = 0; row < RosterRows; ++row) {
+    for (const RosterIndex row : AllRosterRows) {
         const RosterRow& player = (*bench(side).roster)[row];
         if (player.isEmpty() || player.isGoalie() || row == scorer || row == assistant ||
             bench(side).hasInBox(row))
@@ -304,11 +313,12 @@ int GameSimulation::pickSkater(Side side, Role role, int scorer, int assistant) 
         const int iceTime = std::max(4, player.Rating - 38);
         weights[row] = role == Role::Offender ? 120 - player.Rating : share * iceTime * iceTime;
     }
-    return random_.pick(weights);
+    return RosterIndex(static_cast<int>(random_.pick(weights)));
 }
 
-int GameSimulation::pickAssistant(Side side, int scorer, int assistant) {
-    const int goalie = game_.of(side).goalie;
+RosterIndex GameSimulation::pickAssistant(Side side, RosterIndex scorer,
+                                          std::optional<RosterIndex> assistant) {
+    const RosterIndex goalie = game_.of(side).goalie;
     if (assistant != goalie && random_.chance(1, 120))
         return goalie;
     return pickSkater(side, Role::Assistant, scorer, assistant);

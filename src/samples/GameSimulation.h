@@ -6,12 +6,13 @@
 #include "store/PlayerFiles.h"
 
 #include <optional>
+#include <span>
 #include <vector>
 
 namespace iceline {
 
-/// A team that plays a made-up game. Its goalies stand in the roster's first rows, one at least, and there
-/// are twelve skaters or more behind them. The roster must outlive the game.
+/// A team that plays a made-up game. Its goalies have the roster's first rows, one at least, and there
+/// are twelve skaters or more after them. The roster must outlive the game.
 struct SampleTeam {
     TeamIndex index;
     const Roster& roster;
@@ -30,7 +31,7 @@ public:
 
 private:
     struct BoxedPlayer {
-        int row = 0;
+        RosterIndex row;
         int seconds = 0; ///< still to serve
     };
 
@@ -42,7 +43,8 @@ private:
         std::vector<BoxedPlayer> evenedOut;   ///< penalties for which a substitute skates
 
         int menShort() const;
-        bool hasInBox(int row) const;
+        bool hasInBox(RosterIndex row) const;
+        std::span<BoxedPlayer> runningMinors();
         bool isBoxEmpty() const;
         bool isBoxFull() const;
     };
@@ -61,21 +63,20 @@ private:
     void playThePuck(Side side);
     void attack(Side side);
     void shoot(Side side);
-    void score(Side side, int shooter);
+    void score(Side side, RosterIndex shooter);
     void changeGoalie(Side side);
     void judge();
     void callInfraction(Side side);
-    void callMinor(Side side, Infraction infraction, int row);
+    void callMinor(Side side, Infraction infraction, RosterIndex row);
     void fight();
     void scuffle();
 
     bool tied() const { return game_.home.Goals == game_.away.Goals; }
     int advantage(Side side);
-    int pickSkater(Side side, Role role, int scorer = NoRow, int assistant = NoRow);
-    int pickAssistant(Side side, int scorer, int assistant);
+    RosterIndex pickSkater(Side side, Role role, std::optional<RosterIndex> scorer = {},
+                           std::optional<RosterIndex> assistant = {});
+    RosterIndex pickAssistant(Side side, RosterIndex scorer, std::optional<RosterIndex> assistant);
     void raiseCrowd();
-
-    static constexpr int NoRow = NoAssist;
 
     SeededRandom random_;
     GameSheet game_;

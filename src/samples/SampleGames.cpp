@@ -29,9 +29,9 @@ struct Places {
 Places placesMeeting(std::size_t round, std::size_t game) {
     if (game == 0)
         return round % 2 == 0 ? Places{round, TopPlace} : Places{TopPlace, round};
-    const std::size_t ahead = (round + game) % Rounds;
-    const std::size_t behind = (round + Rounds - game) % Rounds;
-    return game % 2 == 1 ? Places{ahead, behind} : Places{behind, ahead};
+    const std::size_t next = (round + game) % Rounds;
+    const std::size_t previous = (round + Rounds - game) % Rounds;
+    return game % 2 == 1 ? Places{next, previous} : Places{previous, next};
 }
 
 /// The teams in the places, shuffled.
@@ -39,8 +39,8 @@ std::array<TeamIndex, LeagueTeams> seatTeams(std::uint64_t seed) {
     std::array<TeamIndex, LeagueTeams> teams{};
     std::iota(teams.begin(), teams.end(), TeamIndex(0));
     SeededRandom random(seed);
-    for (int left = LeagueTeams; left > 1; --left)
-        std::swap(teams[left - 1], teams[random.below(left)]);
+    for (TeamIndex last(LeagueTeams - 1); last > TeamIndex(0); last = TeamIndex(last.number() - 1))
+        std::swap(teams[last], teams[TeamIndex(random.below(last.number() + 1))]);
     return teams;
 }
 

@@ -31,7 +31,7 @@ std::vector<Pairing> sampleSchedule(int games, std::uint64_t seed);
 
 /// A plausible game whose figures agree with each other, the same on every machine for the same arguments.
 /// Every counter is below 256. `number` is the game's place in the schedule, from 1. A roster has its goalies
-/// in its first rows, one at least, and twelve skaters or more behind them.
+/// in its first rows, one at least, and twelve skaters or more after them.
 GameSheet sampleGame(std::uint64_t seed, int number, const Pairing& pairing, const LeagueRosters& rosters);
 
 /// Games of the schedule that are written when nobody says how many: one at home and one away for each team.

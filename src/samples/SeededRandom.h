@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
 #include <span>
 
@@ -26,16 +27,22 @@ public:
         return static_cast<int>(((next() >> 32) * static_cast<std::uint64_t>(bound)) >> 32);
     }
 
+    /// One of the values, each as likely as the others; there is one at least.
+    template <class Value>
+    Value oneOf(std::span<const Value> values) {
+        return values[static_cast<std::size_t>(below(static_cast<int>(values.size())))];
+    }
+
     /// True in `part` of `whole` cases.
     bool chance(int part, int whole) { return below(whole) < part; }
 
     /// An index of `weights`, each as likely as its weight; one at least is above 0.
-    int pick(std::span<const int> weights) {
+    std::size_t pick(std::span<const int> weights) {
         int total = 0;
         for (const int weight : weights)
             total += weight;
         int left = below(total);
-        int index = 0;
+        std::size_t index = 0;
         while (left >= weights[index])
             left -= weights[index++];
         return index;

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "league/LeagueTable.h"
+#include "league/Roster.h"
 #include "league/StarOfGame.h"
 #include "store/LeagueFiles.h"
 #include "store/LeaguePaths.h"
@@ -38,12 +39,9 @@ struct ApplicationState {
 
     /// The game in hand.
     std::string SaveStatePath;
-    int LastTeamByte = 0;
-    std::string HomeName; ///< abbreviation once the teams are read, full name once the stars are chosen
-    std::string AwayName;
     int GameLastPeriod = 0; ///< highest period seen, 4 for overtime; 0 after an import
     std::array<StarOfGame, 3> Star;
-    std::array<int, 3> StarSlot{}; ///< roster rows of the stars, 0 to 24
+    std::array<RosterIndex, 3> StarSlot; ///< roster rows of the stars
 
     /// The standings as they were last worked out.
     LeagueTable StandingsTable;

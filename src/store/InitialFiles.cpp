@@ -12,7 +12,6 @@ namespace iceline {
 namespace {
 
 constexpr int SeasonLengthAtStart = 82;
-constexpr int CrowdMeterAtStart = 80;
 
 template <int Value>
 std::string number() {

@@ -1,6 +1,7 @@
 #include "store/LeagueFiles.h"
 
 #include "store/LeaguePaths.h"
+#include "store/TeamRecord.h"
 
 namespace iceline {
 
@@ -33,8 +34,6 @@ std::span<const Field<CoachRecord>> fieldsOf<CoachRecord>() {
 }
 
 namespace {
-
-constexpr int CrowdAtStart = 80;
 
 void rejectUnless(bool holds, const ItemReader& reader, std::string_view field, const std::string& wrong) {
     if (!holds)
@@ -76,7 +75,7 @@ TeamIndex readSlot(ItemReader& reader, std::string_view field) {
 } // namespace
 
 CoachesLeagueRecords::CoachesLeagueRecords() {
-    pairs.back().Value = CrowdAtStart;
+    recordOf(pairs, LeagueRecordOf::CrowdMeter).Value = CrowdMeterAtStart;
     for (std::size_t i = 0; i < passedOn.size(); i += 3) {
         passedOn[i] = {""};
         passedOn[i + 1] = RawItem::text("");
@@ -134,7 +133,7 @@ std::string textOf(const std::string& file, const CoachesLeagueRecords& records)
 
 AllTimeLeagueRecords initialLeagueRecords() {
     AllTimeLeagueRecords records;
-    records[static_cast<std::size_t>(LeagueRecordOf::CrowdMeter)].Value = CrowdAtStart;
+    recordOf(records, LeagueRecordOf::CrowdMeter).Value = CrowdMeterAtStart;
     return records;
 }
 
@@ -208,7 +207,7 @@ std::string initialUnusedLeagueRecordsText() {
     LineWriter writer("League Records.txt");
     for (int i = 0; i < 25; ++i)
         writer.integer(0);
-    return writer.integer(CrowdAtStart).endLine().content();
+    return writer.integer(CrowdMeterAtStart).endLine().content();
 }
 
 } // namespace iceline

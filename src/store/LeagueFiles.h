@@ -24,12 +24,14 @@ std::span<const Field<PlayerRecord>> fieldsOf<PlayerRecord>();
 
 /// Groups of `All-Time Player Records.txt`, in file order.
 enum class PlayerRecordOf { Goals, Assists, Points, PowerPlayGoals, ShorthandedGoals, Shots, PenaltyMinutes };
+inline constexpr auto PlayerRecordCount = static_cast<std::size_t>(PlayerRecordOf::PenaltyMinutes) + 1;
 
 /// Groups of `All-Time Goalie Records.txt`, in file order.
 enum class GoalieRecordOf { Saves, ShutoutSaves, GoalsAllowed, ShotsFaced, Assists };
+inline constexpr auto GoalieRecordCount = static_cast<std::size_t>(GoalieRecordOf::Assists) + 1;
 
-using AllTimePlayerRecords = std::array<PlayerRecord, 7>;
-using AllTimeGoalieRecords = std::array<PlayerRecord, 5>;
+using AllTimePlayerRecords = std::array<PlayerRecord, PlayerRecordCount>;
+using AllTimeGoalieRecords = std::array<PlayerRecord, GoalieRecordCount>;
 
 /// A single-game record of a team.
 struct LeagueRecord {
@@ -56,7 +58,7 @@ enum class LeagueRecordOf {
     PairBAtt,
     CrowdMeter
 };
-inline constexpr int LeagueRecordCount = 13;
+inline constexpr auto LeagueRecordCount = static_cast<std::size_t>(LeagueRecordOf::CrowdMeter) + 1;
 
 using AllTimeLeagueRecords = std::array<LeagueRecord, LeagueRecordCount>;
 
@@ -77,6 +79,12 @@ struct CoachesLeagueRecords {
     std::array<CoachRecord, LeagueRecordCount> pairs;
     std::array<RawItem, 36> passedOn;
 };
+
+/// The record of a kind among the records of its file.
+template <class Records, class Kind>
+auto& recordOf(Records& records, Kind kind) {
+    return records[static_cast<std::size_t>(kind)];
+}
 
 /// Wins that take a series.
 inline constexpr int WinsToTakeSeries = 4;

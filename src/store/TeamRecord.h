@@ -6,6 +6,9 @@
 
 namespace iceline {
 
+/// What every crowd meter begins with, dB.
+inline constexpr int CrowdMeterAtStart = 80;
+
 /// The line of `Records.txt`: a team's season, its play-offs, or a coach. 113 fields in file order.
 ///
 /// r1, r2, r3: rounded to 1, 2, 3 decimals, ties to the even digit. "In percent" values lie between 0 and 100
@@ -117,13 +120,14 @@ struct TeamRecord {
     int PassAtt = 0;             ///< pass attempts
     double PassAttPG = 0;        ///< per game, r1
     double PassAcc = 0;          ///< PassComp / PassAtt in percent
-    double ArenaMeter = 80;      ///< loudest home game, dB
-    double SameConfW = 0;        ///< wins against the own conference
-    double SameConfL = 0;        ///< losses against it
-    double SameConfT = 0;        ///< ties against it
-    double OtherConfW = 0;       ///< wins against the other conference
-    double OtherConfL = 0;       ///< losses against it
-    double OtherConfT = 0;       ///< ties against it
+    /// Loudest home game, dB.
+    double ArenaMeter = CrowdMeterAtStart;
+    double SameConfW = 0;  ///< wins against the own conference
+    double SameConfL = 0;  ///< losses against it
+    double SameConfT = 0;  ///< ties against it
+    double OtherConfW = 0; ///< wins against the other conference
+    double OtherConfL = 0; ///< losses against it
+    double OtherConfT = 0; ///< ties against it
 
     friend bool operator==(const TeamRecord&, const TeamRecord&) = default;
 };

@@ -16,15 +16,21 @@ TEST(SpecialGoals, CountsPowerPlayAndShorthandedGoalsByScorer) {
     game.addGoal(1, 80, Side::Home, Strength::Even, 4);
     game.addGoal(2, 60, Side::Away, Strength::OneManShort, 4);
     game.addGoal(2, 70, Side::Away, Strength::TwoMenShort, 24);
+    game.addGoal(2, 80, Side::Away, Strength::TwoManPowerPlay, 7);
+    game.addGoal(2, 85, Side::Home, Strength::TwoMenShort, 8);
     game.goals.push_back({2, 90, typeByte(Side::Home, 3), 25}); // no roster has the row
     game.goals.push_back({2, 95, 7, 6});                        // a type that the game does not use
     const SpecialGoals home = specialGoals(game, Side::Home);
     EXPECT_EQ(home.powerPlay[4], 2);
-    EXPECT_THAT(home.shorthanded, testing::Each(0));
+    EXPECT_EQ(home.shorthanded[8], 1);
+    EXPECT_EQ(home.shorthanded[4], 0) << "that of the other team's row";
+    EXPECT_EQ(home.powerPlay[7], 0);
     const SpecialGoals away = specialGoals(game, Side::Away);
     EXPECT_EQ(away.shorthanded[4], 1);
     EXPECT_EQ(away.shorthanded[24], 1);
-    EXPECT_THAT(away.powerPlay, testing::Each(0));
+    EXPECT_EQ(away.shorthanded[8], 0);
+    EXPECT_EQ(away.powerPlay[7], 1);
+    EXPECT_EQ(away.powerPlay[4], 0);
 }
 
 TEST(PlayerStatsUpdate, ASkatersTotalsAveragesAndRatingGrowWithTheGame) {
@@ -50,6 +56,38 @@ TEST(PlayerStatsUpdate, ASkatersTotalsAveragesAndRatingGrowWithTheGame) {
     // = 2.04.
     EXPECT_EQ(line.Rating, 1.226);
     EXPECT_EQ(line.StarPoints, 20);
+}
+
+TEST(PlayerStatsUpdate, UnevenAveragesAreRoundedToTwoDecimalsAndPercentagesToOne) {
+    SkaterStats skater;
+    skater.GP = 2;
+    updateSkater(skater, {.goals = 2, .assists = 5, .shots = 11, .penaltyMinutes = 8, .shorthandedGoals = 1},
+                 41);
+    EXPECT_EQ(skater.ShotPct, 18.2);
+    EXPECT_EQ(skater.GPG, 0.67);
+    EXPECT_EQ(skater.APG, 1.67);
+    EXPECT_EQ(skater.PtsPG, 2.33);
+    EXPECT_EQ(skater.SOGPG, 3.67);
+    EXPECT_EQ(skater.PIMPG, 2.67);
+    EXPECT_EQ(skater.SHG, 1);
+    EXPECT_EQ(skater.PPG, 0);
+    // Totals 0.3 + 0.6 + 1 + 4.2 - 4 + 1.65 + 0.15 = 3.9; averages 0.268 + 0.501 + 1.864 - 1.2015 + 0.546
+    // - 0.0256 = 1.9519.
+    EXPECT_EQ(skater.Rating, 1.171);
+
+    GoalieStats goalie;
+    goalie.GP = 6;
+    goalie.SvPct = 0.911;
+    updateGoalie(goalie,
+                 {.goals = 16, .assists = 1, .shots = 147, .powerPlayGoals = 2, .shorthandedGoals = 3}, 2, 5,
+                 41);
+    EXPECT_EQ(goalie.GAA, 2.29);
+    EXPECT_EQ(goalie.SvPct, 0.891);
+    EXPECT_EQ(goalie.GL, 1);
+    EXPECT_EQ(goalie.PPG, 2);
+    EXPECT_EQ(goalie.SHG, 3);
+    // 63.77 + 2.1 - 4.58 + 0 + 0.0171 + 0 = 61.3071
+    EXPECT_EQ(goalie.Rating, 6.131);
 }
 
 TEST(PlayerStatsUpdate, ASeasonLengthOfZeroLeavesItsTermOutOfASkatersRating) {
@@ -119,7 +157,7 @@ TEST(PlayerStatsUpdate, ASeasonLengthOfZeroLeavesAGoalieWithoutRating) {
 TEST(PlayerStatsUpdate, BothGoaliesWhoPlayedGetTheDecision) {
     GameSheet game(Boston, Montreal);
     game.addShot(Side::Home, 5);
-    game.away.goalie = 1;
+    game.away.goalie = RosterIndex(1);
     game.addGoal(3, 10, Side::Home, Strength::Even, 5);
     TeamPlayerStats montreal;
     montreal[0] = montreal[1] = montreal[2] = GoalieStats();

@@ -10,7 +10,7 @@ constexpr TeamIndex Montreal{10};
 
 Roster rosterOf(const std::string& team) {
     Roster roster;
-    for (int row = 0; row < RosterRows; ++row) {
+    for (std::size_t row = 0; row < roster.size(); ++row) {
         roster[row].Name = team + std::to_string(row);
         roster[row].Position = row < 2 ? "G" : "F";
     }
@@ -101,6 +101,23 @@ protected:
     AllTimeLeagueRecords teams = initialLeagueRecords();
     CoachesLeagueRecords coachPairs;
 };
+
+TEST_F(LeagueRecords, EachIsContestedByItsOwnFigure) {
+    int figure = 100;
+    for (int TeamSheet::*member :
+         {&TeamSheet::PPAux, &TeamSheet::AuxFor, &TeamSheet::PairAMade, &TeamSheet::PairAAtt,
+          &TeamSheet::PairBMade, &TeamSheet::PairBAtt, &TeamSheet::PairCAtt})
+        game.away.*member = ++figure;
+    for (int TeamFigures::*member :
+         {&TeamFigures::Goals, &TeamFigures::Shots, &TeamFigures::BodyChecks, &TeamFigures::Penalties,
+          &TeamFigures::PPG, &TeamFigures::PPA, &TeamFigures::PenM})
+        game.away.*member = ++figure;
+    import({});
+    std::vector<int> values;
+    for (const LeagueRecord& record : teams)
+        values.push_back(record.Value);
+    EXPECT_THAT(values, testing::ElementsAre(108, 109, 110, 111, 112, 113, 101, 102, 103, 104, 105, 106, 80));
+}
 
 TEST_F(LeagueRecords, FallToTheAwayTeamWhereBothReachThem) {
     game.home.Shots = game.away.Shots = 30;

@@ -1,11 +1,11 @@
 #include "books/TeamRecordUpdate.h"
 
-#include "books/StreakUpdate.h"
 #include "support/ErrorMessage.h"
 
 #include <gmock/gmock.h>
 
 #include <limits>
+#include <vector>
 
 namespace iceline {
 namespace {
@@ -187,6 +187,54 @@ TEST(TeamRecordUpdate, EveryFigureOfTheGameIsSummedAndAveraged) {
     EXPECT_EQ(record.ArenaMeter, 80);
 }
 
+TEST(TeamRecordUpdate, UnevenAveragesAreRoundedEachToItsOwnDecimals) {
+    TeamRecord before;
+    before.GP = before.AGP = 2;
+    before.Wins = before.AW = 1;
+    before.GF = before.AGF = 4;
+    GameSheet sheet = busyGame();
+    sheet.away.Goals = 4;
+    sheet.away.AttackZone = 200;
+    const TeamRecord away = after(sheet, Side::Away, before, true);
+    EXPECT_EQ(away.GFA, 2.67);
+    EXPECT_EQ(away.AGFA, 2.67);
+    EXPECT_EQ(away.GAA, 1);
+    EXPECT_EQ(away.Diff, 1.67);
+    EXPECT_EQ(away.WinPercent, 0.667);
+    EXPECT_EQ(away.AWinPercent, 0.667);
+    EXPECT_EQ(away.SOGPG, 8.3);
+    EXPECT_EQ(away.SOGAPG, 10);
+    EXPECT_EQ(away.PPTimePG, 43.7);
+    EXPECT_EQ(away.PPTimePGText, RawItem::text("0:44"));
+    EXPECT_NEAR(away.AttZoneSecPG, 66.6667, 1e-4) << "not rounded";
+    EXPECT_EQ(away.AttZonePG, "1:07");
+    EXPECT_EQ(away.PenPG, 1) << "1.3, held as a whole number";
+    EXPECT_NEAR(away.PKPct, 66.7, 1e-9);
+    EXPECT_EQ(away.FOWPG, 7);
+    EXPECT_EQ(away.FOTPG, 13.7);
+}
+
+TEST(TeamRecordUpdate, EachPairOfTheSecondBlockGoesToItsOwnFields) {
+    GameSheet sheet = game(Boston, 3, Montreal, 1);
+    sheet.home.PairAMade = 1;
+    sheet.home.PairAAtt = 2;
+    sheet.home.PairBMade = 3;
+    sheet.home.PairBAtt = 7;
+    sheet.home.PairCMade = 4;
+    sheet.home.PairCAtt = 9;
+    TeamRecord before;
+    before.GP = 2;
+    const TeamRecord record = after(sheet, Side::Home, before);
+    EXPECT_THAT((std::vector{record.PairAMade, record.PairAAtt, record.PairBMade, record.PairBAtt,
+                             record.PairCMade, record.PairCAtt}),
+                testing::ElementsAre(1, 2, 3, 7, 4, 9));
+    EXPECT_THAT((std::vector{record.PairAMadePG, record.PairAAttPG, record.PairBMadePG, record.PairBAttPG,
+                             record.PairCMadePG, record.PairCAttPG}),
+                testing::ElementsAre(0.3, 0.7, 1, 2.3, 1.3, 3));
+    EXPECT_NEAR(record.PairBPct, 42.9, 1e-9);
+    EXPECT_NEAR(record.PairCPct, 44.4, 1e-9);
+}
+
 TEST(TeamRecordUpdate, OnlyTheAwaySideHasPowerPlayTime) {
     const TeamRecord away = after(busyGame(), Side::Away);
     EXPECT_EQ(away.PPTime, 131);
@@ -235,7 +283,7 @@ TEST(TeamRecordUpdate, ASumThatTheFileCannotHoldIsAnError) {
                               "than the league's files can hold"));
 }
 
-TEST(StreakUpdate, ARunLengthensWithItsLetterAndBeginsAnewWithAnother) {
+TEST(StreakUpdate, ARunLengthensWithItsLetterAndBeginsAgainWithAnother) {
     Streak streak;
     updateStreak(streak, "W");
     EXPECT_EQ(streak, (Streak{"W", 1}));

@@ -1,6 +1,7 @@
 #include "games/BoxScorePage.h"
 
 #include "files/FileError.h"
+#include "store/LeagueFiles.h"
 #include "support/MemoryFiles.h"
 
 #include <gmock/gmock.h>

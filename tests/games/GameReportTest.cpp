@@ -12,12 +12,13 @@ constexpr TeamIndex Montreal{10};
 
 GameReport reportOf(const GameSheet& game, int formerPeriod = 0) {
     GameRosters rosters;
-    for (int row = 0; row < RosterRows; ++row) {
+    for (std::size_t row = 0; row < rosters.home.size(); ++row) {
         rosters.home[row].Name = "Home " + std::to_string(row);
         rosters.away[row].Name = "Away " + std::to_string(row);
     }
     rosters.away[24] = RosterRow();
-    return gameReport({"game.gs0", saveStateBytes(game)}, rosters, formerPeriod);
+    const GameSheet seen = readGameSheet({"game.gs0", saveStateBytes(game)});
+    return gameReport({seen, rosters, 0, std::nullopt}, formerPeriod);
 }
 
 TEST(GameReport, TakesEachFigureFromItsPlace) {

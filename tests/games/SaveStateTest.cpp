@@ -32,28 +32,19 @@ TEST(SaveState, ReadsFirst64KiBOfTheFileOnce) {
     EXPECT_THROW(SaveState::read(files, "missing.gs0"), FileError);
 }
 
-TEST(SaveState, EachReaderCountsItsOwnWay) {
+TEST(SaveState, FiguresOfTheAwayTeamAreReadFromItsOwnBlock) {
     GameSheet game(NewJersey, Boston);
     game.home.Goals = 6;
     game.away.AttackZone = 605;
     const SaveState save = saved(game);
-    EXPECT_EQ(save.ReadStatByte(59754), 6) << "the low byte lies behind the position";
-    int lastTeamByte = -1;
-    EXPECT_EQ(save.ReadTeamAbbr(59013, lastTeamByte), "NJ");
-    EXPECT_EQ(lastTeamByte, NewJersey);
+    EXPECT_EQ(save.byteAt(59755), 6);
+    EXPECT_EQ(save.team(Side::Home), NewJersey);
     EXPECT_EQ(save.wordAt(60170), 605);
     EXPECT_EQ(save.figure(Side::Home, SaveStateMap::Goals), 6);
     EXPECT_EQ(save.figure(Side::Away, SaveStateMap::AttackZoneLow), 605 % 256);
 }
 
-TEST(SaveState, TeamNumberWithoutATeamHasNoAbbreviation) {
-    const SaveState save("x", std::string(1, '\xff'));
-    int lastTeamByte = 0;
-    EXPECT_EQ(save.ReadTeamAbbr(0, lastTeamByte), "");
-    EXPECT_EQ(lastTeamByte, 255);
-}
-
-TEST(SaveState, CutFileReadsAsZeroBehindItsEnd) {
+TEST(SaveState, CutFileReadsAsZeroAfterItsEnd) {
     GameSheet game(NewJersey, NewJersey);
     game.addGoal(1, 30, Side::Home, Strength::Even, 12);
     game.addGoal(2, 30, Side::Home, Strength::Even, 12);
@@ -89,7 +80,7 @@ TEST(SaveState, OnlyWholeEntriesCount) {
     const SaveState save = saved(game);
     EXPECT_EQ(save.scoringEntries().size(), 3u);
     EXPECT_EQ(save.penaltyEntries().size(), 1u);
-    EXPECT_EQ(save.refusal(), std::nullopt) << "the broken rows stand in entries that do not count";
+    EXPECT_EQ(save.refusal(), std::nullopt) << "the broken rows are in entries that do not count";
 }
 
 TEST(SaveState, RefusesTeamsOutsideTheLeague) {

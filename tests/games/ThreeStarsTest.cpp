@@ -1,6 +1,7 @@
 #include "games/ThreeStars.h"
 
 #include "samples/SaveStateWriter.h"
+#include "support/TestLeague.h"
 
 #include <gmock/gmock.h>
 
@@ -14,24 +15,24 @@ constexpr auto Nobody = std::nullopt;
 constexpr int Regulation = 3;
 constexpr int Overtime = 4;
 constexpr int NoScorer = 255;
-constexpr int AwayRow = RosterRows; ///< the away team's row 0 in the table
+constexpr std::size_t AwayRow = RosterRows; ///< the away team's row 0 in the table
 
-/// Two goalies a team in rows 0 and 1, skaters in rows 2 to 19, behind them empty rows.
+/// Two goalies a team in rows 0 and 1, skaters in rows 2 to 19, then empty rows.
 StarTable twoTeams() {
     StarTable table;
-    for (int i = 0; i < StarRows; ++i) {
-        const int row = i % RosterRows;
+    for (std::size_t i = 0; i < StarRows; ++i) {
+        const std::size_t row = i % RosterRows;
         table[i].goalie = row < 2;
         table[i].Used = row > 19;
     }
     return table;
 }
 
-void skater(StarTable& table, int row, int goals, int assists, int shots) {
+void skater(StarTable& table, std::size_t row, int goals, int assists, int shots) {
     table[row] = {goals + assists, goals, assists, shots, false, false};
 }
 
-void goalie(StarTable& table, int row, int goalsLetIn, int shotsFaced, int assists = 0) {
+void goalie(StarTable& table, std::size_t row, int goalsLetIn, int shotsFaced, int assists = 0) {
     table[row] = {goalsLetIn + assists, goalsLetIn, assists, shotsFaced, true, false};
 }
 
@@ -54,7 +55,7 @@ TEST(ThreeStars, SkatersRankByPointsGoalsAssistsAndShots) {
 
 TEST(ThreeStars, FullTieGoesToHomeTeamAndUpperRow) {
     StarTable table = twoTeams();
-    for (const int row : {AwayRow + 2, 7, 12, AwayRow + 4})
+    for (const std::size_t row : {AwayRow + 2, std::size_t{7}, std::size_t{12}, AwayRow + 4})
         skater(table, row, 1, 0, 2);
     EXPECT_THAT(regulation(table, 2, 2), ElementsAre(7, 12, AwayRow + 2));
 
@@ -87,9 +88,11 @@ TEST(ThreeStars, ShutoutIsTheGoaliesOfTheFirstThreeRows) {
     skater(table, AwayRow + 9, 3, 0, 3);
     skater(table, 9, 0, 0, 6);
     EXPECT_THAT(regulation(table, 0, 3), ElementsAre(AwayRow + 2, AwayRow + 9, 9));
+    goalie(table, AwayRow, 0, 20, 1);
+    EXPECT_EQ(regulation(table, 0, 3)[0], AwayRow) << "of a full tie the upper row";
     goalie(table, 1, 0, 1);
     EXPECT_EQ(regulation(table, 3, 0)[0], 1);
-    EXPECT_EQ(regulation(table, 0, 0)[0], AwayRow + 2) << "a scoreless tie counts for the away goalie";
+    EXPECT_EQ(regulation(table, 0, 0)[0], AwayRow) << "a scoreless tie counts for the away goalie";
 }
 
 TEST(ThreeStars, ShutoutWithoutABusyGoalieNamesTheFirstHomeRow) {
@@ -144,18 +147,27 @@ TEST(ThreeStars, RulesThatFindNoGoalieNameNobody) {
 class StarsOfAGame : public testing::Test {
 protected:
     StarsOfAGame() {
-        for (int row = 0; row < RosterRows; ++row) {
-            rosters.home[row] = {"Home " + std::to_string(row), row, 50, row < 2 ? "G" : "F"};
-            rosters.away[row] = {"Away " + std::to_string(row), row, 50, row < 2 ? "G" : "F"};
+        for (const RosterIndex row : AllRosterRows) {
+            const std::string number = std::to_string(row.number());
+            rosters.home[row] = {"Home " + number, 0, 50, row.number() < 2 ? "G" : "F"};
+            rosters.away[row] = {"Away " + number, 0, 50, row.number() < 2 ? "G" : "F"};
         }
     }
 
-    void select() { selectStars(state, {"game.gs0", saveStateBytes(game)}, rosters); }
+    void select() {
+        files.files["game.gs0"] = saveStateBytes(game);
+        for (const Side side : {Side::Home, Side::Away}) {
+            files.makeFolder(paths::teamFolder(game.of(side).team));
+            files.files[paths::playersList(game.of(side).team)] = test::rosterText(rosters.of(side));
+        }
+        selectStars(state, readGame(files, "game.gs0"));
+    }
 
     static constexpr TeamIndex Boston{0};
     static constexpr TeamIndex StLouis{18};
     GameSheet game{StLouis, Boston};
     GameRosters rosters;
+    test::MemoryFiles files;
     ApplicationState state;
 };
 
@@ -164,16 +176,13 @@ TEST_F(StarsOfAGame, KeepsTeamNameAndRosterRow) {
     game.addGoal(2, 60, Side::Home, Strength::Even, 3);
     rosters.away[8].Name = EmptyRowName;
     rosters.away[9].Name = "";
-    for (const int emptyRow : {8, 9})
-        game.away.G[emptyRow] = 9;
+    game.away.G[8] = game.away.G[9] = 9;
     select();
     EXPECT_EQ(state.Star[0].Name, "Home 3");
     EXPECT_EQ(state.Star[0].Team, StLouis);
     EXPECT_EQ(state.Star[1].Name, "Away 7");
     EXPECT_EQ(state.Star[1].Team, Boston);
-    EXPECT_THAT(state.StarSlot, ElementsAre(3, 7, 24));
-    EXPECT_EQ(state.HomeName, "St. Louis Blues");
-    EXPECT_EQ(state.AwayName, "Boston Bruins");
+    EXPECT_THAT(state.StarSlot, ElementsAre(RosterIndex(3), RosterIndex(7), RosterIndex(24)));
 }
 
 TEST_F(StarsOfAGame, LastGoalIsFoundByTheLengthByte) {
@@ -191,14 +200,14 @@ TEST_F(StarsOfAGame, LastGoalIsFoundByTheLengthByte) {
 TEST_F(StarsOfAGame, StarThatTheRulesDoNotNameStaysAsItWas) {
     state.GameLastPeriod = Overtime;
     state.Star[2] = {TeamIndex(21), "Old Star"};
-    state.StarSlot[2] = 13;
+    state.StarSlot[2] = RosterIndex(13);
     game.home.Goals = 1;
     game.home.SOG[1] = 20;
     select();
     EXPECT_EQ(state.Star[1].Name, "Home 1");
     EXPECT_EQ(state.Star[2].Name, "Old Star") << "no away goalie faced a shot";
     EXPECT_EQ(state.Star[2].Team, 21);
-    EXPECT_EQ(state.StarSlot[2], 13);
+    EXPECT_EQ(state.StarSlot[2], RosterIndex(13));
 }
 
 } // namespace

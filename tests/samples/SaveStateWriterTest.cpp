@@ -97,7 +97,7 @@ TEST(SaveStateWriter, PutsPlayersAndTheSecondBlockAtTheirRows) {
 
 TEST(SaveStateWriter, AGoalRaisesEverythingThatItTouches) {
     GameSheet game(Montreal, Boston);
-    game.away.goalie = 1;
+    game.away.goalie = RosterIndex(1);
     game.addGoal(1, 60, Side::Home, Strength::TwoManPowerPlay, 5, 6);
     game.addGoal(1, 90, Side::Home, Strength::OneManShort, 5);
     game.addShot(Side::Home, 6);
