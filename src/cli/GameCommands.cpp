@@ -41,10 +41,10 @@ int coachPosition(Session& session, const std::string& name) {
 void choose(Session& session, const Import& import) {
     coachPosition(session, import.homeCoach);
     const int away = coachPosition(session, import.awayCoach);
-    // Only now: the look-up before may have loaded the window anew.
+    // Only now: the look-up before may have loaded the window again.
     const int home = coachPosition(session, import.homeCoach);
     if (home != 0 && home == away)
-        throw UsageError("a coach cannot stand behind both teams");
+        throw UsageError("nobody can coach both teams");
     StatExtractor& window = StatExtractor::in(session.app());
     window.Season = !import.exhibition;
     window.Exhibition = import.exhibition;

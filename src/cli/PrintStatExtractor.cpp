@@ -1,6 +1,8 @@
 #include "cli/TextTable.h"
 #include "cli/WindowPrinters.h"
+#include "games/ReportTables.h"
 #include "games/StatExtractor.h"
+#include "league/Numbers.h"
 
 #include <algorithm>
 
@@ -10,54 +12,50 @@ namespace {
 
 using Align = TextTable::Align;
 
-std::string pair(int made, int tried) {
-    return std::to_string(made) + " / " + std::to_string(tried);
-}
-
 TextTable teamFigures(const GameReport& game) {
     TextTable table({{"", Align::Left},
                      {std::string(TeamAbbr[game.home.team])},
                      {std::string(TeamAbbr[game.away.team])}});
-    const TeamGameStats& home = game.home.stats;
-    const TeamGameStats& away = game.away.stats;
-    const auto number = [&](const char* caption, int TeamGameStats::*figure) {
-        table.addRow({caption, std::to_string(home.*figure), std::to_string(away.*figure)});
+    const auto add = [&](std::string_view caption, const auto& textOf) {
+        table.addRow({std::string(caption), textOf(game.home.stats), textOf(game.away.stats)});
     };
-    const auto text = [&](const char* caption, std::string TeamGameStats::*figure) {
-        table.addRow({caption, home.*figure, away.*figure});
-    };
-    number("Goals", &TeamGameStats::Goals);
-    number("Shots", &TeamGameStats::Shots);
-    text("Shooting Pct.%", &TeamGameStats::ShootingPct);
-    table.addRow({"PPG / PPA", pair(home.PPG, home.PPA), pair(away.PPG, away.PPA)});
-    number("Penalties", &TeamGameStats::Penalties);
-    number("Penalty Minutes", &TeamGameStats::PenM);
-    number("Faceoffs Won", &TeamGameStats::FaceoffsWon);
-    text("Faceoff Win %", &TeamGameStats::FaceWinPct);
-    number("Body Checks", &TeamGameStats::BodyChecks);
-    text("Attacking Zone", &TeamGameStats::AttackZoneText);
-    table.addRow(
-        {"Passes / Pass Att.", pair(home.PassComp, home.PassAtt), pair(away.PassComp, away.PassAtt)});
-    text("Pass Accuracy %", &TeamGameStats::PassAcc);
+    for (const TeamFigureLine& line : TeamFigureLines) {
+        const auto first = [&](const TeamGameStats& team) { return line.first.text(team, numberText); };
+        const auto second = [&](const TeamGameStats& team) { return line.second->text(team, numberText); };
+        const auto both = [&](const TeamGameStats& team) { return first(team) + " / " + second(team); };
+        if (!line.second) {
+            add(line.caption, first);
+        } else if (line.secondCaption.empty()) {
+            add(line.caption, both);
+        } else {
+            add(line.caption, first);
+            add(line.secondCaption, second);
+        }
+    }
     return table;
 }
 
 TextTable roster(const GameSide& side) {
-    TextTable table(
-        {{std::string(TeamName[side.team]), Align::Left}, {"G"}, {"A"}, {"Pts."}, {"SOG"}, {"PIM"}});
-    for (const GamePlayerRow& player : side.players)
-        if (!player.isEmpty())
-            table.addRow({player.Name, std::to_string(player.G), std::to_string(player.A),
-                          std::to_string(player.Pts), std::to_string(player.SOG),
-                          std::to_string(player.PIM)});
+    std::vector<TextTable::Column> columns{{std::string(TeamName[side.team]), Align::Left}};
+    for (const PlayerFigure& figure : PlayerFigures)
+        columns.push_back({std::string(figure.caption)});
+    TextTable table(std::move(columns));
+    for (const GamePlayerRow& player : side.players) {
+        if (player.isEmpty())
+            continue;
+        std::vector<std::string> cells{player.Name};
+        for (const PlayerFigure& figure : PlayerFigures)
+            cells.push_back(std::to_string(player.*figure.figure));
+        table.addRow(std::move(cells));
+    }
     return table;
 }
 
 TextTable stars(const GameReport& game) {
     TextTable table({{"", Align::Left}, {"", Align::Left}, {"", Align::Left}});
-    constexpr std::array Captions{"1st Star:", "2nd Star:", "3rd Star:"};
-    for (std::size_t i = 0; i < Captions.size(); ++i)
-        table.addRow({Captions[i], game.Star[i].Name, std::string(TeamAbbr[game.Star[i].Team])});
+    for (std::size_t k = 0; k < StarPlaces.size(); ++k)
+        table.addRow({std::string(StarPlaces[k].caption), game.Star[k].Name,
+                      std::string(TeamAbbr[game.Star[k].Team])});
     return table;
 }
 

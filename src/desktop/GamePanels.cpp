@@ -3,6 +3,7 @@
 #include "desktop/Controls.h"
 #include "desktop/Pictures.h"
 #include "desktop/QtPlatform.h"
+#include "league/Numbers.h"
 
 #include <QGridLayout>
 #include <QGroupBox>
@@ -17,38 +18,6 @@ constexpr int FigureRowHeight = 19;
 constexpr int NameWidth = 168;
 constexpr int FigureWidth = 34;
 
-struct RosterColumn {
-    const char* name;
-    const char* caption;
-};
-
-constexpr RosterColumn RosterColumns[] = {
-    {"Names", "Names"}, {"Goals", "G"}, {"Assists", "A"}, {"Points", "Pts."}, {"SOG", "SOG"}, {"PIM", "PIM"},
-};
-
-/// A line of figures: its caption, and the labels whose texts stand side by side in it.
-struct FigureLine {
-    const char* caption;
-    std::vector<const char*> names;
-};
-
-const std::vector<FigureLine>& figureLines() {
-    static const std::vector<FigureLine> lines{
-        {"Goals", {"Score"}},
-        {"Shots", {"Shots"}},
-        {"Shooting Pct.%", {"ShootingPct"}},
-        {"PPG / PPA", {"PPG", "PPA"}},
-        {"Penalties", {"Penalties", "PenM"}},
-        {"Faceoffs Won", {"FaceoffsWon"}},
-        {"Faceoff Win %", {"FaceWinPct"}},
-        {"Body Checks", {"BodyChecks"}},
-        {"Attacking Zone", {"AttackZone"}},
-        {"Passes / Pass Att.", {"PassComp", "PassAtt"}},
-        {"Pass Accuracy %", {"PassAcc"}},
-    };
-    return lines;
-}
-
 QGridLayout* compactGrid(QWidget* owner) {
     auto* grid = new QGridLayout(owner);
     grid->setContentsMargins(0, 0, 0, 0);
@@ -57,78 +26,67 @@ QGridLayout* compactGrid(QWidget* owner) {
     return grid;
 }
 
-std::array<int, 5> figuresOf(const GamePlayerRow& row) {
-    return {row.G, row.A, row.Pts, row.SOG, row.PIM};
-}
-
-std::vector<std::pair<const char*, QString>> figureTexts(const TeamGameStats& stats) {
-    const auto number = [](int value) { return QString::number(value); };
-    return {
-        {"Score", number(stats.Goals)},
-        {"Shots", number(stats.Shots)},
-        {"ShootingPct", toQt(stats.ShootingPct)},
-        {"PPG", number(stats.PPG)},
-        {"PPA", number(stats.PPA)},
-        {"Penalties", number(stats.Penalties)},
-        {"PenM", number(stats.PenM)},
-        {"FaceoffsWon", number(stats.FaceoffsWon)},
-        {"FaceWinPct", toQt(stats.FaceWinPct)},
-        {"BodyChecks", number(stats.BodyChecks)},
-        {"AttackZone", toQt(stats.AttackZoneText)},
-        {"PassComp", number(stats.PassComp)},
-        {"PassAtt", number(stats.PassAtt)},
-        {"PassAcc", toQt(stats.PassAcc)},
-    };
-}
-
 } // namespace
 
 GameRosterPanel::GameRosterPanel(const QString& team, const char* bannerName, QGroupBox* frame)
     : QWidget(frame), frame_(frame), banner_(pictureLabel(QLatin1String(bannerName), this)) {
     QGridLayout* grid = compactGrid(this);
     banner_->setFixedHeight(48);
-    grid->addWidget(banner_, 0, 0, 1, 6);
-    for (int column = 0; column < 6; ++column) {
-        const Qt::Alignment alignment = column == 0 ? Qt::AlignLeft : Qt::AlignRight;
-        grid->addWidget(headLabel(QLatin1String(RosterColumns[column].caption), this, alignment), 1, column);
-        grid->setColumnMinimumWidth(column, column == 0 ? NameWidth : FigureWidth);
-        for (int row = 0; row < RosterRows; ++row) {
-            const QString name = element((team + QLatin1String(RosterColumns[column].name)).toLatin1(), row);
-            QLabel* label = column == 0 ? textLabel(name, this) : figureLabel(name, this);
-            label->setFixedHeight(RowHeight);
-            columns_[column].push_back(label);
-            grid->addWidget(label, row + 2, column);
-        }
-    }
+    grid->addWidget(banner_, 0, 0, 1, static_cast<int>(1 + PlayerFigures.size()));
+    addColumn(*grid, 0, QStringLiteral("Names"));
+    for (std::size_t figure = 0; figure < PlayerFigures.size(); ++figure)
+        addColumn(*grid, static_cast<int>(1 + figure), toQt(PlayerFigures[figure].caption));
+    for (const RosterIndex row : AllRosterRows)
+        addRow(*grid, row, team);
     grid->setColumnStretch(0, 1);
+}
+
+void GameRosterPanel::addColumn(QGridLayout& grid, int column, const QString& caption) {
+    const bool holdsNames = column == 0;
+    grid.addWidget(headLabel(caption, this, holdsNames ? Qt::AlignLeft : Qt::AlignRight), 1, column);
+    grid.setColumnMinimumWidth(column, holdsNames ? NameWidth : FigureWidth);
+}
+
+void GameRosterPanel::addRow(QGridLayout& grid, RosterIndex row, const QString& team) {
+    int column = 0;
+    const auto add = [&](QLabel* label) {
+        label->setFixedHeight(RowHeight);
+        grid.addWidget(label, row.number() + 2, column++);
+        return label;
+    };
+    const auto name = [&](std::string_view control) {
+        return element((team + toQt(control)).toLatin1(), row.number());
+    };
+    Row& labels = rows_[row];
+    labels.name = add(textLabel(name("Names"), this));
+    for (std::size_t figure = 0; figure < PlayerFigures.size(); ++figure)
+        labels.figures[figure] = add(figureLabel(name(PlayerFigures[figure].control), this));
 }
 
 void GameRosterPanel::show(const GameSide& side) {
     frame_->setTitle(toQt(TeamAbbr[side.team]));
     banner_->setPixmap(pictures::teamNameBig(side.team).scaledToHeight(
         static_cast<int>(48 * devicePixelRatioF()), Qt::SmoothTransformation));
-    for (int row = 0; row < RosterRows; ++row) {
+    for (const RosterIndex row : AllRosterRows) {
         const GamePlayerRow& player = side.players[row];
-        columns_[0][row]->setText(player.isEmpty() ? QString() : toQt(player.Name));
-        const std::array<int, 5> figures = figuresOf(player);
-        for (int figure = 0; figure < 5; ++figure)
-            columns_[figure + 1][row]->setText(player.isEmpty() ? QString()
-                                                                : QString::number(figures[figure]));
+        rows_[row].name->setText(player.isEmpty() ? QString() : toQt(player.Name));
+        for (std::size_t figure = 0; figure < PlayerFigures.size(); ++figure)
+            rows_[row].figures[figure]->setText(
+                player.isEmpty() ? QString() : QString::number(player.*PlayerFigures[figure].figure));
     }
 }
 
-GameFiguresPanel::GameFiguresPanel(const QString& team, QGroupBox* frame)
-    : QWidget(frame), frame_(frame), team_(team) {
+GameFiguresPanel::GameFiguresPanel(const QString& team, QGroupBox* frame) : QWidget(frame), frame_(frame) {
     QGridLayout* grid = compactGrid(this);
     int row = 0;
-    for (const FigureLine& line : figureLines()) {
+    for (const TeamFigureLine& line : TeamFigureLines) {
         auto* texts = new QHBoxLayout;
         texts->setSpacing(3);
         texts->addStretch();
-        for (const char* name : line.names) {
-            if (name != line.names.front())
-                texts->addWidget(headLabel(QStringLiteral("/"), this));
-            texts->addWidget(add(QLatin1String(name)));
+        texts->addWidget(add(line.first, team));
+        if (line.second) {
+            texts->addWidget(headLabel(QStringLiteral("/"), this));
+            texts->addWidget(add(*line.second, team));
         }
         texts->addStretch();
         grid->addLayout(texts, row, 0);
@@ -138,21 +96,23 @@ GameFiguresPanel::GameFiguresPanel(const QString& team, QGroupBox* frame)
     setMinimumWidth(84);
 }
 
-QLabel* GameFiguresPanel::add(const QString& name) {
-    return figureLabel(team_ + name, this);
+QLabel* GameFiguresPanel::add(const TeamFigure& figure, const QString& team) {
+    QLabel* label = figureLabel(team + toQt(figure.control), this);
+    figures_.emplace_back(figure, label);
+    return label;
 }
 
 void GameFiguresPanel::show(const GameSide& side) {
     frame_->setTitle(toQt(TeamAbbr[side.team]));
-    for (const auto& [name, text] : figureTexts(side.stats))
-        findChild<QLabel*>(team_ + QLatin1String(name))->setText(text);
+    for (const auto& [figure, label] : figures_)
+        label->setText(toQt(figure.text(side.stats, numberText)));
 }
 
 GameFigureCaptions::GameFigureCaptions(QWidget* parent) : QWidget(parent) {
     QGridLayout* grid = compactGrid(this);
     int row = 0;
-    for (const FigureLine& line : figureLines()) {
-        grid->addWidget(headLabel(QLatin1String(line.caption), this, Qt::AlignCenter), row, 0);
+    for (const TeamFigureLine& line : TeamFigureLines) {
+        grid->addWidget(headLabel(toQt(line.caption), this, Qt::AlignCenter), row, 0);
         grid->setRowMinimumHeight(row++, FigureRowHeight);
     }
     grid->setRowStretch(row, 1);

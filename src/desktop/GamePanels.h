@@ -1,16 +1,17 @@
 #pragma once
 
-#include "games/GameReport.h"
+#include "games/ReportTables.h"
 
 #include <QWidget>
 
 #include <array>
 #include <vector>
 
+class QGridLayout;
 class QGroupBox;
 class QLabel;
 
-/// The parts of the game window that stand there once for each team. `team` is the name of the team in the
+/// The parts of the game window that it has once for each team. `team` is the name of the team in the
 /// controls' names: "Team1" the home team, "Team2" the away team.
 namespace iceline::desktop {
 
@@ -24,9 +25,17 @@ public:
     void show(const GameSide& side);
 
 private:
+    struct Row {
+        QLabel* name = nullptr;
+        std::array<QLabel*, PlayerFigures.size()> figures{};
+    };
+
+    void addColumn(QGridLayout& grid, int column, const QString& caption);
+    void addRow(QGridLayout& grid, RosterIndex row, const QString& team);
+
     QGroupBox* frame_;
     QLabel* banner_;
-    std::array<std::vector<QLabel*>, 6> columns_; ///< names, goals, assists, points, shots, penalty minutes
+    std::array<Row, RosterRows> rows_;
 };
 
 /// A team's figures in the game, one below the other, in step with GameFigureCaptions.
@@ -39,10 +48,10 @@ public:
     void show(const GameSide& side);
 
 private:
-    QLabel* add(const QString& name);
+    QLabel* add(const TeamFigure& figure, const QString& team);
 
     QGroupBox* frame_;
-    QString team_;
+    std::vector<std::pair<TeamFigure, QLabel*>> figures_;
 };
 
 /// The captions between the two teams' figures.

@@ -19,10 +19,6 @@ namespace iceline::desktop {
 
 namespace {
 
-constexpr const char* StarNames[] = {"FirstStar", "SecondStar", "ThirdStar"};
-constexpr const char* StarTeams[] = {"FirstStarTeam", "SecondStarTeam", "ThirdStarTeam"};
-constexpr const char* StarCaptions[] = {"1st Star:", "2nd Star:", "3rd Star:"};
-
 /// The caption of a file path that fits beside the buttons: its middle gives way.
 QString shortened(const QLabel& label, const QString& path) {
     return label.fontMetrics().elidedText(path, Qt::ElideMiddle, label.maximumWidth());
@@ -146,11 +142,12 @@ QLayout* StatExtractorWindow::makeScore() {
         label->setAlignment(Qt::AlignCenter);
         label->setMinimumWidth(64);
         row->addWidget(label);
+        return label;
     };
     row->addStretch();
-    add("DisplayAwayScore", "score");
-    add("FOTBox", "head");
-    add("DisplayHomeScore", "score");
+    awayScore_ = add("DisplayAwayScore", "score");
+    finalMark_ = add("FOTBox", "head");
+    homeScore_ = add("DisplayHomeScore", "score");
     row->addStretch();
     return row;
 }
@@ -180,12 +177,14 @@ QWidget* StatExtractorWindow::makeStars() {
     auto* grid = new QGridLayout(box);
     grid->setContentsMargins(4, 4, 4, 4);
     grid->setVerticalSpacing(2);
-    for (int star = 0; star < 3; ++star) {
-        grid->addWidget(headLabel(QLatin1String(StarCaptions[star]), box), star, 0);
-        QLabel* team = pictureLabel(QLatin1String(StarTeams[star]), box);
-        team->setFixedSize(120, 24);
-        grid->addWidget(team, star, 1);
-        grid->addWidget(textLabel(QLatin1String(StarNames[star]), box), star, 2);
+    for (std::size_t k = 0; k < StarPlaces.size(); ++k) {
+        const StarPlace& place = StarPlaces[k];
+        stars_[k] = {textLabel(toQt(place.nameControl), box), pictureLabel(toQt(place.teamControl), box)};
+        stars_[k].team->setFixedSize(120, 24);
+        const int row = static_cast<int>(k);
+        grid->addWidget(headLabel(toQt(place.caption), box), row, 0);
+        grid->addWidget(stars_[k].team, row, 1);
+        grid->addWidget(stars_[k].name, row, 2);
     }
     grid->setColumnStretch(2, 1);
     return box;
@@ -234,13 +233,12 @@ void StatExtractorWindow::showReport(const GameReport& report) {
     awayRoster_->show(report.away);
     homeFigures_->show(report.home);
     awayFigures_->show(report.away);
-    setText(this, "DisplayHomeScore", std::to_string(report.home.stats.Goals));
-    setText(this, "DisplayAwayScore", std::to_string(report.away.stats.Goals));
-    setText(this, "FOTBox", report.FinalMark);
-    for (int star = 0; star < 3; ++star) {
-        setText(this, StarNames[star], report.Star[star].Name);
-        findChild<QLabel*>(QLatin1String(StarTeams[star]))
-            ->setPixmap(pictures::teamNameMini(report.Star[star].Team));
+    homeScore_->setText(QString::number(report.home.stats.Goals));
+    awayScore_->setText(QString::number(report.away.stats.Goals));
+    finalMark_->setText(toQt(report.FinalMark));
+    for (std::size_t k = 0; k < stars_.size(); ++k) {
+        stars_[k].name->setText(toQt(report.Star[k].Name));
+        stars_[k].team->setPixmap(pictures::teamNameMini(report.Star[k].Team));
     }
 }
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "desktop/LeagueWindow.h"
+#include "games/ReportTables.h"
 #include "games/StatExtractor.h"
 
 class QComboBox;
@@ -25,6 +26,11 @@ protected:
     void refresh() override;
 
 private:
+    struct StarLabels {
+        QLabel* name = nullptr;
+        QLabel* team = nullptr;
+    };
+
     QLayout* makeCommands();
     QLayout* makeChoices();
     QComboBox* makeCoachList(const char* name, void (StatExtractor::*choose)(int));
@@ -45,6 +51,10 @@ private:
     GameFiguresPanel* homeFigures_ = nullptr;
     GameFiguresPanel* awayFigures_ = nullptr;
     QLabel* fileName_ = nullptr;
+    QLabel* homeScore_ = nullptr;
+    QLabel* awayScore_ = nullptr;
+    QLabel* finalMark_ = nullptr;
+    std::array<StarLabels, StarPlaces.size()> stars_;
     QComboBox* homeCoaches_ = nullptr;
     QComboBox* awayCoaches_ = nullptr;
     QRadioButton* season_ = nullptr;

@@ -1,5 +1,6 @@
 #include "games/BoxScorePage.h"
 
+#include "games/ReportTables.h"
 #include "games/Summaries.h"
 #include "league/Numbers.h"
 #include "page/PageFrame.h"
@@ -12,11 +13,7 @@ namespace iceline {
 
 namespace {
 
-constexpr std::size_t RecentGamesKept = 9;
-
-std::string abbrOf(const GameSide& side) {
-    return std::string(TeamAbbr[side.team]);
-}
+constexpr std::size_t RecentGames = 10;
 
 std::string_view letterOf(GameKind kind) {
     switch (kind) {
@@ -30,95 +27,87 @@ std::string_view letterOf(GameKind kind) {
     return "";
 }
 
-std::string miniBanner(const std::string& abbr) {
-    return "<img src=\"../BannerMinis/" + abbr + ".gif\"></img>";
+std::string_view abbrOf(const GameSide& side) {
+    return TeamAbbr[side.team];
+}
+
+std::string goalsOf(const GameSide& side) {
+    return itemText(side.stats.Goals);
 }
 
 std::string pageHead(const GameReport& report) {
-    const std::string title = "Rinkstar - Box Score: " + abbrOf(report.away) +
-                              itemText(report.away.stats.Goals) + ", " + abbrOf(report.home) +
-                              itemText(report.home.stats.Goals);
-    return PageFrame{.title = title, .prefix = "../"}.text();
+    return PageFrame{.title = markup("Rinkstar - Box Score: {}{}, {}{}", abbrOf(report.away),
+                                     goalsOf(report.away), abbrOf(report.home), goalsOf(report.home)),
+                     .prefix = "../"}
+        .text();
 }
 
-std::string wideRow(const std::string& text) {
-    return "<tr><td colspan = 6><center><font size = 4><b>" + text + "</b></font></center></td></tr>";
+std::string miniBanner(TeamIndex team) {
+    return markup(R"(<img src="../BannerMinis/{}.gif"></img>)", TeamAbbr[team]);
 }
 
-std::string playerRow(const GamePlayerRow& player) {
-    if (player.isEmpty()) {
-        // The row is not closed; browsers close it at the next one.
-        std::string row = "<tr><td>&nbsp;";
-        for (int figure = 0; figure < 5; ++figure)
-            row += "</td><td><center>&nbsp;";
-        return row + "</center></td>";
-    }
-    std::string row = "<tr><td>" + player.Name;
-    for (const int figure : {player.G, player.A, player.Pts, player.SOG, player.PIM})
-        row += "</td><td><center>" + itemText(figure);
-    return row + "</center></td></tr>";
+std::string bigBannerRow(const GameSide& side) {
+    return markup(R"(<tr><td colspan = 6><center><img src="../BigBanners/{}.gif"></img></center></td></tr>)",
+                  abbrOf(side));
+}
+
+void addWideRow(PageText& page, std::string_view text) {
+    page.line("<tr><td colspan = 6><center><font size = 4><b>{}</b></font></center></td></tr>", text);
+}
+
+void addRosterHead(PageText& page) {
+    page.add("<tr><th><b>Name</b></th>");
+    for (const PlayerFigure& figure : PlayerFigures)
+        page.add("<th><b>{}</b></th>", figure.caption);
+    page.line("</tr>");
+}
+
+/// The row of an empty roster row is not closed; browsers close it at the next one.
+void addPlayer(PageText& page, const GamePlayerRow& player) {
+    page.add("<tr><td>{}", player.isEmpty() ? "&nbsp;" : player.Name);
+    for (const PlayerFigure& figure : PlayerFigures)
+        page.add("</td><td><center>{}", player.isEmpty() ? "&nbsp;" : itemText(player.*figure.figure));
+    page.line("</center></td>{}", player.isEmpty() ? "" : "</tr>");
 }
 
 /// Goals, coach and roster of a side, below its banner.
 void addRoster(PageText& page, const GameSide& side, const std::optional<std::string>& coach) {
-    page.line(wideRow(itemText(side.stats.Goals)));
+    addWideRow(page, goalsOf(side));
     if (coach)
-        page.line(wideRow(*coach));
-    page.line("<tr><th><b>Name</b></th><th><b>G</b></th><th><b>A</b></th><th><b>Pts.</b></th>"
-              "<th><b>SOG</b></th><th><b>PIM</b></th></tr>");
+        addWideRow(page, *coach);
+    addRosterHead(page);
     for (const GamePlayerRow& player : side.players)
-        page.line(playerRow(player));
+        addPlayer(page, player);
 }
 
-std::string bigBannerRow(const GameSide& side) {
-    return "<tr><td colspan = 6><center><img src=\"../BigBanners/" + abbrOf(side) +
-           ".gif\"></img></center></td></tr>";
-}
-
-std::string teamRow(const std::string& awayValue, const std::string& title, const std::string& homeValue) {
-    return "<tr><td><center>" + awayValue + "</center></td><td><center><b>" + title +
-           "</b></center></td><td><center>" + homeValue + "</center></td></tr>";
-}
-
-std::string powerPlays(const TeamGameStats& team) {
-    return itemText(team.PPG) + " / " + itemText(team.PPA);
-}
-
-std::string penalties(const TeamGameStats& team) {
-    return itemText(team.Penalties) + " / " + itemText(team.PenM);
-}
-
-std::string passing(const TeamGameStats& team) {
-    return itemText(team.PassComp) + " / " + itemText(team.PassAtt) + "  (" + team.PassAcc + ")";
+std::string pageText(const TeamFigureLine& line, const TeamGameStats& team) {
+    std::string text = line.first.text(team, itemText);
+    if (line.second)
+        text += " / " + line.second->text(team, itemText);
+    if (line.pageNote)
+        text += markup("  ({})", team.*line.pageNote);
+    return text;
 }
 
 void addTeamTable(PageText& page, const GameReport& report) {
-    const TeamGameStats& away = report.away.stats;
-    const TeamGameStats& home = report.home.stats;
     page.line("<tr><th colspan = 3>Team Stats</th></tr>");
-    page.line("<tr><td><center>" + miniBanner(abbrOf(report.away)) + "</center></td><td></td><td><center>" +
-              miniBanner(abbrOf(report.home)) + "</center></td></tr>");
-    page.line(teamRow(itemText(away.Goals), "Score", itemText(home.Goals)));
-    page.line(teamRow(itemText(away.Shots), "SOG", itemText(home.Shots)));
-    page.line(teamRow(away.ShootingPct, "S%", home.ShootingPct));
-    page.line(teamRow(powerPlays(away), "Power Plays", powerPlays(home)));
-    page.line(teamRow(penalties(away), "Penalties", penalties(home)));
-    page.line(teamRow(itemText(away.FaceoffsWon), "Faceoffs Won", itemText(home.FaceoffsWon)));
-    page.line(teamRow(itemText(away.BodyChecks), "Body Checks", itemText(home.BodyChecks)));
-    page.line(teamRow(away.AttackZoneText, "Att. Zone", home.AttackZoneText));
-    page.line(teamRow(passing(away), "Passing", passing(home)) + "</table>");
-}
-
-std::string starRow(const std::string& title, const StarOfGame& star) {
-    return "<tr><th>" + title + "</th><td><center>" + miniBanner(std::string(TeamAbbr[star.Team])) +
-           "</center></td><td>" + star.Name + "</td></tr>";
+    page.add("<tr><td><center>{}</center></td><td></td><td><center>{}</center></td></tr>",
+             miniBanner(report.away.team), miniBanner(report.home.team));
+    for (const TeamFigureLine& line : TeamFigureLines)
+        if (!line.pageTitle.empty())
+            page.line().add("<tr><td><center>{}</center></td><td><center><b>{}</b></center></td>"
+                            "<td><center>{}</center></td></tr>",
+                            pageText(line, report.away.stats), line.pageTitle,
+                            pageText(line, report.home.stats));
+    page.line("</table>");
 }
 
 void addStars(PageText& page, const std::array<StarOfGame, 3>& stars) {
-    page.line("<table border = 1 align = center><tr><th colspan = 3>Three Star Awards</th></tr>");
-    page.line(starRow("First Star", stars[0]));
-    page.line(starRow("Second Star", stars[1]));
-    page.line(starRow("Third Star", stars[2]) + "</table></td>");
+    page.add("<table border = 1 align = center><tr><th colspan = 3>Three Star Awards</th></tr>");
+    for (std::size_t k = 0; k < StarPlaces.size(); ++k)
+        page.line().add("<tr><th>{}</th><td><center>{}</center></td><td>{}</td></tr>",
+                        StarPlaces[k].pageTitle, miniBanner(stars[k].Team), stars[k].Name);
+    page.line("</table></td>");
 }
 
 void addSummaries(PageText& page, const GameReport& report) {
@@ -130,6 +119,13 @@ void addSummaries(PageText& page, const GameReport& report) {
     page.line("<tr><th>Period</th><th>Time</th><th>Team</th><th>Player</th><th>Penalty</th>"
               "<th>Minutes</th></tr>");
     page.add(penaltyRows(report));
+}
+
+/// The recent games with a new one at their head, of which the oldest falls out.
+std::vector<RecentGame> withNewGame(std::vector<RecentGame> games, const RecentGame& newest) {
+    games.insert(games.begin(), newest);
+    games.resize(std::min(games.size(), RecentGames));
+    return games;
 }
 
 } // namespace
@@ -145,16 +141,16 @@ std::string boxScorePage(const BoxScore& game) {
     const GameReport& report = game.report;
     PageText page;
     page.add(pageHead(report));
-    page.line("<br/><font face= arial><p><img src=\"../Headers/BoxScores.gif\"></img></p><br/>"
-              "<table><tr><td><table cellpadding =2 border = 1>" +
+    page.line(R"(<br/><font face= arial><p><img src="../Headers/BoxScores.gif"></img></p><br/>)"
+              "<table><tr><td><table cellpadding =2 border = 1>{}",
               bigBannerRow(report.away));
     addRoster(page, report.away, game.awayCoach);
     page.line("</tr></table></td><td><table border = 1 align = center>"
-              "<tr><td colspan = 6><center><b><font size = 3>" +
-              report.FinalMark + "</font></b></center></td></tr>");
+              "<tr><td colspan = 6><center><b><font size = 3>{}</font></b></center></td></tr>",
+              report.FinalMark);
     addTeamTable(page, report);
     addStars(page, report.Star);
-    page.line("<td><table cellpadding =" + itemText(2) + " border = 1>" + bigBannerRow(report.home));
+    page.line("<td><table cellpadding ={} border = 1>{}", itemText(2), bigBannerRow(report.home));
     addRoster(page, report.home, game.homeCoach);
     page.line("</table></td></tr></table>");
     addSummaries(page, report);
@@ -166,19 +162,13 @@ std::string boxScoreListRow(const BoxScore& game, int gameNumber) {
     const GameSide& away = game.report.away;
     const GameSide& home = game.report.home;
     PageText row;
-    row.add("<tr><td><b>" + itemText(gameNumber) + "</b></td><td><b>").add(letterOf(*game.kind));
-    row.add("</b></td><td><img src=\"./BannerMinis/" + abbrOf(away) + ".gif\"><b><font size = 5>");
-    row.add(itemText(away.stats.Goals) + ", <img src=\"./BannerMinis/" + abbrOf(home) + ".gif\">");
-    row.add(itemText(home.stats.Goals) + "</font><a href=\"./BoxScores/" + game.page);
-    row.line("\" > Box Score </b></a></td></tr>");
+    row.line("<tr><td><b>{}</b></td><td><b>{}</b></td>"
+             R"(<td><img src="./BannerMinis/{}.gif"><b><font size = 5>{}, )"
+             R"(<img src="./BannerMinis/{}.gif">{}</font>)"
+             R"(<a href="./BoxScores/{}" > Box Score </b></a></td></tr>)",
+             itemText(gameNumber), letterOf(*game.kind), abbrOf(away), goalsOf(away), abbrOf(home),
+             goalsOf(home), game.page);
     return row.text();
-}
-
-std::vector<RecentGame> withNewGame(const std::vector<RecentGame>& games, const RecentGame& newest) {
-    std::vector<RecentGame> recent{newest};
-    const auto kept = std::min(games.size(), RecentGamesKept);
-    recent.insert(recent.end(), games.begin(), games.begin() + static_cast<std::ptrdiff_t>(kept));
-    return recent;
 }
 
 void writeBoxScore(Files& files, const BoxScore& game) {

@@ -2,11 +2,9 @@
 
 #include "files/Files.h"
 #include "games/GameReport.h"
-#include "store/LeagueFiles.h"
 
 #include <optional>
 #include <string>
-#include <vector>
 
 namespace iceline {
 
@@ -19,7 +17,7 @@ struct BoxScore {
     std::optional<std::string> awayCoach;
 };
 
-/// The file name of a game's page: that of its save state, with what stands behind the last point replaced by
+/// The file name of a game's page: that of its save state, with what follows the last point replaced by
 /// "htm". A name without a point gets ".htm", and one with nothing before the point is "_.htm".
 std::string boxScorePageName(const std::string& saveStateFileName);
 
@@ -29,9 +27,6 @@ std::string boxScorePage(const BoxScore& game);
 /// The row of a game, which must have a kind, in the list of box scores, ended by CR LF. `gameNumber` is its
 /// running number.
 std::string boxScoreListRow(const BoxScore& game, int gameNumber);
-
-/// The recent games with a new one at their head; of the games before it nine stay.
-std::vector<RecentGame> withNewGame(const std::vector<RecentGame>& games, const RecentGame& newest);
 
 /// Writes the game's page, its row in the list (none for a game without a kind) and `Last 10 Box.txt`, and
 /// reads `Overall Game Number.txt` for the row.

@@ -1,7 +1,7 @@
 #include "games/Summaries.h"
 
 #include "league/Numbers.h"
-#include "page/PageFrame.h"
+#include "page/PageText.h"
 
 #include <algorithm>
 #include <array>
@@ -11,7 +11,7 @@ namespace iceline {
 
 namespace {
 
-/// Columns that a window's line has for what stands before its mark.
+/// Columns of a window's line for the names before its mark.
 constexpr int GoalRoom = 58;
 constexpr int PenaltyRoom = 35;
 constexpr std::size_t InfractionWidth = 22;
@@ -77,8 +77,17 @@ std::string windowTeam(const GameSide& side) {
     return text;
 }
 
-std::string windowName(const GameSide& side, int row) {
-    const GamePlayerRow& player = side.players[row];
+/// The player whose row a summary entry names by its byte; the report's entries name rows of the roster.
+const GamePlayerRow& playerOf(const GameSide& side, int byte) {
+    return side.players[RosterIndex(byte)];
+}
+
+std::string pageName(const GameSide& side, int byte) {
+    return playerOf(side, byte).Name;
+}
+
+std::string windowName(const GameSide& side, int byte) {
+    const GamePlayerRow& player = playerOf(side, byte);
     return player.isEmpty() ? "" : player.Name;
 }
 
@@ -86,13 +95,13 @@ std::string blanks(int room) {
     return std::string(static_cast<std::size_t>(std::max(room, 1)), ' ');
 }
 
-/// The scorer and behind him the assistants, each named by `name`.
-template <class NameOf>
-std::string namesOf(const ScoringEntry& goal, NameOf name) {
-    std::string text = name(goal.scorer);
+/// The scorer and after him the assistants, each named by `name`.
+std::string namesOf(const ScoringEntry& goal, const GameSide& side,
+                    std::string (*name)(const GameSide&, int)) {
+    std::string text = name(side, goal.scorer);
     for (const int assistant : {goal.assist1, goal.assist2})
         if (assistant != NoAssist)
-            text += ", " + name(assistant);
+            text += ", " + name(side, assistant);
     return text;
 }
 
@@ -102,7 +111,7 @@ std::string windowGoal(const GameReport& report, const ScoringEntry& goal) {
     if (!strength)
         return line;
     const GameSide& side = report.of(sideOf(goal.type));
-    const std::string names = namesOf(goal, [&](int row) { return windowName(side, row); });
+    const std::string names = namesOf(goal, side, windowName);
     line += windowTeam(side) + "  " + names;
     if (*strength != Strength::Even)
         (line += blanks(GoalRoom - static_cast<int>(names.size()))) += marksOf(*strength).window;
@@ -123,10 +132,8 @@ std::string windowPenalty(const GameReport& report, const PenaltyEntry& penalty)
     return line;
 }
 
-/// The cells of period and time and the opening of the team's.
-std::string openRow(int period, int seconds) {
-    return "<tr><td><center>" + periodText(period) + "</td><td><center>" + clockText(seconds) +
-           "</td><td><center>";
+std::string timeCells(int period, int seconds) {
+    return markup("<td><center>{}</td><td><center>{}</td>", periodText(period), clockText(seconds));
 }
 
 std::string goalRow(const GameReport& report, const ScoringEntry& goal) {
@@ -136,11 +143,11 @@ std::string goalRow(const GameReport& report, const ScoringEntry& goal) {
     if (const auto strength = strengthOf(goal.type)) {
         const GameSide& side = report.of(sideOf(goal.type));
         abbr = TeamAbbr[side.team];
-        names = namesOf(goal, [&](int row) { return side.players[row].Name; });
+        names = namesOf(goal, side, pageName);
         mark = marksOf(*strength).page;
     }
-    return openRow(goal.period, goal.seconds) + abbr + "</td><td>" + names + "</td><td><center>" + mark +
-           "</td></tr>";
+    return markup("<tr>{}<td><center>{}</td><td>{}</td><td><center>{}</td></tr>",
+                  timeCells(goal.period, goal.seconds), abbr, names, mark);
 }
 
 std::string penaltyRow(const GameReport& report, const PenaltyEntry& penalty) {
@@ -151,12 +158,12 @@ std::string penaltyRow(const GameReport& report, const PenaltyEntry& penalty) {
     if (const InfractionText* text = infractionText(penalty.type)) {
         const GameSide& side = report.of(sideOf(penalty.type));
         abbr = TeamAbbr[side.team];
-        name = side.players[penalty.player].Name;
+        name = pageName(side, penalty.player);
         infraction = text->name;
         minutes = text->pageMinutes;
     }
-    return openRow(penalty.period, penalty.seconds) + abbr + "</td><td>" + name + "</td><td><center>" +
-           infraction + "</td><td><center>" + minutes + "</td></tr>";
+    return markup("<tr>{}<td><center>{}</td><td>{}</td><td><center>{}</td><td><center>{}</td></tr>",
+                  timeCells(penalty.period, penalty.seconds), abbr, name, infraction, minutes);
 }
 
 std::string emptyRow(int cells) {
@@ -166,7 +173,7 @@ std::string emptyRow(int cells) {
     return row + "</tr>";
 }
 
-/// A line for each entry, behind them empty rows up to the height of the other table.
+/// A line for each entry, then empty rows up to the height of the other table.
 template <class Entry>
 std::string rowsOf(const GameReport& report, const std::vector<Entry>& entries, std::size_t otherHeight,
                    std::string (*row)(const GameReport&, const Entry&), int cells) {

@@ -99,7 +99,7 @@ TEST_F(GameCommandsTest, CoachesThatCannotBeChosenAreMisuse) {
     EXPECT_EQ(unknown.err, "iceline: there is no coach 'Hal'; 'iceline coach list' lists them\n");
     const Outcome twice = iceline({"import", game(1), "--home-coach", "Gus", "--away-coach", "Gus"});
     EXPECT_EQ(twice.status, 2);
-    EXPECT_EQ(twice.err, "iceline: a coach cannot stand behind both teams\n");
+    EXPECT_EQ(twice.err, "iceline: nobody can coach both teams\n");
     EXPECT_EQ(gameNumber(), "0\r\n");
 }
 

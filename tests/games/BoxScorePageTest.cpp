@@ -3,6 +3,7 @@
 #include "files/FileError.h"
 #include "store/LeagueFiles.h"
 #include "support/MemoryFiles.h"
+#include "support/Text.h"
 
 #include <gmock/gmock.h>
 
@@ -18,22 +19,24 @@ constexpr TeamIndex Boston{0};
 constexpr TeamIndex NewJersey{11};
 constexpr TeamIndex Winnipeg{23};
 
-TeamGameStats figures(int goals, int shots, const std::string& shootingPct) {
+/// Figures that are all different, `by` more on one side than on the other.
+TeamGameStats figures(int goals, int by) {
+    const std::string mark = std::to_string(by);
     TeamGameStats stats;
     stats.Goals = goals;
-    stats.Shots = shots;
-    stats.PPG = 1;
-    stats.PPA = 4;
-    stats.Penalties = 3;
-    stats.PenM = 9;
-    stats.FaceoffsWon = 20;
-    stats.BodyChecks = 12;
-    stats.PassAtt = 80;
-    stats.PassComp = 57;
-    stats.ShootingPct = shootingPct;
-    stats.FaceWinPct = "48.8%";
-    stats.PassAcc = "71.2%";
-    stats.AttackZoneText = "10:05";
+    stats.Shots = 25 + by;
+    stats.PPG = 1 + by;
+    stats.PPA = 4 + by;
+    stats.Penalties = 11 + by;
+    stats.PenM = 16 + by;
+    stats.FaceoffsWon = 33 + by;
+    stats.BodyChecks = 44 + by;
+    stats.PassAtt = 80 + by;
+    stats.PassComp = 57 + by;
+    stats.ShootingPct = "S" + mark;
+    stats.FaceWinPct = "F" + mark;
+    stats.PassAcc = "P" + mark;
+    stats.AttackZoneText = "Z" + mark;
     return stats;
 }
 
@@ -42,12 +45,12 @@ GameReport game() {
     GameReport report;
     report.home.team = NewJersey;
     report.away.team = Boston;
-    report.home.stats = figures(0, 25, "0%");
-    report.away.stats = figures(3, 31, "9.7%");
+    report.home.stats = figures(0, 0);
+    report.away.stats = figures(3, 2);
     for (GameSide* side : {&report.home, &report.away})
         for (GamePlayerRow& player : side->players)
             player.Name = EmptyRowName;
-    report.away.players[0] = {"Ivo Stone", 0, 1, 1, 25, 0};
+    report.away.players[0] = {"Ivo Stone", 1, 2, 3, 25, 4};
     report.home.players[24] = {"Kit Marsh", 0, 0, 0, 4, 12};
     report.FinalMark = "F/OT";
     report.Star = {{{Boston, "Ivo Stone"}, {NewJersey, "Kit Marsh"}, {Winnipeg, "Old Star"}}};
@@ -56,20 +59,10 @@ GameReport game() {
     return report;
 }
 
-std::vector<std::string> linesOf(const std::string& text) {
-    std::vector<std::string> lines;
-    for (std::size_t at = 0; at < text.size();) {
-        const std::size_t end = text.find("\r\n", at);
-        lines.push_back(text.substr(at, end - at));
-        at = end + 2;
-    }
-    return lines;
-}
-
 std::vector<std::string> pageLines(const std::optional<std::string>& homeCoach = std::nullopt,
                                    const std::optional<std::string>& awayCoach = std::nullopt) {
     const GameReport report = game();
-    return linesOf(boxScorePage({report, "x.htm", GameKind::Season, homeCoach, awayCoach}));
+    return test::linesOf(boxScorePage({report, "x.htm", GameKind::Season, homeCoach, awayCoach}));
 }
 
 std::vector<std::string> slice(const std::vector<std::string>& lines, std::size_t first, std::size_t count) {
@@ -84,7 +77,7 @@ const std::string EmptyPlayerRow =
     "<tr><td>&nbsp;</td><td><center>&nbsp;</td><td><center>&nbsp;</td><td><center>&nbsp;</td>"
     "<td><center>&nbsp;</td><td><center>&nbsp;</center></td>";
 
-TEST(BoxScorePage, NameReplacesWhatStandsBehindTheLastPoint) {
+TEST(BoxScorePage, NameReplacesWhatFollowsTheLastPoint) {
     EXPECT_EQ(boxScorePageName("game1.gs0"), "game1.htm");
     EXPECT_EQ(boxScorePageName("a.b.gs1"), "a.b.htm");
     EXPECT_EQ(boxScorePageName("game1"), "game1.htm");
@@ -105,8 +98,8 @@ TEST(BoxScorePage, OpensWithTheAwayTeam) {
                     "<img src=\"../BigBanners/BOS.gif\"></img></center></td></tr>",
                     "<tr><td colspan = 6><center><font size = 4><b> 3 </b></font></center></td></tr>",
                     RosterHead,
-                    "<tr><td>Ivo Stone</td><td><center> 0 </td><td><center> 1 </td><td><center> 1 </td>"
-                    "<td><center> 25 </td><td><center> 0 </center></td></tr>",
+                    "<tr><td>Ivo Stone</td><td><center> 1 </td><td><center> 2 </td><td><center> 3 </td>"
+                    "<td><center> 25 </td><td><center> 4 </center></td></tr>",
                     EmptyPlayerRow));
 }
 
@@ -126,11 +119,11 @@ TEST(BoxScorePage, CentreHoldsFinalMarkTeamTableAndStars) {
                     "<tr><th colspan = 3>Team Stats</th></tr>",
                     "<tr><td><center><img src=\"../BannerMinis/BOS.gif\"></img></center></td><td></td><td>"
                     "<center><img src=\"../BannerMinis/NJ.gif\"></img></center></td></tr>",
-                    title(" 3 ", "Score", " 0 "), title(" 31 ", "SOG", " 25 "), title("9.7%", "S%", "0%"),
-                    title(" 1  /  4 ", "Power Plays", " 1  /  4 "),
-                    title(" 3  /  9 ", "Penalties", " 3  /  9 "), title(" 20 ", "Faceoffs Won", " 20 "),
-                    title(" 12 ", "Body Checks", " 12 "), title("10:05", "Att. Zone", "10:05"),
-                    title(" 57  /  80   (71.2%)", "Passing", " 57  /  80   (71.2%)") + "</table>",
+                    title(" 3 ", "Score", " 0 "), title(" 27 ", "SOG", " 25 "), title("S2", "S%", "S0"),
+                    title(" 3  /  6 ", "Power Plays", " 1  /  4 "),
+                    title(" 13  /  18 ", "Penalties", " 11  /  16 "), title(" 35 ", "Faceoffs Won", " 33 "),
+                    title(" 46 ", "Body Checks", " 44 "), title("Z2", "Att. Zone", "Z0"),
+                    title(" 59  /  82   (P2)", "Passing", " 57  /  80   (P0)") + "</table>",
                     "<table border = 1 align = center><tr><th colspan = 3>Three Star Awards</th></tr>",
                     star("First Star", "BOS", "Ivo Stone"), star("Second Star", "NJ", "Kit Marsh"),
                     star("Third Star", "WPG", "Old Star") + "</table></td>"));
@@ -160,7 +153,7 @@ TEST(BoxScorePage, EndsWithTheHomeTeamAndBothSummaries) {
     EXPECT_EQ(lines.size(), 86u);
 }
 
-TEST(BoxScorePage, ChosenCoachStandsBelowHisTeamsGoals) {
+TEST(BoxScorePage, ChosenCoachIsNamedBelowHisTeamsGoals) {
     const std::string smith =
         "<tr><td colspan = 6><center><font size = 4><b>Smith</b></font></center></td></tr>";
     EXPECT_EQ(pageLines(std::nullopt, "Smith")[5], smith);
