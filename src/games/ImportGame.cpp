@@ -2,6 +2,7 @@
 #include "files/FileError.h"
 #include "games/StatExtractor.h"
 #include "playoffs/Bracket.h"
+#include "playoffs/SeasonEnd.h"
 #include "shell/Application.h"
 #include "standings/Standings.h"
 
@@ -25,12 +26,19 @@ int raisedGameNumber(Files& files) {
     return number + 1;
 }
 
-/// Keeps the raised number of an import that broke. Where that breaks as well the first error says enough.
-void keepGameNumber(Application& app, int number) {
+/// Keeps the raised number of an import that broke, and has an open window show the standings without its
+/// game. Where that breaks as well the first error says enough.
+void undoAllButTheNumber(Application& app, StatExtractor& window, const ApplicationState& before,
+                         int number) {
+    app.state = before;
     try {
         Operation operation(app);
         app.files().write(paths::OverallGameNumber, numberLine(number));
         operation.commit();
+        if (!app.windows().isOpen(WindowId::Standings))
+            return;
+        Standings::in(app).DivisionStandingsUpdate();
+        window.updateStandings();
     } catch (const FileError&) {
         return;
     }
@@ -164,22 +172,34 @@ private:
     StatExtractor& window_;
 };
 
+/// How an import ended.
+struct Outcome {
+    std::optional<Refusal> refusal;
+    bool seasonEnds = false; ///< the game was a single one and the last of the regular season
+};
+
 /// Imports the game in hand with the raised number, all or nothing of it; of a refused game and of one that
-/// broke the raised number stays alone.
-std::optional<Refusal> importGameInHand(Application& app, StatExtractor& window) {
+/// broke the raised number stays alone. What a single import shows afterwards is worked out here, too, before
+/// anything reaches the disk: a game that has been imported can then no longer end with an error.
+Outcome importGameInHand(Application& app, StatExtractor& window) {
     const BusyPointer busy(app.platform());
     const int number = raisedGameNumber(app.files());
+    const ApplicationState before = app.state;
     try {
         Operation operation(app);
         GameInHand game(app, window);
         app.files().write(paths::OverallGameNumber, numberLine(number));
-        auto refusal = game.import();
+        Outcome outcome{game.import()};
+        if (!outcome.refusal && window.ImportMode != 1) {
+            outcome.seasonEnds = seasonIsOver(app);
+            window.updateStandings();
+        }
         operation.commit();
-        if (!refusal)
+        if (!outcome.refusal)
             game.keepSeries();
-        return refusal;
+        return outcome;
     } catch (const FileError&) {
-        keepGameNumber(app, number);
+        undoAllButTheNumber(app, window, before, number);
         throw;
     }
 }
@@ -189,7 +209,8 @@ std::optional<Refusal> importGameInHand(Application& app, StatExtractor& window)
 void StatExtractor::ImportStats_Click() {
     const bool single = ImportMode != 1;
     ImportEnd end(app_, *this);
-    if (const auto refusal = importGameInHand(app_, *this)) {
+    const Outcome outcome = importGameInHand(app_, *this);
+    if (const auto& refusal = outcome.refusal) {
         end.keepsGame = refusal->keepsGame;
         const Answer answer = app_.platform().ask({refusal->text, single ? Buttons::Ok : Buttons::OkCancel});
         if (!single)
@@ -202,8 +223,9 @@ void StatExtractor::ImportStats_Click() {
     if (!single)
         return;
     app_.platform().say("The game has been imported and stats have been saved.");
-    checkSeason();
-    updateStandings();
+    if (outcome.seasonEnds)
+        turnToPlayoffs(app_);
+    changed();
 }
 
 void StatExtractor::updateStandings() {

@@ -52,6 +52,9 @@ public:
     /// Turns the league to the play-offs when no team has games left; see playoffs/SeasonEnd.h.
     void checkSeason();
 
+    /// Renews the tables of home and away games and of the versus records, as every import does.
+    void updateStandings();
+
     /// "Stat Extractor", with the mark of the play-offs while they are on.
     std::string caption() const;
 
@@ -81,9 +84,6 @@ public:
     std::string SaveStateFileName; ///< file name of the save state in hand, without its folder
 
 private:
-    /// Renews the tables of home and away games and of the versus records, as every import does.
-    void updateStandings();
-
     /// File dialog, read, show; nothing changes when a game is not read.
     void selectGame();
 

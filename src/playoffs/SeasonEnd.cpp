@@ -26,17 +26,25 @@ void redrawGameWindow(Windows& windows) {
 
 } // namespace
 
-void checkSeason(Application& app) {
+bool seasonIsOver(Application& app) {
     if (app.state.PlayoffMode || !allTeamsAreDone(app))
-        return;
-    // First of all, since it reads files and can fail: the season then goes on as before.
+        return false;
     Standings::in(app).DivisionStandingsUpdate();
+    return true;
+}
+
+void turnToPlayoffs(Application& app) {
     if (app.state.StartupDone)
         app.platform().say("Regular Season COMPLETE, Playoff Mode now active for the Postseason.");
     app.state.PlayoffMode = true;
     app.state.SeasonFolder = seasonFolder(PartOfYear::Playoffs);
     seedFirstRound(app.state.PlayoffSeries, app.state);
     redrawGameWindow(app.windows());
+}
+
+void checkSeason(Application& app) {
+    if (seasonIsOver(app))
+        turnToPlayoffs(app);
 }
 
 } // namespace iceline

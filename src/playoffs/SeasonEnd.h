@@ -9,4 +9,10 @@ class Application;
 /// once start-up is done. Does nothing while the play-offs are on.
 void checkSeason(Application& app);
 
+/// The two halves of checkSeason(), for an operation that must read everything before its changes reach the
+/// disk. seasonIsOver() says whether no team has games left, and if so renews the standings, from which the
+/// play-offs are seeded; it throws FileError when a file cannot be read. turnToPlayoffs() reads nothing.
+bool seasonIsOver(Application& app);
+void turnToPlayoffs(Application& app);
+
 } // namespace iceline

@@ -345,6 +345,27 @@ INSTANTIATE_TEST_SUITE_P(
                     Damage{"Coaches/Ann/Records.txt", "", "missing"},
                     Damage{"Games/game.gs0", "", "missing"}));
 
+TEST_F(GameImport, ADamagedFileOfAThirdTeamStopsTheImportUntilItIsMended) {
+    choose(GameKind::Season);
+    select(lovelyGame());
+    std::string& records = files().files["Winnipeg Jets/Records.txt"];
+    const std::string whole = records;
+    records = "1,2,three\r\n";
+    auto expected = files().files;
+    expected[paths::OverallGameNumber] = "1\r\n";
+    EXPECT_THROW(window().ImportStats_Click(), FileError);
+    EXPECT_EQ(files().files, expected);
+    EXPECT_THAT(league.said(), IsEmpty());
+    EXPECT_EQ(window().ImportCount, 0);
+
+    files().files["Winnipeg Jets/Records.txt"] = whole;
+    import(lovelyGame());
+    EXPECT_THAT(league.said(), ElementsAre(Imported));
+    EXPECT_EQ(league.record(Boston).GP, 1);
+    EXPECT_EQ(content("Boston Bruins/Last 10 Games.txt"), "\"W\"\r\n");
+    EXPECT_EQ(gameNumber(), 2);
+}
+
 TEST_F(GameImport, ADamagedGameNumberStopsTheImportBeforeItBegins) {
     choose(GameKind::Season);
     for (const char* text : {"many\r\n", "2147483647\r\n"}) {

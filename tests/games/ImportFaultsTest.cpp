@@ -24,6 +24,7 @@ public:
     }
 
     void importFailingAt(int n, FailingFiles::Failure failure) {
+        platform_.messages.clear();
         failing_.failAt(n, failure);
         try {
             StatExtractor::in(app_).ImportStats_Click();
@@ -38,6 +39,8 @@ public:
         Journal(memory_).recover();
         return memory_.files;
     }
+
+    std::vector<std::string> said() const { return platform_.said(); }
 
     bool threw = false;
     bool failed = false;
@@ -72,6 +75,7 @@ TEST_P(ImportFaults, LeaveTheLeagueAsBeforeOrAsAfterWhicheverUseOfTheDiskFails) 
         if (!run.failed)
             break;
         EXPECT_TRUE(run.threw) << "use " << n << " failed unseen";
+        EXPECT_TRUE(run.said().empty()) << "use " << n << " failed after the game was said to be imported";
         const Contents found = run.afterRestart();
         const bool untouched = found == before || found == numberRaised;
         ASSERT_TRUE(untouched || found == after) << "use " << n << " left the league between";
