@@ -1,7 +1,7 @@
 #pragma once
 
-#include "leaders/LeaderColumns.h"
 #include "shell/ApplicationState.h"
+#include "shell/LeaderColumns.h"
 
 namespace iceline {
 

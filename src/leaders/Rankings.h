@@ -1,6 +1,6 @@
 #pragma once
 
-#include "leaders/LeaderRows.h"
+#include "leaders/LeaderPages.h"
 #include "page/PageFrame.h"
 #include "shell/Window.h"
 

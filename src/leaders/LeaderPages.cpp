@@ -1,4 +1,4 @@
-#include "leaders/LeaderRows.h"
+#include "leaders/LeaderPages.h"
 
 #include "players/PlayerCards.h"
 
