@@ -1,7 +1,8 @@
 #include "cli/TextTable.h"
 
+#include "league/Text.h"
+
 #include <algorithm>
-#include <functional>
 #include <iterator>
 
 namespace iceline::cli {
@@ -10,10 +11,6 @@ namespace {
 
 constexpr std::size_t Gap = 2;
 
-bool continuesCharacter(char c) {
-    return (static_cast<unsigned char>(c) & 0xC0U) == 0x80U;
-}
-
 void cutBlanksBehind(std::string& line) {
     line.erase(line.find_last_not_of(' ') + 1);
 }
@@ -21,7 +18,7 @@ void cutBlanksBehind(std::string& line) {
 } // namespace
 
 std::size_t displayWidth(const std::string& text) {
-    return static_cast<std::size_t>(std::ranges::count_if(text, std::not_fn(continuesCharacter)));
+    return characterCount(text);
 }
 
 std::string padded(const std::string& text, std::size_t width, TextTable::Align align) {

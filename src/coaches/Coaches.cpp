@@ -1,6 +1,8 @@
 #include "coaches/Coaches.h"
 
 #include "books/Clearing.h"
+#include "league/Text.h"
+#include "page/PageNames.h"
 #include "store/LeaguePaths.h"
 
 #include <algorithm>
@@ -10,29 +12,14 @@ namespace iceline {
 
 namespace {
 
-constexpr std::string_view ForbiddenCharacters = "/\\\":*?<>|";
-
 /// Names that Windows keeps for devices, with or without an ending.
 constexpr std::array<std::string_view, 22> DeviceNames{
     "CON",  "PRN",  "AUX",  "NUL",  "COM1", "COM2", "COM3", "COM4", "COM5", "COM6", "COM7",
     "COM8", "COM9", "LPT1", "LPT2", "LPT3", "LPT4", "LPT5", "LPT6", "LPT7", "LPT8", "LPT9"};
 
-bool isControl(char c) {
-    return static_cast<unsigned char>(c) < 0x20 || c == 0x7f;
-}
-
-bool isForbidden(char c) {
-    return isControl(c) || ForbiddenCharacters.find(c) != std::string_view::npos;
-}
-
 bool isDeviceName(const std::string& name) {
     const std::string stem = name.substr(0, name.find('.'));
     return std::ranges::any_of(DeviceNames, [&](std::string_view device) { return sameName(stem, device); });
-}
-
-/// Characters of a UTF-8 text.
-int lengthOf(const std::string& text) {
-    return static_cast<int>(std::ranges::count_if(text, [](char c) { return (c & 0xc0) != 0x80; }));
 }
 
 } // namespace
@@ -53,9 +40,9 @@ std::string storedCoachName(std::string name) {
 }
 
 std::optional<std::string> coachNameProblem(const std::string& name) {
-    if (lengthOf(name) > CoachNameLimit)
+    if (characterCount(name) > CoachNameLimit)
         return "A coach's name can have at most 20 characters.";
-    if (std::ranges::any_of(name, isForbidden))
+    if (std::ranges::any_of(name, isForbiddenInFileNames))
         return "A coach's name can hold letters, digits and signs other than / \\ \" : * ? < > |.";
     if (name.ends_with('.'))
         return "A coach's name cannot end in a point.";

@@ -12,7 +12,7 @@ namespace iceline {
 /// same coach.
 
 /// Characters that a coach's name may have.
-inline constexpr int CoachNameLimit = 20;
+inline constexpr std::size_t CoachNameLimit = 20;
 
 /// The coaches in the order of their names.
 std::vector<std::string> coachNames(Files& files);

@@ -3,11 +3,14 @@
 #include <string>
 #include <string_view>
 
-/// Players' names where they become names of files. Titles and cells show a name as it stands.
+/// Names of players and coaches where they become names of files. Titles and cells show a name unchanged.
 namespace iceline {
 
-/// The name of a player's page without its ending, for files and links: what a file system refuses
-/// (/ \ : * ? " < > | and control characters) becomes "_".
+/// True for a character that a file system refuses in a name: / \ : * ? " < > | and control characters.
+bool isForbiddenInFileNames(char c);
+
+/// The name of a player's page without its ending, for files and links: every character that a
+/// file system refuses becomes "_".
 std::string playerFileName(std::string_view name);
 
 } // namespace iceline
