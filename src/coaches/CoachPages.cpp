@@ -1,59 +1,81 @@
 #include "coaches/CoachPages.h"
 
 #include "page/PageFrame.h"
+#include "page/PageParts.h"
 
 #include <array>
+#include <variant>
 
 namespace iceline {
 
 namespace {
 
-constexpr std::array Heads{"Coach",  "GP",  "W",   "L",   "T",   "Win%", "P Rank", "H Rank",
-                           "A Rank", "GPG", "GAG", "PP%", "PK%", "SPG",  "SAPG"};
+/// A column of the table of all coaches: its head, and the counter of the record or column of the leader
+/// table that it shows.
+struct CoachColumn {
+    std::string_view head;
+    std::variant<int TeamRecord::*, std::size_t> figure;
+};
 
-/// Columns of the leader table in the order of the page, behind wins, losses and ties.
-constexpr std::array FigureOrder{2, 9, 10, 11, 3, 4, 5, 6, 7, 8};
+consteval CoachColumn leaders(std::string_view caption) {
+    return {caption, columnOf(TeamLeaderColumns, caption)};
+}
 
-std::string tableRow(const CoachRow& row) {
-    const std::string& name = row.line.name;
-    const std::string separator = "</center></td><td><center>";
-    std::string text = "<tr><td><a href=\"./CStats/" + name + ".htm\" ><b>" + name +
-                       "</b></a></td><td><center>" + std::to_string(row.record.GP);
-    for (const int figure : {row.record.Wins, row.record.Losses, row.record.Ties})
-        text += separator + std::to_string(figure);
-    for (const int column : FigureOrder)
-        text += separator + row.line.figures[column];
-    return text + "</center></td>";
+constexpr std::array Columns{
+    CoachColumn{"GP", &TeamRecord::GP},
+    CoachColumn{"W", &TeamRecord::Wins},
+    CoachColumn{"L", &TeamRecord::Losses},
+    CoachColumn{"T", &TeamRecord::Ties},
+    CoachColumn{"Win%", columnOf(TeamLeaderColumns, "Win %")},
+    leaders("P Rank"),
+    leaders("H Rank"),
+    leaders("A Rank"),
+    leaders("GPG"),
+    leaders("GAG"),
+    leaders("PP%"),
+    leaders("PK%"),
+    leaders("SPG"),
+    leaders("SAPG"),
+};
+
+std::string figureCells(const LeaderLine& coach, const TeamRecord& record) {
+    return centredCells(Columns, [&](const CoachColumn& column) {
+        if (const auto* counter = std::get_if<int TeamRecord::*>(&column.figure))
+            return std::to_string(record.**counter);
+        return coach.figures[std::get<std::size_t>(column.figure)];
+    });
 }
 
 } // namespace
 
-std::string coachingStatsPage(const std::vector<CoachRow>& rows) {
+void writeCoachingStatsPage(Files& files, const LeaderList& coaches) {
     PageFrame frame{"Rinkstar - Coaching Stats"};
     frame.styleSheet = "styles.css";
     frame.opening = "<center><font face = arial size = 2>";
     PageText page;
     page.add(frame.text());
     page.line("<img src='Headers/CoachingStats.gif'></img>");
-    page.add("<table border = 1><tr>");
-    for (const char* head : Heads)
-        page.add("<th><b>" + std::string(head) + "</b></th>");
+    page.add("<table border = 1><tr><th><b>Coach</b></th>");
+    for (const CoachColumn& column : Columns)
+        page.add("<th><b>{}</b></th>", column.head);
     page.line("</tr>");
-    for (const CoachRow& row : rows)
-        page.line(tableRow(row));
+    for (const LeaderLine& coach : coaches.lines)
+        page.line(R"(<tr><td><a href="./CStats/{}.htm" ><b>{}</b></a></td><td><center>{}</center></td>)",
+                  coach.name, coach.name,
+                  figureCells(coach, readTeamRecord(files, paths::coachFolder(coach.name))));
     page.line("</tr></table></font></center></body></html>");
-    return page.text();
+    writePage(files, paths::page("CoachingStats.htm"), page.text());
 }
 
-std::string coachPage(const std::string& coach, const TeamView& view) {
+void writeCoachPage(Files& files, const std::string& coach, const TeamView& view) {
     PageFrame frame{" Rinkstar - Coaching Stats", "../"};
     frame.opening = "<font size =2>";
     PageText page;
     page.add(frame.text());
     page.line(headerImage("../Headers/", "CoachingStats"));
-    page.line("<table border = 1><tr><th><font size = 7>" + coach + "</font></th></tr></table><BR>");
+    page.line("<table border = 1><tr><th><font size = 7>{}</font></th></tr></table><BR>", coach);
     page.add(teamTables(view, CrowdColumns::No));
-    return page.text();
+    writePage(files, paths::page("CStats/" + coach + ".htm"), page.text());
 }
 
 } // namespace iceline

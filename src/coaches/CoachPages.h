@@ -4,20 +4,13 @@
 #include "teams/TeamView.h"
 
 #include <string>
-#include <vector>
 
 namespace iceline {
 
-/// A coach's row of the table of all coaches.
-struct CoachRow {
-    LeaderLine line;
-    TeamRecord record;
-};
+/// Writes the table of all coaches, `CoachingStats.htm`, in the order of the list. Reads each coach's record.
+void writeCoachingStatsPage(Files& files, const LeaderList& coaches);
 
-/// The table of all coaches.
-std::string coachingStatsPage(const std::vector<CoachRow>& rows);
-
-/// The page of one coach.
-std::string coachPage(const std::string& coach, const TeamView& view);
+/// Writes the page of one coach, `CStats/<coach>.htm`.
+void writeCoachPage(Files& files, const std::string& coach, const TeamView& view);
 
 } // namespace iceline

@@ -4,7 +4,6 @@
 #include "coaches/Coaches.h"
 #include "leaders/LeaderTables.h"
 #include "league/Selection.h"
-#include "page/PageFrame.h"
 #include "shell/Application.h"
 
 namespace iceline {
@@ -22,20 +21,14 @@ void CoachStats::tmLeadersLoad() {
     auto& table = app_.state.CoachLeaderTable;
     table.clear();
     for (const std::string& coach : content_.coaches)
-        table.push_back(readTeamLeaderFigures(app_.files(), paths::coachFolder(coach)));
+        table.push_back(readTeamLeader(app_.files(), paths::coachFolder(coach)));
 }
 
 void CoachStats::tmLeadersUpdate() {
+    if (!app_.state.ShowWindows)
+        writeCoachingStatsPage(app_.files(),
+                               coachLeaders(app_.state, content_.coaches, sort(), CoachesListed::All));
     content_.ranking = coachLeaders(app_.state, content_.coaches, sort(), CoachesListed::WithGames);
-    if (!app_.state.ShowWindows) {
-        std::vector<CoachRow> rows;
-        for (LeaderLine& line :
-             coachLeaders(app_.state, content_.coaches, sort(), CoachesListed::All).lines) {
-            const TeamRecord record = readTeamRecord(app_.files(), paths::coachFolder(line.name));
-            rows.push_back({std::move(line), record});
-        }
-        writePage(app_.files(), paths::page("CoachingStats.htm"), coachingStatsPage(rows));
-    }
     changed();
 }
 
@@ -45,16 +38,15 @@ void CoachStats::tmLeadersCol_Click(int Index) {
 }
 
 std::string CoachStats::CoachName() const {
-    return TeamSelect == NotChosen ? "" : content_.coaches.at(TeamSelect);
+    return TeamSelect == NotChosen ? "" : content_.coaches.at(CoachIndex(TeamSelect));
 }
 
 void CoachStats::TeamSelect_Click() {
     if (TeamSelect == NotChosen)
         return;
     content_.coach = readTeamView(app_.files(), paths::coachFolder(CoachName()));
-    writePage(app_.files(), paths::page("CStats/" + CoachName() + ".htm"),
-              coachPage(CoachName(), *content_.coach));
     changed();
+    writeCoachPage(app_.files(), CoachName(), *content_.coach);
 }
 
 } // namespace iceline

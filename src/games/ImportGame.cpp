@@ -112,7 +112,7 @@ std::optional<Refusal> GameInHand::refusal(const PlayedGame& game) {
 }
 
 bool GameInHand::hasGamesLeft(TeamIndex team) const {
-    return app_.state.TeamLeaderTable[team][0] < app_.state.SeasonLength;
+    return app_.state.TeamLeaderTable[team].GP() < app_.state.SeasonLength;
 }
 
 std::optional<Refusal> GameInHand::seasonRefusal(const GameSheet& game) const {

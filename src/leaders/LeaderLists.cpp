@@ -4,26 +4,31 @@
 #include "league/Selection.h"
 
 #include <algorithm>
+#include <span>
 
 namespace iceline {
 
 namespace {
 
 template <std::size_t Columns>
-std::vector<int> orderOf(std::span<const LeaderRow<Columns>> rows, LeaderSort sort, int places) {
-    std::vector<int> order;
-    if (sort.column == NoColumn) {
-        order = naturalOrder(static_cast<int>(rows.size()), sort.ascending);
-    } else {
-        std::vector<int> values;
-        values.reserve(rows.size());
-        for (const LeaderRow<Columns>& row : rows)
-            values.push_back(row.values.at(sort.column));
-        order =
-            selectionOrder(values, sort.ascending ? Direction::LowestFirst : Direction::HighestFirst, places);
-    }
-    order.resize(std::min<std::size_t>(order.size(), places));
-    return order;
+std::vector<int> valuesOf(std::span<const LeaderRow<Columns>> rows, std::size_t column) {
+    std::vector<int> values;
+    values.reserve(rows.size());
+    for (const LeaderRow<Columns>& row : rows)
+        values.push_back(row.values.at(column));
+    return values;
+}
+
+/// The numbers of the rows that the first `places` turns of the selection take.
+template <std::size_t Columns>
+std::vector<std::size_t> orderOf(std::span<const LeaderRow<Columns>> rows, LeaderSort sort, int places) {
+    const int turns = std::min(places, static_cast<int>(rows.size()));
+    const std::vector<int> order =
+        sort.column == NoColumn
+            ? naturalOrder(static_cast<int>(rows.size()), sort.ascending)
+            : selectionOrder(valuesOf(rows, static_cast<std::size_t>(sort.column)),
+                             sort.ascending ? Direction::LowestFirst : Direction::HighestFirst, turns);
+    return {order.begin(), order.begin() + turns};
 }
 
 template <class Stats, std::size_t Columns>
@@ -40,11 +45,11 @@ template <class Stats, std::size_t Columns>
 LeaderList listOf(const std::array<LeaderColumn<Stats>, Columns>& columns,
                   std::span<const LeaderRow<Columns>> rows, LeaderSort sort, int places,
                   bool (*isShown)(const LeaderRow<Columns>&)) {
-    const std::vector<int> order = orderOf(rows, sort, places);
+    const std::vector<std::size_t> order = orderOf(rows, sort, places);
     LeaderList list;
     list.lines.reserve(order.size());
     list.startsWithFirstTurn = !order.empty() && isShown(rows[order.front()]);
-    for (const int place : order) {
+    for (const std::size_t place : order) {
         const LeaderRow<Columns>& row = rows[place];
         if (isShown(row))
             list.lines.push_back({static_cast<int>(list.lines.size()) + 1, row.Team, row.Name,
@@ -55,9 +60,9 @@ LeaderList listOf(const std::array<LeaderColumn<Stats>, Columns>& columns,
 
 template <class Stats, std::size_t Columns>
 LeaderList listOfPlayers(const std::array<LeaderColumn<Stats>, Columns>& columns,
-                         const std::vector<LeaderRow<Columns>>& table, int count, LeaderSort sort,
-                         int places) {
-    const auto rows = std::span(table).first(std::min<std::size_t>(count, table.size()));
+                         const std::vector<LeaderRow<Columns>>& table, LeaderSort sort, int places,
+                         int count) {
+    const auto rows = std::span(table).first(std::min(static_cast<std::size_t>(count), table.size()));
     return listOf<Stats, Columns>(columns, rows, sort, places,
                                   [](const LeaderRow<Columns>&) { return true; });
 }
@@ -65,37 +70,37 @@ LeaderList listOfPlayers(const std::array<LeaderColumn<Stats>, Columns>& columns
 using TeamRow = LeaderRow<TeamLeaderColumns.size()>;
 
 bool hasGames(const TeamRow& row) {
-    return row.values[TeamGamesColumn] != 0;
+    return TeamLeader{row.values}.GP() != 0;
 }
 
 } // namespace
 
-LeaderList playerLeaders(const ApplicationState& state, int count, LeaderSort sort, int places) {
-    return listOfPlayers(PlayerLeaderColumns, state.PlayerLeaderTable, count, sort, places);
+LeaderList playerLeaders(const ApplicationState& state, LeaderSort sort, int places, int count) {
+    return listOfPlayers(PlayerLeaderColumns, state.PlayerLeaderTable, sort, places, count);
 }
 
-LeaderList goalieLeaders(const ApplicationState& state, int count, LeaderSort sort, int places) {
-    return listOfPlayers(GoalieLeaderColumns, state.GoalieLeaderTable, count, sort, places);
+LeaderList goalieLeaders(const ApplicationState& state, LeaderSort sort, int places, int count) {
+    return listOfPlayers(GoalieLeaderColumns, state.GoalieLeaderTable, sort, places, count);
 }
 
-LeaderList starLeaders(const ApplicationState& state, int count, LeaderSort sort, int places) {
-    return listOfPlayers(StarLeaderColumns, state.StarLeaderTable, count, sort, places);
+LeaderList starLeaders(const ApplicationState& state, LeaderSort sort, int places, int count) {
+    return listOfPlayers(StarLeaderColumns, state.StarLeaderTable, sort, places, count);
 }
 
 LeaderList teamLeaders(const ApplicationState& state, LeaderSort sort, int places) {
     std::vector<TeamRow> rows;
     for (const TeamIndex team : AllLeagueTeams)
-        rows.push_back({team, "", state.TeamLeaderTable[team]});
+        rows.push_back({team, "", state.TeamLeaderTable[team].values});
     return listOf<TeamRecord, TeamLeaderColumns.size()>(TeamLeaderColumns, rows, sort, places, hasGames);
 }
 
 LeaderList coachLeaders(const ApplicationState& state, const std::vector<std::string>& names, LeaderSort sort,
                         CoachesListed listed) {
     std::vector<TeamRow> rows;
-    for (std::size_t coach = 0; coach < names.size(); ++coach)
-        rows.push_back({TeamIndex(static_cast<int>(coach)), names[coach], state.CoachLeaderTable[coach]});
+    for (const CoachIndex coach : FirstRows<CoachIndex>(static_cast<int>(names.size())))
+        rows.push_back({BlankTeam, names[coach], state.CoachLeaderTable[coach].values});
     return listOf<TeamRecord, TeamLeaderColumns.size()>(
-        TeamLeaderColumns, rows, sort, static_cast<int>(rows.size()),
+        TeamLeaderColumns, rows, sort, AllRows,
         listed == CoachesListed::All ? [](const TeamRow&) { return true; } : hasGames);
 }
 

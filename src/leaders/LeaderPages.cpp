@@ -1,112 +1,119 @@
 #include "leaders/LeaderPages.h"
 
-#include "players/PlayerCards.h"
+#include "leaders/LeaderLists.h"
+#include "page/PageFrame.h"
+#include "page/PageParts.h"
 
 namespace iceline {
 
 namespace {
 
-constexpr std::array PlayerOrder{8, 0, 1, 2, 3, 10, 9, 4, 5, 6, 7};
-constexpr std::array GoalieOrder{10, 0, 1, 2, 3, 4, 5, 6, 7, 8, 9};
-constexpr std::array TeamOrder{0, 9, 10, 11, 1, 2, 3, 4, 5, 6, 7, 8};
-constexpr std::array StarOrder{0};
+/// Columns in the order of a fragment's cells, which is not that of the window.
+template <std::size_t Columns>
+using CellOrder = std::array<std::size_t, Columns>;
 
-constexpr std::string_view CentredNumber = "<tr><td><center><b>";
-constexpr std::string_view CentredLogo = "</b></center></td><td><center><img src=\"../LogoMinis/";
-
-std::string defaultGoalieCard(Platform&) {
-    return std::string(DefaultGoalieCard);
+/// The columns with these captions, of which none may be missing.
+template <class Stats, std::size_t Columns, class... Captions>
+consteval CellOrder<Columns> cells(const std::array<LeaderColumn<Stats>, Columns>& columns,
+                                   const Captions&... captions) {
+    static_assert(sizeof...(captions) == Columns);
+    return {columnOf(columns, captions)...};
 }
+
+constexpr auto PlayerCells =
+    cells(PlayerLeaderColumns, "Pow. Rank", "G", "A", "Pts.", "PPG", "PP", "SH", "SOG", "S%", "PIM", "GP");
+constexpr auto GoalieCells =
+    cells(GoalieLeaderColumns, "PR", "GP", "W", "L", "T", "GAA", "SHO", "Save%", "SF", "GA", "A");
+constexpr auto TeamCells = cells(TeamLeaderColumns, "GP", "P Rank", "H Rank", "A Rank", "Pts.", "Win %",
+                                 "GPG", "GAG", "PP%", "PK%", "SPG", "SAPG");
+
+template <std::size_t Columns>
+std::string figureCells(const LeaderLine& line, const CellOrder<Columns>& order) {
+    return centredCells(order, [&](std::size_t column) { return std::string_view(line.figures[column]); });
+}
+
+void addPlayerRow(PageText& page, const LeaderLine& line) {
+    page.line(
+        R"(<tr><td><center><b>{}</b></center></td><td><center><img src="../LogoMinis/{}.gif"></center></td>)"
+        R"(<td>{}<td><center>{}</center></td></tr>)",
+        line.number, TeamAbbr[line.team], line.name, figureCells(line, PlayerCells));
+}
+
+void addGoalieRow(PageText& page, const LeaderLine& line) {
+    page.line(R"(<tr><td><b>{}</b></center></td><td><img src="../LogoMinis/{}.gif"></td></center>)"
+              R"(<td>{}<td><center>{}</center></td></tr>)",
+              line.number, TeamAbbr[line.team], line.name, figureCells(line, GoalieCells));
+}
+
+void addTeamRow(PageText& page, const LeaderLine& line) {
+    page.line(R"(<tr><td><center><b>{}</b></center></td><td><center><img src="../LogoMinis/{}.gif"></img>)"
+              R"(</center></td><td><center>{}</center></td></tr>)",
+              line.number, TeamAbbr[line.team], figureCells(line, TeamCells));
+}
+
+void addStarRow(PageText& page, const LeaderLine& line) {
+    page.line(R"(<tr><td><center><b>{}</b></center></td><td><center><img src="../LogoMinis/{}.gif"></img>)"
+              R"(</center></td><td><center>{}</td><td><center>{}</center></td></tr>)",
+              line.number, TeamAbbr[line.team], line.name, line.figures.front());
+}
+
+/// The fragments of a part of the year. The number in a fragment's name tells its order: first come the
+/// columns with the highest value first, then the columns with the lowest value first.
+class Fragments {
+public:
+    Fragments(Files& files, const ApplicationState& state, PartOfYear part)
+        : files_(files), state_(state),
+          folder_(part == PartOfYear::Season ? "Rankings/" : "PlayoffRankings/") {}
+
+    void writePlayers() const {
+        constexpr int Columns = PlayerLeaderColumns.size();
+        static_assert(GoalieLeaderColumns.size() == Columns);
+        for (const bool ascending : {true, false}) {
+            for (int column = 0; column < Columns; ++column) {
+                const LeaderSort sort{column, ascending};
+                const std::string number = std::to_string(ascending ? Columns + column : column);
+                write("Normal" + number, playerLeaders(state_, sort), addPlayerRow);
+                write("Goalies" + number, goalieLeaders(state_, sort), addGoalieRow);
+            }
+        }
+    }
+
+    void writeTeams() const {
+        // The natural order comes first; the last two columns have no fragment with the lowest value first.
+        constexpr int HighestFirst = TeamLeaderColumns.size() + 1;
+        constexpr int LowestFirst = HighestFirst - 2;
+        for (const bool ascending : {true, false})
+            for (int order = 0; order < (ascending ? LowestFirst : HighestFirst); ++order)
+                write("Teams" + std::to_string(ascending ? HighestFirst + order : order),
+                      teamLeaders(state_, {NoColumn + order, ascending}), addTeamRow);
+    }
+
+    void writeStars() const {
+        for (const bool ascending : {true, false})
+            write(ascending ? "Star0" : "Star1", starLeaders(state_, {0, ascending}), addStarRow);
+    }
+
+private:
+    void write(const std::string& name, const LeaderList& list,
+               void (*addRow)(PageText&, const LeaderLine&)) const {
+        PageText page;
+        for (const LeaderLine& line : list.lines)
+            addRow(page, line);
+        writePage(files_, paths::page(folder_ + name + ".php"), page.text());
+    }
+
+    Files& files_;
+    const ApplicationState& state_;
+    std::string folder_;
+};
 
 } // namespace
 
-constexpr LeaderRowForm PlayerRowForm{
-    .beforeNumber = CentredNumber,
-    .beforeAbbr = CentredLogo,
-    .behindAbbr = ".gif\"></center></td><td>",
-    .beforeFigure = "<td><center>",
-    .behindFigure = "</center></td>",
-    .rowEnd = "</tr>",
-    .figureOrder = PlayerOrder,
-    .beforePicture = "<tr><td colspan = 4><center><img src=\"./PlayerCards/",
-    .behindPicture = ".gif\"></center></td></tr>",
-    .defaultCard = defaultSkaterCard,
-};
-
-constexpr LeaderRowForm GoalieRowForm{
-    .beforeNumber = "<tr><td><b>",
-    .beforeAbbr = "</b></center></td><td><img src=\"../LogoMinis/",
-    .behindAbbr = ".gif\"></td></center><td>",
-    .beforeFigure = "<td><center>",
-    .behindFigure = "</center></td>",
-    .rowEnd = "</tr>",
-    .figureOrder = GoalieOrder,
-    .beforePicture = "<tr><td colspan = 4><img src=\"./PlayerCards/",
-    .behindPicture = ".gif\"></img></td>",
-    .defaultCard = defaultGoalieCard,
-};
-
-constexpr LeaderRowForm TeamRowForm{
-    .beforeNumber = CentredNumber,
-    .beforeAbbr = CentredLogo,
-    .behindAbbr = ".gif\"></img>",
-    .beforeFigure = "</center></td><td><center>",
-    .behindFigure = "",
-    .rowEnd = "</center></td></tr>",
-    .figureOrder = TeamOrder,
-    .beforePicture = "<tr><td colspan = 4><center><img src=\"./BannerMinis/",
-    .behindPicture = ".gif\"></center></td></tr>",
-};
-
-constexpr LeaderRowForm StarRowForm{
-    .beforeNumber = CentredNumber,
-    .beforeAbbr = CentredLogo,
-    .behindAbbr = ".gif\"></img></center></td><td><center>",
-    .beforeFigure = "</td><td><center>",
-    .behindFigure = "</center></td>",
-    .rowEnd = "</tr>",
-    .figureOrder = StarOrder,
-    .beforePicture = GoalieRowForm.beforePicture,
-    .behindPicture = GoalieRowForm.behindPicture,
-    .defaultCard = defaultSkaterCard,
-};
-
-void addLeaderFragment(PageText& text, const LeaderRowForm& form, const LeaderList& list) {
-    for (const LeaderLine& line : list.lines) {
-        text.add(form.beforeNumber).add(std::to_string(line.number));
-        text.add(form.beforeAbbr).add(TeamAbbr[line.team]).add(form.behindAbbr).add(line.name);
-        for (const int column : form.figureOrder)
-            text.add(form.beforeFigure).add(line.figures[column]).add(form.behindFigure);
-        text.line(form.rowEnd);
-    }
-}
-
-std::string leaderBlock(const LeaderRowForm& form, const LeaderList& list, std::size_t column,
-                        const std::string& pictureRow) {
-    PageText text;
-    if (!pictureRow.empty())
-        text.line(pictureRow);
-    for (const LeaderLine& line : list.lines) {
-        text.add(CentredNumber).add(std::to_string(line.number));
-        text.add("</b></center></td><td><center><img src=\"./LogoMinis/").add(TeamAbbr[line.team]);
-        text.add(".gif\"></center></td><td>");
-        if (form.defaultCard)
-            text.add(line.name).add("</td><td>");
-        text.add("<center>").add(line.figures[column]).line("</td></tr>");
-    }
-    return text.text();
-}
-
-std::string leaderPictureRow(const LeaderRowForm& form, const LeaderList& list, Files& files,
-                             Platform& platform) {
-    if (!list.startsWithFirstTurn)
-        return "";
-    const LeaderLine& leader = list.lines.front();
-    const std::string picture = form.defaultCard ? leader.name : std::string(TeamAbbr[leader.team]);
-    if (form.defaultCard && !hasPlayerCard(files, picture))
-        return "<tr><td colspan = 4><center><img src=\"./PlayerCards/" + form.defaultCard(platform) +
-               ".gif\"></img></center></td></tr>";
-    return std::string(form.beforePicture) + picture + std::string(form.behindPicture);
+void writeLeaderPages(Files& files, const ApplicationState& state, PartOfYear part) {
+    const Fragments fragments(files, state, part);
+    fragments.writePlayers();
+    fragments.writeTeams();
+    fragments.writeStars();
 }
 
 } // namespace iceline

@@ -47,7 +47,7 @@ std::vector<LeaderRow<Columns>> readLeaders(Files& files, PartOfYear part,
         const std::string statsFile = paths::teamFile(team, part, paths::PlayerStats);
         const Roster roster = readRoster(files, paths::playersList(team));
         const TeamPlayerStats stats = readPlayerStats(files, statsFile, roster);
-        for (int row = 0; row < RosterRows; ++row)
+        for (const RosterIndex row : AllRosterRows)
             if (takes(roster[row], stats[row]))
                 leaders.push_back(
                     {team, roster[row].Name, scaledFigures(statsFile, columns, as<Stats>(stats[row]))});
@@ -57,32 +57,32 @@ std::vector<LeaderRow<Columns>> readLeaders(Files& files, PartOfYear part,
 
 } // namespace
 
-std::array<int, TeamLeaderColumns.size()> readTeamLeaderFigures(Files& files, const RecordFolder& folder) {
-    return scaledFigures(folder + "/" + paths::Records, TeamLeaderColumns, readTeamRecord(files, folder));
+TeamLeader readTeamLeader(Files& files, const RecordFolder& folder) {
+    return {scaledFigures(folder + "/" + paths::Records, TeamLeaderColumns, readTeamRecord(files, folder))};
 }
 
-TeamLeaders readTeamLeaders(Files& files, PartOfYear part) {
-    TeamLeaders leaders{};
+std::array<TeamLeader, LeagueTeams> readTeamLeaders(Files& files, PartOfYear part) {
+    std::array<TeamLeader, LeagueTeams> leaders;
     for (const TeamIndex team : AllLeagueTeams)
-        leaders[team] = readTeamLeaderFigures(files, paths::teamFolder(team) + seasonFolder(part));
+        leaders[team] = readTeamLeader(files, paths::teamFolder(team) + seasonFolder(part));
     return leaders;
 }
 
-std::vector<LeaderRow<PlayerLeaderColumns.size()>> readPlayerLeaders(Files& files, PartOfYear part) {
+std::vector<PlayerLeader> readPlayerLeaders(Files& files, PartOfYear part) {
     return readLeaders(files, part, PlayerLeaderColumns,
                        [](const RosterRow& player, const PlayerStatsLine& line) {
                            return !player.isGoalie() && !player.isEmpty() && gamesPlayed(line) != 0;
                        });
 }
 
-std::vector<LeaderRow<GoalieLeaderColumns.size()>> readGoalieLeaders(Files& files, PartOfYear part) {
+std::vector<GoalieLeader> readGoalieLeaders(Files& files, PartOfYear part) {
     return readLeaders(files, part, GoalieLeaderColumns,
                        [](const RosterRow& player, const PlayerStatsLine& line) {
                            return player.isGoalie() && gamesPlayed(line) != 0;
                        });
 }
 
-std::vector<LeaderRow<StarLeaderColumns.size()>> readStarLeaders(Files& files, PartOfYear part) {
+std::vector<StarLeader> readStarLeaders(Files& files, PartOfYear part) {
     return readLeaders(files, part, StarLeaderColumns,
                        [](const RosterRow& player, const PlayerStatsLine& line) {
                            return !player.isEmpty() && starPoints(line) > 0;

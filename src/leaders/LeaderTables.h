@@ -1,7 +1,6 @@
 #pragma once
 
 #include "shell/ApplicationState.h"
-#include "shell/LeaderColumns.h"
 #include "store/TeamFiles.h"
 
 namespace iceline {
@@ -10,21 +9,19 @@ namespace iceline {
 /// the order of the teams and of their rosters. Every reader throws FileError, also for a figure that is too
 /// large for its column.
 
-using TeamLeaders = decltype(ApplicationState::TeamLeaderTable);
-
-/// The figures of a team's part of the year, or of a coach. Without games there are no goals a game.
-std::array<int, TeamLeaderColumns.size()> readTeamLeaderFigures(Files& files, const RecordFolder& folder);
+/// The figures of a team's part of the year, or of a coach. Without games there are no goals per game.
+TeamLeader readTeamLeader(Files& files, const RecordFolder& folder);
 
 /// All teams.
-TeamLeaders readTeamLeaders(Files& files, PartOfYear part);
+std::array<TeamLeader, LeagueTeams> readTeamLeaders(Files& files, PartOfYear part);
 
 /// The skaters who have played.
-std::vector<LeaderRow<PlayerLeaderColumns.size()>> readPlayerLeaders(Files& files, PartOfYear part);
+std::vector<PlayerLeader> readPlayerLeaders(Files& files, PartOfYear part);
 
 /// The goalies who have played.
-std::vector<LeaderRow<GoalieLeaderColumns.size()>> readGoalieLeaders(Files& files, PartOfYear part);
+std::vector<GoalieLeader> readGoalieLeaders(Files& files, PartOfYear part);
 
 /// Whoever has three-star points, goalie or not.
-std::vector<LeaderRow<StarLeaderColumns.size()>> readStarLeaders(Files& files, PartOfYear part);
+std::vector<StarLeader> readStarLeaders(Files& files, PartOfYear part);
 
 } // namespace iceline

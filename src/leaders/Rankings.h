@@ -1,7 +1,6 @@
 #pragma once
 
-#include "leaders/LeaderPages.h"
-#include "page/PageFrame.h"
+#include "leaders/LeaderLists.h"
 #include "shell/Window.h"
 
 namespace iceline {
@@ -10,8 +9,8 @@ namespace iceline {
 ///
 /// Each table is filled by a load procedure from the teams' files and ordered by an update procedure. The
 /// tables themselves are the league's, one of each for the season's and the play-offs' windows, so what an
-/// update shows was filled by whichever was loaded last. While ShowWindows is False the window's load writes
-/// the fragments of all orders and the home page of its part of the year.
+/// update shows was filled by whichever was loaded last. While ShowWindows is False the window's load shows
+/// nothing and writes the fragments of all orders and the home page of its part of the year.
 class Rankings : public Window {
 public:
     Rankings(Application& application, PartOfYear part) : Window(application), part_(part) {}
@@ -22,7 +21,6 @@ public:
     /// A table as the window shows it.
     struct Table {
         std::vector<LeaderLine> rows; ///< names in capitals
-        std::string rowNumbers;       ///< "1\n2\n"
         LeaderSort sort;              ///< which head is marked, and how
     };
 
@@ -71,17 +69,11 @@ public:
 
 private:
     void show();
-    void writePlayerFragments();
-    void writeTeamFragments();
-    void writeStarFragments();
-    void writeFragment(const std::string& name);
-    void writeHomePage();
-    int places(int inWindow, int inFragment) const;
-    void put(const LeaderRowForm& form, Table& table, const LeaderList& list, LeaderSort sort);
+    void writePages();
+    void showTable(Table& table, LeaderList list, LeaderSort sort);
 
     PartOfYear part_;
     Content content_;
-    PageText page_; ///< the fragment or home page in hand, to which the updates add
 };
 
 } // namespace iceline

@@ -30,9 +30,6 @@ public:
         return fill(literal, fmt::make_format_args(value, values...)).line();
     }
 
-    /// Begins again, in the room that the text has taken.
-    void clear() { text_.clear(); }
-
     const std::string& text() const { return text_; }
 
 private:

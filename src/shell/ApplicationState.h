@@ -3,6 +3,7 @@
 #include "league/LeagueTable.h"
 #include "league/Roster.h"
 #include "league/StarOfGame.h"
+#include "shell/LeaderColumns.h"
 #include "store/LeagueFiles.h"
 #include "store/LeaguePaths.h"
 
@@ -12,15 +13,6 @@
 #include <vector>
 
 namespace iceline {
-
-/// A row of a league table of players: whole numbers, fractions scaled, so that one comparison serves all
-/// columns.
-template <std::size_t Columns>
-struct LeaderRow {
-    TeamIndex Team;
-    std::string Name;
-    std::array<int, Columns> values{};
-};
 
 /// What the windows share between one piece of work and the next. Everything else is read from the league's
 /// files each time, and nothing here is stored: start-up works PlayoffMode and SeasonFolder out anew.
@@ -56,12 +48,12 @@ struct ApplicationState {
     PlayoffSeriesTable PlayoffSeries;
 
     /// Leader tables as they were last filled, by the season's window or by the play-offs'. The import's
-    /// season test reads games played from column 0 of TeamLeaderTable.
-    std::array<std::array<int, 12>, LeagueTeams> TeamLeaderTable{};
-    std::vector<LeaderRow<11>> PlayerLeaderTable;
-    std::vector<LeaderRow<11>> GoalieLeaderTable;
-    std::vector<LeaderRow<1>> StarLeaderTable;
-    std::vector<std::array<int, 12>> CoachLeaderTable;
+    /// season test reads the games played of TeamLeaderTable.
+    std::array<TeamLeader, LeagueTeams> TeamLeaderTable;
+    std::vector<PlayerLeader> PlayerLeaderTable;
+    std::vector<GoalieLeader> GoalieLeaderTable;
+    std::vector<StarLeader> StarLeaderTable;
+    std::vector<TeamLeader> CoachLeaderTable; ///< by CoachIndex
 
     /// The part of the year whose files the league works on.
     PartOfYear partOfYear() const { return SeasonFolder.empty() ? PartOfYear::Season : PartOfYear::Playoffs; }

@@ -203,12 +203,12 @@ TEST_F(GameImport, AskesForAFileFirst) {
 TEST_F(GameImport, TeamsThatHaveCompletedTheSeasonAreNamed) {
     choose(GameKind::Season);
     state().SeasonLength = 2;
-    state().TeamLeaderTable[Boston][0] = 2;
+    state().TeamLeaderTable[Boston].GP() = 2;
     const auto before = files().files;
     import(lovelyGame());
-    state().TeamLeaderTable[Montreal][0] = 2;
+    state().TeamLeaderTable[Montreal].GP() = 2;
     import(lovelyGame());
-    state().TeamLeaderTable[Boston][0] = 1;
+    state().TeamLeaderTable[Boston].GP() = 1;
     import(lovelyGame());
     const std::string start = "Cannot import file because ";
     EXPECT_THAT(league.said(),

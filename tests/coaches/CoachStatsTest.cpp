@@ -17,6 +17,17 @@ TeamRecord recordOf(int games, int points) {
     record.Points = points;
     record.WinPercent = 0.583;
     record.GF = 7;
+    record.GA = 5;
+    record.Wins = 6;
+    record.Losses = 2;
+    record.Ties = 1;
+    record.PowerRanking = 21.37;
+    record.HomePowerRanking = -1.5;
+    record.AwayPowerRanking = 20;
+    record.PPPct = 33.3;
+    record.PKPct = 80;
+    record.SOGPG = 30.5;
+    record.SOGAPG = 25.1;
     return record;
 }
 
@@ -59,8 +70,15 @@ TEST_F(CoachStatsTest, TheTableOfAllCoachesHasThoseWithoutGamesToo) {
     EXPECT_THAT(page, HasSubstr("<img src='Headers/CoachingStats.gif'></img>"));
     EXPECT_THAT(
         page, HasSubstr("<tr><td><a href=\"./CStats/Ann.htm\" ><b>Ann</b></a></td><td><center>3</center></td>"
-                        "<td><center>0</center></td><td><center>0</center></td><td><center>0</center></td>"
-                        "<td><center>0.583</center></td>"));
+                        "<td><center>6</center></td><td><center>2</center></td><td><center>1</center></td>"
+                        "<td><center>0.583</center></td><td><center>21.37</center></td>"
+                        "<td><center>-1.5</center></td><td><center>20</center></td>"
+                        "<td><center>2.33</center></td><td><center>1.67</center></td>"
+                        "<td><center>33.3</center></td><td><center>80</center></td>"
+                        "<td><center>30.5</center></td><td><center>25.1</center></td>\r\n"));
+    EXPECT_THAT(page,
+                HasSubstr("<tr><th><b>Coach</b></th><th><b>GP</b></th><th><b>W</b></th><th><b>L</b></th>"
+                          "<th><b>T</b></th><th><b>Win%</b></th><th><b>P Rank</b></th>"));
     EXPECT_THAT(page, HasSubstr("./CStats/New.htm"));
     EXPECT_TRUE(page.ends_with("</center></td>\r\n</tr></table></font></center></body></html>\r\n"));
     EXPECT_FALSE(league.files.isFile("IcelineWebPages/CStats/Ann.htm"));
@@ -71,8 +89,13 @@ TEST_F(CoachStatsTest, EveryChoiceOfACoachWritesHisPage) {
     window.TeamSelect_Click();
     EXPECT_FALSE(window.content().coach);
     league.files.files["Coaches/Bob/Last 10 Games.txt"] = "\"W\"\r\n\"L\"\r\n\"W\"\r\n";
+    bool shownBeforeThePage = false;
+    window.onChange = [&] {
+        shownBeforeThePage = window.content().coach && !league.files.isFile("IcelineWebPages/CStats/Bob.htm");
+    };
     window.TeamSelect = 1;
     window.TeamSelect_Click();
+    EXPECT_TRUE(shownBeforeThePage);
     EXPECT_EQ(window.CoachName(), "Bob");
     EXPECT_EQ(window.content().coach->lastTen.wins, 2);
     const std::string page = league.page("CStats/Bob.htm");

@@ -107,7 +107,7 @@ TEST_F(ImportFolder, ARefusedGameIsPassedOverOnOk) {
 }
 
 TEST_F(ImportFolder, CancelAtARefusalEndsTheRun) {
-    state().TeamLeaderTable[Boston][0] = state().SeasonLength;
+    state().TeamLeaderTable[Boston].GP() = state().SeasonLength;
     save("Games/1.gs0", GameSheet(Montreal, TeamIndex(3)));
     save("Games/2.gs0", lovelyGame());
     save("Games/3.gs0", GameSheet(Montreal, TeamIndex(3)));
@@ -118,7 +118,7 @@ TEST_F(ImportFolder, CancelAtARefusalEndsTheRun) {
     EXPECT_EQ(lastSaid(), "1 Files imported");
     EXPECT_EQ(gameNumber(), 2);
 
-    state().TeamLeaderTable[Boston][0] = 0;
+    state().TeamLeaderTable[Boston].GP() = 0;
     run();
     EXPECT_EQ(lastSaid(), "3 Files imported") << "the answer speaks of its run alone";
 }

@@ -23,8 +23,8 @@ constexpr TeamIndex MTL{10};
 
 const std::string BlockBreak = "</table></td><td></td></font></center>";
 
-/// The lines of a page behind the one that holds `head`, up to the end of its table.
-std::vector<std::string> rowsBehind(const std::string& page, const std::string& head) {
+/// The lines of a page after the one that holds `head`, up to the end of its table.
+std::vector<std::string> rowsAfter(const std::string& page, const std::string& head) {
     const std::vector<std::string> lines = linesOf(page);
     const auto isHead = [&](const std::string& line) { return line.ends_with(">" + head + "</th></tr>"); };
     auto line = std::ranges::find_if(lines, isHead);
@@ -96,12 +96,45 @@ TEST(LeagueHomePage, ListsTheLastGamesWithTheAwayTeamFirst) {
 
     publishRankings(league);
 
-    const auto rows = rowsBehind(league.page("index.htm"), "Last 10 Game Results");
+    const auto rows = rowsAfter(league.page("index.htm"), "Last 10 Game Results");
     EXPECT_THAT(rows,
                 ElementsAre("<tr><td><img src=\"./LogoMinis/BOS.gif\"></img></td><td><b>3</b></td><td> vs. "
                             "</td><td><img src=\"./LogoMinis/MTL.gif\"></img></td><td><b>2</b></td><td><a "
                             "href=\"./BoxScores/Newest.htm\"><b> BOX </b></a></td></tr>",
                             HasSubstr("Older.htm")));
+}
+
+TEST(LeagueHomePage, EachBlockShowsTheFigureOfItsHead) {
+    TestLeague league;
+    setSkater(league, BOS, 2, "Jo Skate", {.GP = 8, .G = 2, .A = 3, .Pts = 5, .SOG = 16, .PIM = 4});
+    GoalieStats goalie{.GP = 10, .GA = 25, .SO = 1, .A = 2, .GW = 6, .GL = 3, .GT = 7, .SA = 250};
+    goalie.GAA = 2.62;
+    goalie.SvPct = 0.905;
+    setGoalie(league, BUF, 0, "Al Masque", goalie);
+    TeamRecord record = teamRecord(8, 15, 29, 20);
+    record.PowerRanking = 21.37;
+    record.WinPercent = 0.875;
+    record.SOGPG = 30.5;
+    record.SOGAPG = 25.1;
+    league.setRecord(MTL, PartOfYear::Season, record);
+
+    publishRankings(league);
+
+    const std::string page = league.page("index.htm");
+    const std::string teams = page.substr(page.find("Team Leaders"));
+    const auto figureUnder = [](const std::string& text, const std::string& head) {
+        const std::string row = rowsAfter(text, head).at(1);
+        const std::size_t begin = row.rfind("<center>") + std::string("<center>").size();
+        return row.substr(begin, row.find("</td>", begin) - begin);
+    };
+    std::vector<std::string> shown;
+    for (const char* head : {"Points", "Goals", "Assists", "Shots on Goal", "Penalty Minutes",
+                             "Goals Against Average", "Wins", "Save Percentage", "Shutouts", "Goals Allowed"})
+        shown.push_back(figureUnder(page, head));
+    for (const char* head : {"Power Ranking", "Points", "Win Percentage", "Goals Per Game", "SOG Per Game"})
+        shown.push_back(figureUnder(teams, head));
+    EXPECT_THAT(shown, ElementsAre("5", "2", "3", "16", "4", "2.62", "6", "0.905", "1", "25", "21.37", "15",
+                                   "0.875", "3.62", "30.5"));
 }
 
 TEST(LeagueHomePage, PlayerBlocksHoldFiveRowsUnderTheLeadersPicture) {
@@ -114,7 +147,7 @@ TEST(LeagueHomePage, PlayerBlocksHoldFiveRowsUnderTheLeadersPicture) {
 
     publishRankings(league);
 
-    const auto points = rowsBehind(league.page("index.htm"), "Points");
+    const auto points = rowsAfter(league.page("index.htm"), "Points");
     ASSERT_EQ(points.size(), 6u);
     EXPECT_EQ(points[0], "<tr><td colspan = 4><center><img src=\"./PlayerCards/Skater2.gif\"></img></center>"
                          "</td></tr>");
@@ -122,7 +155,7 @@ TEST(LeagueHomePage, PlayerBlocksHoldFiveRowsUnderTheLeadersPicture) {
               "<tr><td><center><b>1</b></center></td><td><center><img "
               "src=\"./LogoMinis/MTL.gif\"></center></td><td>Skater 8</td><td><center>8</td></tr>");
     EXPECT_THAT(points[5], HasSubstr("<b>5</b>"));
-    const auto goals = rowsBehind(league.page("index.htm"), "Goals");
+    const auto goals = rowsAfter(league.page("index.htm"), "Goals");
     EXPECT_EQ(goals.at(0),
               "<tr><td colspan = 4><center><img src=\"./PlayerCards/Jo Card.gif\"></center></td></tr>");
 }
@@ -142,14 +175,14 @@ TEST(LeagueHomePage, AverageHasTheLowestFirstAndGoaliesShareOneDefaultPicture) {
     publishRankings(league);
 
     const std::string page = league.page("index.htm");
-    EXPECT_THAT(rowsBehind(page, "Goals Against Average"),
+    EXPECT_THAT(rowsAfter(page, "Goals Against Average"),
                 ElementsAre("<tr><td colspan = 4><center><img src=\"./PlayerCards/Goalie1.gif\"></img>"
                             "</center></td></tr>",
                             HasSubstr("Tight</td><td><center>0.5</td></tr>"), HasSubstr("Leaky")));
-    EXPECT_THAT(rowsBehind(page, "Goals Allowed"),
+    EXPECT_THAT(rowsAfter(page, "Goals Allowed"),
                 ElementsAre("<tr><td colspan = 4><img src=\"./PlayerCards/Leaky.gif\"></img></td>",
                             HasSubstr("Leaky</td><td><center>9</td></tr>"), HasSubstr("Tight")));
-    EXPECT_THAT(rowsBehind(page, "Save Percentage").at(1), HasSubstr("<center>0.5</td></tr>"));
+    EXPECT_THAT(rowsAfter(page, "Save Percentage").at(1), HasSubstr("<center>0.5</td></tr>"));
 }
 
 TEST(LeagueHomePage, AStarIsShownByHisCardOrAsASkater) {
@@ -158,7 +191,7 @@ TEST(LeagueHomePage, AStarIsShownByHisCardOrAsASkater) {
 
     publishRankings(league);
 
-    EXPECT_THAT(rowsBehind(league.page("index.htm"), "Three Star Points Leaders"),
+    EXPECT_THAT(rowsAfter(league.page("index.htm"), "Three Star Points Leaders"),
                 ElementsAre("<tr><td colspan = 4><center><img src=\"./PlayerCards/Skater1.gif\"></img>"
                             "</center></td></tr>",
                             "<tr><td><center><b>1</b></center></td><td><center><img "
@@ -177,8 +210,8 @@ TEST(LeagueHomePage, TeamBlocksBeginWithABannerUnlessTheFirstTurnGaveNoRow) {
 
     // By power ranking the first five turns go to teams without games, whose ranking of 0 is higher.
     const std::string page = league.page("index.htm");
-    EXPECT_THAT(rowsBehind(page, "Power Ranking"), testing::IsEmpty());
-    EXPECT_THAT(rowsBehind(page, "Win Percentage"),
+    EXPECT_THAT(rowsAfter(page, "Power Ranking"), testing::IsEmpty());
+    EXPECT_THAT(rowsAfter(page, "Win Percentage"),
                 ElementsAre("<tr><td colspan = 4><center><img src=\"./BannerMinis/MTL.gif\"></center></td>"
                             "</tr>",
                             "<tr><td><center><b>1</b></center></td><td><center><img "
@@ -187,7 +220,7 @@ TEST(LeagueHomePage, TeamBlocksBeginWithABannerUnlessTheFirstTurnGaveNoRow) {
     for (TeamIndex team = BUF; team < LeagueTeams; ++team)
         league.setRecord(team, PartOfYear::Season, loser);
     publishRankings(league);
-    const auto rows = rowsBehind(league.page("index.htm"), "Power Ranking");
+    const auto rows = rowsAfter(league.page("index.htm"), "Power Ranking");
     ASSERT_EQ(rows.size(), 4u);
     EXPECT_THAT(rows[0], HasSubstr("<b>1</b></center></td><td><center><img src=\"./LogoMinis/BUF.gif\">"));
     EXPECT_THAT(rows[0], HasSubstr("<td><center>-4.5</td></tr>"));

@@ -38,7 +38,7 @@ TEST(PlayerFragment, RowToTheLetter) {
 
 TEST(GoalieFragment, RowToTheLetter) {
     TestLeague league;
-    GoalieStats stats{.GP = 10, .GA = 25, .SO = 1, .A = 2, .GW = 6, .GL = 3, .GT = 1, .SA = 250};
+    GoalieStats stats{.GP = 10, .GA = 25, .SO = 4, .A = 2, .GW = 6, .GL = 3, .GT = 1, .SA = 250};
     stats.GAA = 2.5;
     stats.SvPct = 0.9;
     stats.Rating = 0.75;
@@ -51,7 +51,7 @@ TEST(GoalieFragment, RowToTheLetter) {
         "<tr><td><b>1</b></center></td><td><img src=\"../LogoMinis/BOS.gif\"></td></center><td>"
         "Al Masque<td><center>0.75</center></td><td><center>10</center></td><td><center>6</center></td>"
         "<td><center>3</center></td><td><center>1</center></td><td><center>2.5</center></td><td><center>"
-        "1</center></td><td><center>0.9</center></td><td><center>250</center></td><td><center>25"
+        "4</center></td><td><center>0.9</center></td><td><center>250</center></td><td><center>25"
         "</center></td><td><center>2</center></td></tr>\r\n");
 }
 

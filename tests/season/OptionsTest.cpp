@@ -155,7 +155,7 @@ TEST_F(OptionsTest, ClearsOneTeamAndLeavesTheRest) {
     EXPECT_EQ(league.record(Buffalo).GP, 5);
     EXPECT_FALSE(league.app.state.PlayoffMode);
     EXPECT_EQ(league.app.state.SeasonFolder, "");
-    EXPECT_EQ(league.app.state.TeamLeaderTable[Boston + 1][0], 5)
+    EXPECT_EQ(league.app.state.TeamLeaderTable[Boston + 1].GP(), 5)
         << "the import's season test reads the new table";
     EXPECT_EQ(league.files.files[paths::OverallGameNumber], "12\r\n");
 }

@@ -138,7 +138,7 @@ TEST(GenerateWebpages, LeavesPlayoffGamesInTheTeamTable) {
 
     publish(league.app);
 
-    EXPECT_EQ(league.app.state.TeamLeaderTable[BOS][0], 3);
+    EXPECT_EQ(league.app.state.TeamLeaderTable[BOS].GP(), 3);
 }
 
 TEST(GenerateWebpages, LeavesEveryPageAloneWhenNothingHasChanged) {
