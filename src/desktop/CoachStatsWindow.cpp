@@ -4,7 +4,6 @@
 #include "desktop/LeaderGrid.h"
 #include "desktop/QtPlatform.h"
 #include "desktop/TeamFiguresPanel.h"
-#include "desktop/TeamLeaderGrid.h"
 
 #include <QComboBox>
 #include <QGroupBox>
@@ -41,7 +40,6 @@ CoachStatsWindow::CoachStatsWindow(Application& application, WindowId id, CoachS
     tabs->addTab(makeStats(), QStringLiteral("Coaching Stats"));
     tabs->addTab(makeRanking(), QStringLiteral("Coach Rankings"));
     rows->addWidget(tabs);
-    rows->addWidget(exitButton("Command2(0)", this), 0, Qt::AlignRight);
     follow(object_);
 }
 
@@ -70,14 +68,23 @@ QWidget* CoachStatsWindow::makeStats() {
     figures_ = new TeamFiguresPanel(QStringLiteral("Coach              League"), box);
     rows->addWidget(figures_);
     rows->addStretch();
+    rows->addWidget(exitButton("Command2(0)", this), 0, Qt::AlignRight);
     return box;
 }
 
 QWidget* CoachStatsWindow::makeRanking() {
     QGroupBox* box = frame("Frame2", QStringLiteral("Coach Rankings"), this);
     auto* rows = new QVBoxLayout(box);
+    rows->addWidget(exitButton("Command2(1)", this), 0, Qt::AlignRight);
+    rows->addWidget(makeLeaders(box));
+    rows->addWidget(exitButton("Command2(2)", this), 0, Qt::AlignRight);
+    return box;
+}
+
+QWidget* CoachStatsWindow::makeLeaders(QWidget* parent) {
+    QGroupBox* box = frame("Frame3", QStringLiteral("Coach Leaders"), parent);
+    auto* rows = new QVBoxLayout(box);
     auto* area = new QScrollArea(box);
-    area->setObjectName(QStringLiteral("Frame3"));
     area->setWidgetResizable(true);
     area->setFrameShape(QFrame::NoFrame);
     ranking_ = new LeaderGrid(
@@ -96,7 +103,7 @@ void CoachStatsWindow::refresh() {
     name_->setText(toQt(object_.CoachName()));
     if (content.coach)
         figures_->show(*content.coach);
-    ranking_->show(content.ranking.lines, object_.CoachSortColumn + 1, object_.CoachSortAscending);
+    ranking_->show(content.ranking.lines, {object_.CoachSortColumn, object_.CoachSortAscending});
 }
 
 } // namespace iceline::desktop

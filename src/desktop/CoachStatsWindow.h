@@ -24,6 +24,7 @@ protected:
 private:
     QWidget* makeStats();
     QWidget* makeRanking();
+    QWidget* makeLeaders(QWidget* parent);
 
     CoachStats& object_;
     QComboBox* coaches_ = nullptr;

@@ -5,95 +5,134 @@
 
 #include <QGridLayout>
 
-#include <algorithm>
-
 namespace iceline::desktop {
 
 namespace {
 
 constexpr int RowHeight = 24;
-constexpr int NumberColumn = 0;
-constexpr int PictureColumn = 1;
-constexpr int NameColumn = 2;
-constexpr int FirstFigureColumn = 3;
+
+// Places in the grid, from the left.
+constexpr int NumberPlace = 0;
+constexpr int PicturePlace = 1;
+constexpr int NamePlace = 2;
+constexpr int FirstFigurePlace = 3;
+
+SortMark markOf(LeaderSort sort) {
+    return sort.ascending ? SortMark::Ascending : SortMark::Descending;
+}
 
 } // namespace
 
+LeaderGridForm teamLeaderForm() {
+    return {.numbers = "Text3",
+            .pictures = "LeagueLeaderTeam3",
+            .names = nullptr,
+            .heads = "tmLeadersCol",
+            .headsAre = LeaderHeads::NamesAndFigures,
+            .rows = LeagueTeams,
+            .nameCaption = QStringLiteral("Teams"),
+            .columns = gridColumns(TeamLeaderColumns)};
+}
+
 LeaderGrid::LeaderGrid(const LeaderGridForm& form, std::function<void(int)> click, QWidget* parent)
-    : QWidget(parent), form_(form), numbers_(textLabel(QLatin1String(form.numbers), this)),
-      figures_(form.columns.size()) {
+    : QWidget(parent), form_(form), numbers_(textLabel(QLatin1String(form.numbers), this)) {
     auto* grid = new QGridLayout(this);
     grid->setContentsMargins(6, 2, 6, 2);
     grid->setHorizontalSpacing(4);
     grid->setVerticalSpacing(1);
     numbers_->hide();
-    const int nameColumn = form_.names ? NameColumn : PictureColumn;
-    if (form_.nameHead >= 0)
-        addHead(form_.nameHead, form_.nameCaption, nameColumn, click);
-    else
-        grid->addWidget(headLabel(form_.nameCaption, this, Qt::AlignLeft | Qt::AlignVCenter), 0, nameColumn);
-    for (std::size_t i = 0; i < form_.columns.size(); ++i)
-        addHead(form_.columns[i].head, form_.columns[i].caption, FirstFigureColumn + static_cast<int>(i),
-                click);
+    addNameHead(click);
+    int column = 0;
+    for (const LeaderGridColumn& each : form_.columns) {
+        addHead(column, each.caption, FirstFigurePlace + column, click);
+        ++column;
+    }
     for (int row = 0; row < form_.rows; ++row)
-        addRow(row);
-    grid->setColumnStretch(nameColumn, 1);
+        rows_.push_back(makeRow(row));
+    grid->setColumnStretch(namePlace(), 1);
     grid->setRowStretch(form_.rows + 1, 1);
 }
 
-void LeaderGrid::addHead(int head, const QString& caption, int column,
-                         const std::function<void(int)>& click) {
-    const QString name =
-        head == LeaderGridForm::SingleHead ? QLatin1String(form_.heads) : desktop::element(form_.heads, head);
-    auto* button = new SortHead(name, caption, this);
-    connect(button, &QPushButton::clicked, this, [click, head] { click(head); });
-    heads_.push_back({head, button});
-    static_cast<QGridLayout*>(layout())->addWidget(button, 0, column);
+int LeaderGrid::namePlace() const {
+    return form_.names ? NamePlace : PicturePlace;
 }
 
-void LeaderGrid::addRow(int row) {
+void LeaderGrid::addNameHead(const std::function<void(int)>& click) {
+    if (form_.headsAre == LeaderHeads::NamesAndFigures) {
+        addHead(NoColumn, form_.nameCaption, namePlace(), click);
+        return;
+    }
+    QLabel* head = headLabel(form_.nameCaption, this, Qt::AlignLeft | Qt::AlignVCenter);
+    static_cast<QGridLayout*>(layout())->addWidget(head, 0, namePlace());
+}
+
+void LeaderGrid::addHead(int column, const QString& caption, int place,
+                         const std::function<void(int)>& click) {
+    const int element = form_.headsAre == LeaderHeads::NamesAndFigures ? column + 1 : column;
+    const QString name = form_.headsAre == LeaderHeads::Single ? QLatin1String(form_.heads)
+                                                               : desktop::element(form_.heads, element);
+    auto* button = new SortHead(name, caption, this);
+    connect(button, &QPushButton::clicked, this, [click, element] { click(element); });
+    heads_.push_back({column, button});
+    static_cast<QGridLayout*>(layout())->addWidget(button, 0, place);
+}
+
+LeaderGrid::Row LeaderGrid::makeRow(int row) {
     auto* grid = static_cast<QGridLayout*>(layout());
     grid->setRowMinimumHeight(row + 1, RowHeight);
-    const auto add = [&](std::vector<QLabel*>& labels, QLabel* label, int column) {
-        labels.push_back(label);
-        grid->addWidget(label, row + 1, column);
+    const auto add = [&](QLabel* label, int place) {
+        grid->addWidget(label, row + 1, place);
+        return label;
     };
-    add(shownNumbers_, headLabel({}, this), NumberColumn);
+    Row made;
+    made.number = add(headLabel({}, this), NumberPlace);
     if (form_.pictures)
-        add(pictures_, pictureLabel(element(form_.pictures, row), this), PictureColumn);
+        made.picture = add(pictureLabel(element(form_.pictures, row), this), PicturePlace);
     if (form_.names)
-        add(names_, textLabel(element(form_.names, row), this), NameColumn);
-    for (std::size_t i = 0; i < form_.columns.size(); ++i)
-        add(figures_[i], figureLabel(element(form_.columns[i].labels, row), this),
-            FirstFigureColumn + static_cast<int>(i));
+        made.name = add(textLabel(element(form_.names, row), this), NamePlace);
+    int place = FirstFigurePlace;
+    for (const LeaderGridColumn& column : form_.columns)
+        made.figures.push_back(add(figureLabel(element(column.labels, row), this), place++));
+    return made;
 }
 
-void LeaderGrid::show(const std::vector<LeaderLine>& lines, int markedHead, bool ascending) {
+void LeaderGrid::show(const std::vector<LeaderLine>& lines, LeaderSort sort) {
     for (const Head& head : heads_)
-        head.button->mark(head.element != markedHead ? SortMark::None
-                          : ascending                ? SortMark::Ascending
-                                                     : SortMark::Descending);
+        head.button->mark(head.column == sort.column ? markOf(sort) : SortMark::None);
     QString numbers;
-    for (int row = 0; row < form_.rows; ++row) {
-        const bool isFilled = row < static_cast<int>(lines.size());
-        showRow(row, isFilled ? &lines[row] : nullptr);
-        if (isFilled)
-            numbers += QString::number(lines[row].number) + QLatin1Char('\n');
+    auto line = lines.begin();
+    for (const Row& row : rows_) {
+        if (line == lines.end()) {
+            empty(row);
+            continue;
+        }
+        fill(row, *line);
+        numbers += QString::number(line->number) + QLatin1Char('\n');
+        ++line;
     }
     numbers_->setText(numbers);
 }
 
-void LeaderGrid::showRow(int row, const LeaderLine* line) {
-    shownNumbers_[row]->setText(line ? QString::number(line->number) : QString());
-    if (form_.pictures) {
-        if (line)
-            pictures_[row]->setPixmap(pictures::teamNameMini(line->team));
-        pictures_[row]->setVisible(line);
+void LeaderGrid::fill(const Row& row, const LeaderLine& line) {
+    row.number->setText(QString::number(line.number));
+    if (row.picture) {
+        row.picture->setPixmap(pictures::teamNameMini(line.team));
+        row.picture->show();
     }
-    if (form_.names)
-        names_[row]->setText(line ? toQt(line->name) : QString());
-    for (std::size_t i = 0; i < form_.columns.size(); ++i)
-        figures_[i][row]->setText(line ? toQt(line->figures[form_.columns[i].figure]) : QString());
+    if (row.name)
+        row.name->setText(toQt(line.name));
+    for (std::size_t column = 0; column < row.figures.size(); ++column)
+        setText(row.figures, column, line.figures[column]);
+}
+
+void LeaderGrid::empty(const Row& row) {
+    row.number->clear();
+    if (row.picture)
+        row.picture->hide();
+    if (row.name)
+        row.name->clear();
+    for (QLabel* figure : row.figures)
+        figure->clear();
 }
 
 } // namespace iceline::desktop

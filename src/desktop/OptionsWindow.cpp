@@ -127,8 +127,11 @@ QGroupBox* OptionsWindow::makeClearing() {
     choice->addStretch();
     rows->addLayout(choice);
     auto* team = new QHBoxLayout;
-    for (const char* name : {"ClearSelectedLogo", "ClearSelectedName", "ClearSelectedLogo2"})
-        team->addWidget(pictureLabel(QLatin1String(name), box));
+    clearedLogo_ = pictureLabel(QStringLiteral("ClearSelectedLogo"), box);
+    clearedName_ = pictureLabel(QStringLiteral("ClearSelectedName"), box);
+    clearedLogo2_ = pictureLabel(QStringLiteral("ClearSelectedLogo2"), box);
+    for (QLabel* picture : {clearedLogo_, clearedName_, clearedLogo2_})
+        team->addWidget(picture);
     rows->addLayout(team);
     box->setMinimumSize(600, 190);
     rows->addStretch();
@@ -156,11 +159,11 @@ void OptionsWindow::refresh() {
 void OptionsWindow::showClearedTeam() {
     if (object_.ClearTeamSelect == Options::NotChosen)
         return;
-    const bool oneTeam = object_.ClearTeamSelect < LeagueTeams;
-    const TeamIndex team = oneTeam ? TeamIndex(object_.ClearTeamSelect) : AllTeams;
-    findChild<QLabel*>(QStringLiteral("ClearSelectedName"))->setPixmap(pictures::teamNameBig(team));
-    for (const char* logo : {"ClearSelectedLogo", "ClearSelectedLogo2"})
-        findChild<QLabel*>(QLatin1String(logo))->setPixmap(pictures::teamLogo(team));
+    const bool isOneTeam = object_.ClearTeamSelect < LeagueTeams;
+    const TeamIndex team = isOneTeam ? TeamIndex(object_.ClearTeamSelect) : AllTeams;
+    clearedName_->setPixmap(pictures::teamNameBig(team));
+    for (QLabel* logo : {clearedLogo_, clearedLogo2_})
+        logo->setPixmap(pictures::teamLogo(team));
 }
 
 } // namespace iceline::desktop

@@ -40,6 +40,9 @@ private:
     QPushButton* rename_ = nullptr;
     QLineEdit* currentLength_ = nullptr;
     QComboBox* teams_ = nullptr;
+    QLabel* clearedLogo_ = nullptr;
+    QLabel* clearedName_ = nullptr;
+    QLabel* clearedLogo2_ = nullptr;
 };
 
 } // namespace iceline::desktop

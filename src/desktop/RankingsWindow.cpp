@@ -2,7 +2,6 @@
 
 #include "desktop/LeaderGrid.h"
 #include "desktop/QtPlatform.h"
-#include "desktop/TeamLeaderGrid.h"
 
 #include <QGroupBox>
 #include <QTabWidget>
@@ -16,26 +15,17 @@ constexpr int PlayerRows = 20;
 constexpr int TableWidth = 900; ///< room for the names
 constexpr int StarsWidth = 480;
 
-/// The labels of the figures, by column of the tables.
-constexpr std::array PlayerLabels{"LeagueLeaderGoals", "LeagueLeaderAssists", "LeagueLeaderPoints",
-                                  "LeagueLeaderPPG",   "LeagueLeaderSOG",     "LeagueLeaderSPct",
-                                  "LeagueLeaderPIM",   "LeagueLeaderGP",      "LeagueLeaderPR",
-                                  "LeagueLeaderSH",    "LeagueLeaderPP"};
-constexpr std::array GoalieLabels{"LeagueLeaderGGP",   "LeagueLeaderGW",         "LeagueLeaderGL",
-                                  "LeagueLeaderGT",    "LeagueLeaderGGAA",       "LeagueLeaderGSHO",
-                                  "LeagueLeaderGSPct", "LeagueLeaderGSF",        "LeagueLeaderGGA",
-                                  "LeagueLeaderGAst",  "LeagueLeaderGPowRanking"};
-constexpr std::array StarLabels{"LL3StarPts"};
-
-template <class Columns, std::size_t Count>
+template <class Columns>
 LeaderGridForm playerForm(const char* numbers, const char* pictures, const char* names, const char* heads,
-                          const Columns& columns, const std::array<const char*, Count>& labels) {
-    static_assert(std::tuple_size_v<Columns> == Count);
-    LeaderGridForm form{numbers, pictures, names, heads, PlayerRows, {}, QStringLiteral("Name")};
-    for (int column = 0; column < static_cast<int>(Count); ++column)
-        form.columns.push_back({toQt(columns[column].caption),
-                                Count == 1 ? LeaderGridForm::SingleHead : column, column, labels[column]});
-    return form;
+                          const Columns& columns) {
+    return {.numbers = numbers,
+            .pictures = pictures,
+            .names = names,
+            .heads = heads,
+            .headsAre = columns.size() == 1 ? LeaderHeads::Single : LeaderHeads::Figures,
+            .rows = PlayerRows,
+            .nameCaption = QStringLiteral("Name"),
+            .columns = gridColumns(columns)};
 }
 
 /// A page of the tabs: the frame with its title, which is a label of its own, and the table.
@@ -69,8 +59,8 @@ QTabWidget* tabStrip(const char* name, QWidget* parent) {
     return tabs;
 }
 
-void showTable(LeaderGrid& grid, const Rankings::Table& table, int headOfFirstColumn = 0) {
-    grid.show(table.rows, table.sort.column + headOfFirstColumn, table.sort.ascending);
+void showTable(LeaderGrid& grid, const Rankings::Table& table) {
+    grid.show(table.rows, table.sort);
 }
 
 } // namespace
@@ -92,15 +82,13 @@ RankingsWindow::RankingsWindow(Application& application, WindowId id, Rankings& 
 
 QWidget* RankingsWindow::makeLeagueLeaders() {
     players_ = new LeaderGrid(
-        playerForm("Text1", "LeagueLeaderTeam", "LeagueLeaderName", "lColN", PlayerLeaderColumns,
-                   PlayerLabels),
+        playerForm("Text1", "LeagueLeaderTeam", "LeagueLeaderName", "lColN", PlayerLeaderColumns),
         [this](int head) { run([&] { object_.lColN_Click(head); }); }, this);
     goalies_ = new LeaderGrid(
-        playerForm("Text2", "LeagueLeaderTeam2", "LeagueLeaderGName", "lColG", GoalieLeaderColumns,
-                   GoalieLabels),
+        playerForm("Text2", "LeagueLeaderTeam2", "LeagueLeaderGName", "lColG", GoalieLeaderColumns),
         [this](int head) { run([&] { object_.lColG_Click(head); }); }, this);
     stars_ = new LeaderGrid(
-        playerForm("Text6", "LL3StarTeam", "LL3StarName", "ThreeStarSort", StarLeaderColumns, StarLabels),
+        playerForm("Text6", "LL3StarTeam", "LL3StarName", "ThreeStarSort", StarLeaderColumns),
         [this](int) { run([&] { object_.ThreeStarSort_Click(); }); }, this);
     players_->setMinimumWidth(TableWidth);
     stars_->setMaximumWidth(StarsWidth);
@@ -119,8 +107,8 @@ void RankingsWindow::refresh() {
     setWindowTitle(toQt(content.title));
     showTable(*players_, content.players);
     showTable(*goalies_, content.goalies);
-    showTable(*stars_, content.stars, LeaderGridForm::SingleHead);
-    showTable(*teams_, content.teams, 1);
+    showTable(*stars_, content.stars);
+    showTable(*teams_, content.teams);
 }
 
 } // namespace iceline::desktop

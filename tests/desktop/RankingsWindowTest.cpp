@@ -1,6 +1,7 @@
 #include "desktop/DesktopTest.h"
 #include "leaders/LeadersSupport.h"
 
+#include <QGroupBox>
 #include <QTabWidget>
 
 namespace iceline::desktop {
@@ -81,6 +82,20 @@ TEST_F(RankingsWindowTest, HasItsFourTablesInTabsUnderTheirTitles) {
     click(window, "tmLeadersCol(0)");
     EXPECT_EQ(markOf(window, "tmLeadersCol(0)"), "descending");
     EXPECT_EQ(text(window, "Text3"), "1\n");
+}
+
+TEST_F(RankingsWindowTest, OfCoachesHasItsFrameAndThreeWaysOut) {
+    league.addCoach("Ann", teamRecord(4, 8));
+    for (const char* exit : {"Command2(0)", "Command2(1)", "Command2(2)"}) {
+        LeagueWindow& window = open(WindowId::CoachStats);
+        EXPECT_EQ(control<QGroupBox>(window, QStringLiteral("Frame3")).title(),
+                  QStringLiteral("Coach Leaders"));
+        EXPECT_EQ(text(window, "Text44"), "1\n");
+        EXPECT_EQ(markOf(window, "tmLeadersCol(2)"), "descending");
+        EXPECT_EQ(control<QAbstractButton>(window, QLatin1String(exit)).text(), QStringLiteral("Exit"));
+        click(window, exit);
+        EXPECT_FALSE(league.app.windows().isLoaded(WindowId::CoachStats)) << exit;
+    }
 }
 
 TEST_F(RankingsWindowTest, OfThePlayoffsClosesByItsButton) {
