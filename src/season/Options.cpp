@@ -4,6 +4,7 @@
 #include "coaches/Coaches.h"
 #include "leaders/Rankings.h"
 #include "league/Numbers.h"
+#include "league/Text.h"
 #include "playoffs/SeasonEnd.h"
 #include "shell/Application.h"
 #include "standings/Standings.h"
@@ -31,22 +32,24 @@ bool confirms(Application& app, const std::string& question, const std::string& 
     return app.platform().ask({question, Buttons::YesNo, title}) == Answer::Yes;
 }
 
+/// A season length as it is typed, without an exponent.
+std::optional<double> numberOf(std::string_view typed) {
+    const std::string_view text = trimmed(typed);
+    const char* end = text.data() + text.size();
+    double value = 0;
+    const auto [stop, error] = std::from_chars(text.data(), end, value, std::chars_format::fixed);
+    return error == std::errc() && stop == end ? std::optional(value) : std::nullopt;
+}
+
 } // namespace
 
 std::optional<int> seasonLengthOf(const std::string& typed) {
-    const auto first = typed.find_first_not_of(' ');
-    if (first == std::string::npos)
+    const std::optional<double> value = numberOf(typed);
+    if (!value)
         return std::nullopt;
-    const std::string text = typed.substr(first, typed.find_last_not_of(' ') - first + 1);
-    double value = 0;
-    const char* end = text.data() + text.size();
-    const auto [stop, error] = std::from_chars(text.data(), end, value, std::chars_format::fixed);
-    if (error != std::errc() || stop != end || value < EndedByHand - 0.5 || value > SeasonLengthLimit + 0.5)
-        return std::nullopt;
-    const int length = wholeNumber(value);
-    if (length < EndedByHand || length > SeasonLengthLimit)
-        return std::nullopt;
-    return length;
+    const double length = rounded(*value, 0);
+    const bool isInRange = length >= EndedByHand && length <= SeasonLengthLimit;
+    return isInRange ? std::optional(static_cast<int>(length)) : std::nullopt;
 }
 
 void Options::Form_Load() {
@@ -55,12 +58,19 @@ void Options::Form_Load() {
 }
 
 std::string Options::chosenCoach() const {
-    return Combo1 == NotChosen ? "" : content_.coaches.at(Combo1);
+    return Combo1 == NotChosen ? "" : content_.coaches.at(CoachIndex(Combo1));
 }
 
 void Options::refreshCoaches() {
     content_.coaches = coachNames(app_.files());
     Combo1 = NotChosen;
+}
+
+/// Says so when no coach is chosen.
+bool Options::isCoachChosen() {
+    if (Combo1 == NotChosen)
+        app_.platform().say("Please select coach first!");
+    return Combo1 != NotChosen;
 }
 
 void Options::NewCoach_Click() {
@@ -70,9 +80,10 @@ void Options::NewCoach_Click() {
     changed();
 }
 
-/// Puts the name as it will be stored into the input, and says why it cannot be taken when it cannot.
+/// Shows the name as it will be stored in the input, and says why it cannot be taken when it cannot.
 bool Options::acceptsNewName() {
     NewC = storedCoachName(NewC);
+    changed();
     if (NewC.empty() || findCoach(app_.files(), NewC)) {
         app_.platform().say(NewC + " already exists");
         return false;
@@ -96,10 +107,8 @@ void Options::Command1_Click() {
 }
 
 void Options::EditCoach_Click() {
-    if (Combo1 == NotChosen) {
-        app_.platform().say("Please select coach first!");
+    if (!isCoachChosen())
         return;
-    }
     content_.Command1Visible = false;
     content_.Command2Visible = !content_.Command2Visible;
     NewC = chosenCoach();
@@ -107,10 +116,8 @@ void Options::EditCoach_Click() {
 }
 
 void Options::Command2_Click() {
-    if (Combo1 == NotChosen) {
-        app_.platform().say("Please select coach first!");
+    if (!isCoachChosen())
         return;
-    }
     if (acceptsNewName()) {
         Operation operation(app_);
         renameCoach(app_.files(), chosenCoach(), NewC);
@@ -122,10 +129,8 @@ void Options::Command2_Click() {
 }
 
 void Options::DeleteCoach_Click() {
-    if (Combo1 == NotChosen) {
-        app_.platform().say("Please select coach first!");
+    if (!isCoachChosen())
         return;
-    }
     if (!confirms(app_, "Are you sure you want to delete coach " + chosenCoach() + "?"))
         return;
     Operation operation(app_);

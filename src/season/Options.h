@@ -28,7 +28,7 @@ public:
         bool Command2Visible = false;     ///< the input row is open for a new name
         std::string CurrentSeasonLength;
 
-        /// NewC, Label3 and Label4 stand and go with the two buttons.
+        /// NewC, Label3 and Label4 are visible when one of the two buttons is.
         bool inputRowVisible() const { return Command1Visible || Command2Visible; }
     };
 
@@ -56,6 +56,7 @@ public:
     int ClearTeamSelect = NotChosen; ///< position in the team list: 0 to 23 a team, 24 "ALL"
 
 private:
+    bool isCoachChosen();
     bool acceptsNewName();
     void refreshCoaches();
     void clearOneTeam(TeamIndex team);

@@ -54,11 +54,17 @@ TEST_F(OptionsTest, CreatesCoachesWithFreeNamesOnly) {
     EXPECT_TRUE(window().content().Command1Visible) << "the input row stays open";
     EXPECT_THAT(league.said(), IsEmpty());
 
+    std::vector<std::string> shownBeforeRefusal;
+    window().onChange = [&] {
+        if (league.said().empty())
+            shownBeforeRefusal.push_back(window().NewC);
+    };
     for (const char* name : {"ann lee", "", "CON", "../x"}) {
         window().NewC = name;
         window().Command1_Click();
         EXPECT_EQ(window().NewC, "");
     }
+    EXPECT_THAT(shownBeforeRefusal, ElementsAre("ann_lee"));
     EXPECT_THAT(league.said(), ElementsAre("ann_lee already exists", " already exists",
                                            HasSubstr("Windows keeps"), HasSubstr("signs other than")));
     EXPECT_THAT(league.files.foldersIn("Coaches"), ElementsAre("Ann_Lee"));
@@ -110,14 +116,14 @@ TEST_F(OptionsTest, TakesWholeSeasonLengthsInRange) {
         const char* typed;
         const char* stored;
     };
-    for (const Case& each :
-         {Case{"20", "20\r\n"}, Case{" 41.5 ", "42\r\n"}, Case{"-1", "-1\r\n"}, Case{"32767", "32767\r\n"}}) {
+    for (const Case& each : {Case{"20", "20\r\n"}, Case{" 41.5 ", "42\r\n"}, Case{"40.5", "40\r\n"},
+                             Case{"-1", "-1\r\n"}, Case{"32767", "32767\r\n"}}) {
         window().SeasonLength = each.typed;
         window().EnterSeasonLength_Click();
         EXPECT_EQ(league.files.files[paths::GamesUntilPlayoffs], each.stored) << each.typed;
         EXPECT_EQ(league.said().back(), "The Season Length has been updated.");
     }
-    for (const char* typed : {"", " ", "ten", "-2", "32768", "1e3", "12x"}) {
+    for (const char* typed : {"", " ", "ten", "-2", "-1.6", "32767.5", "1e3", "12x", "nan", "inf"}) {
         window().SeasonLength = typed;
         window().EnterSeasonLength_Click();
         EXPECT_THAT(league.said().back(), HasSubstr("from -1 to 32767")) << typed;
