@@ -20,9 +20,9 @@ std::optional<std::string> coachNamed(Session& session, const std::string& name)
 
 /// The options window with the coach chosen.
 Options& chooseCoach(Session& session, const std::string& name) {
-    const int place = placeOfCoach<Options>(session, WindowId::Options, name);
+    const int index = indexOfCoach<Options>(session, WindowId::Options, name);
     Options& options = use<Options>(session, WindowId::Options);
-    options.Combo1 = place;
+    options.Combo1 = index;
     return options;
 }
 
@@ -62,9 +62,9 @@ Status clearCoach(Session& session, const std::string& name) {
 }
 
 Status showCoach(Session& session, const std::string& name) {
-    const int place = placeOfCoach<CoachStats>(session, WindowId::CoachStats, name);
+    const int index = indexOfCoach<CoachStats>(session, WindowId::CoachStats, name);
     CoachStats& window = use<CoachStats>(session, WindowId::CoachStats);
-    window.TeamSelect = place;
+    window.TeamSelect = index;
     window.TeamSelect_Click();
     session.out() << window.CoachName() << "\n\n";
     printTeamView(*window.content().coach, session.out());

@@ -35,7 +35,7 @@ Status read(Session& session, const std::string& file) {
 
 /// The position of the coach in the window's lists, that of "No Coach" without a name.
 int coachPosition(Session& session, const std::string& name) {
-    return name.empty() ? 0 : placeOfCoach<StatExtractor>(session, WindowId::StatExtractor, name);
+    return name.empty() ? 0 : indexOfCoach<StatExtractor>(session, WindowId::StatExtractor, name);
 }
 
 void choose(Session& session, const Import& import) {

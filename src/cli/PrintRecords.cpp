@@ -1,7 +1,6 @@
 #include "cli/TextTable.h"
 #include "cli/WindowPrinters.h"
 #include "records/AllTimeRecords.h"
-#include "season/Options.h"
 
 namespace iceline::cli {
 
@@ -26,12 +25,6 @@ void printAllTimeRecords(const AllTimeRecords& window, std::ostream& out) {
         << recordTable("Goalie Records", shownGoalieRecords(content)) << '\n'
         << recordTable("Team Records", shownTeamRecords(content)) << '\n'
         << recordTable("Coach Records", shownCoachRecords(content));
-}
-
-void printOptions(const Options& window, std::ostream& out) {
-    out << "Current Season Length  " << window.content().CurrentSeasonLength << "\n\nCoach List:\n";
-    for (const std::string& coach : window.content().coaches)
-        out << "  " << coach << '\n';
 }
 
 } // namespace iceline::cli

@@ -1,6 +1,5 @@
 #include "cli/TextTable.h"
 #include "cli/WindowPrinters.h"
-#include "coaches/CoachStats.h"
 #include "teams/TeamStats.h"
 
 #include <map>
@@ -138,23 +137,6 @@ void printTeamStats(const TeamStats& window, std::ostream& out) {
     }
     out << TeamName[window.TeamSelect] << "\n\n";
     printTeamView(*window.content(), out);
-}
-
-void printCoachStats(const CoachStats& window, std::ostream& out) {
-    std::vector<TextTable::Column> heads{{"#"}, {"Coaches", TextTable::Align::Left}};
-    for (const auto& column : TeamLeaderColumns)
-        heads.push_back({std::string(column.caption)});
-    TextTable table(heads);
-    for (const LeaderLine& line : window.content().ranking.lines) {
-        std::vector<std::string> cells{std::to_string(line.number), line.name};
-        cells.insert(cells.end(), line.figures.begin(), line.figures.end());
-        table.addRow(cells);
-    }
-    out << "Coach Rankings\n" << table;
-    if (!window.content().coach)
-        return;
-    out << '\n' << window.CoachName() << "\n\n";
-    printTeamView(*window.content().coach, out);
 }
 
 } // namespace iceline::cli

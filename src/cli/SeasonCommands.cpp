@@ -1,5 +1,6 @@
 #include "cli/Command.h"
 #include "cli/UseWindow.h"
+#include "cli/WindowPrinters.h"
 #include "season/Options.h"
 
 namespace iceline::cli {
@@ -34,6 +35,12 @@ Status clearStats(Session& session, const std::string& team) {
 }
 
 } // namespace
+
+void printOptions(const Options& window, std::ostream& out) {
+    out << "Current Season Length  " << window.content().CurrentSeasonLength << "\n\nCoach List:\n";
+    for (const std::string& coach : window.content().coaches)
+        out << "  " << coach << '\n';
+}
 
 void addSeasonCommands(CLI::App& program, Call& call) {
     const auto [command, length] = addCommand<std::optional<std::string>>(

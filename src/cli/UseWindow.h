@@ -13,14 +13,14 @@ Kind& use(Session& session, WindowId id) {
     return static_cast<Kind&>(session.app().windows().use(id));
 }
 
-/// A coach by the name that the user gave, blanks or case notwithstanding. Throws UsageError when there is no
+/// A coach by the name that the user gave, whatever its blanks and case. Throws UsageError when there is no
 /// such coach.
 std::string knownCoach(Session& session, const std::string& name);
 
-/// The position of a coach in a window's list of coaches. A window that was loaded before the coach came is
-/// loaded anew. Throws UsageError when there is no such coach.
+/// The index of a coach in a window's list of coaches. A window that was loaded before the coach came is
+/// loaded again. Throws UsageError when there is no such coach.
 template <class Kind>
-int placeOfCoach(Session& session, WindowId id, const std::string& name) {
+int indexOfCoach(Session& session, WindowId id, const std::string& name) {
     const std::string coach = knownCoach(session, name);
     if (std::ranges::count(use<Kind>(session, id).content().coaches, coach) == 0)
         session.app().windows().unload(id);
