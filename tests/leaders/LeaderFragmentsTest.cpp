@@ -104,7 +104,7 @@ std::string orderIn(TestLeague& league, const std::string& fragment, const std::
     return places.first < places.second ? one : other;
 }
 
-TEST(Fragments, NumbersStandForTheColumnsHighestFirstThenLowestFirst) {
+TEST(Fragments, AreNumberedByColumnHighestFirstThenLowestFirst) {
     TestLeague league;
     GoalieStats leaky{.GP = 5, .GW = 1};
     leaky.GAA = 4;
@@ -145,7 +145,7 @@ TEST(Fragments, NumbersStandForTheColumnsHighestFirstThenLowestFirst) {
     EXPECT_EQ(teamFirst("15"), "BOS");
 }
 
-TEST(Fragments, EveryRowStandsOnceInEveryOrderAndEmptyTablesGiveEmptyFiles) {
+TEST(Fragments, EveryOrderHasAllRowsAndEmptyTablesGiveEmptyFiles) {
     TestLeague league;
     for (int row = 2; row < 25; ++row)
         setSkater(league, BOS, row, "Skater", {.GP = 1, .Pts = row % 5});

@@ -144,7 +144,7 @@ TEST(GoalieLeaders, OneGameIsEnoughToLead) {
     EXPECT_THAT(namesOf(window.content().goalies), ElementsAre("OFTEN", "ONCE"));
 }
 
-TEST(StarLeaders, SkatersAndGoaliesStandTogether) {
+TEST(StarLeaders, SkatersAndGoaliesAreInOneTable) {
     TestLeague league;
     setSkater(league, TeamIndex(3), 5, "Third Team", {.GP = 1, .StarPoints = 30});
     setGoalie(league, TeamIndex(1), 0, "First Team", {.GP = 1, .StarPoints = 30});
