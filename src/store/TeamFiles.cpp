@@ -2,8 +2,6 @@
 
 #include "store/LeaguePaths.h"
 
-#include <algorithm>
-
 namespace iceline {
 
 namespace {
@@ -50,10 +48,10 @@ LastTen readLastTen(Files& files, const RecordFolder& folder, int gameCount) {
     const std::string path = folder + "/" + paths::Last10Games;
     const std::string content = files.read(path);
     ItemReader reader(path, content);
-    for (int i = 0; i < gameCount - 10; ++i)
+    for (int skipped = 0; skipped < gameCount - 10; ++skipped)
         reader.text("result");
     LastTen lastTen;
-    for (int i = 0; i < std::min(gameCount, 10); ++i) {
+    for (int read = 0; read < 10 && !reader.atEnd(); ++read) {
         const std::string letter = reader.text("result");
         lastTen.wins += letter == "W";
         lastTen.losses += letter == "L";

@@ -8,7 +8,7 @@
 namespace iceline {
 
 /// Folder that holds the three record files of a team's part of the year, or of a coach, without a slash
-/// behind it: all three have the same form everywhere.
+/// after it: all three have the same form everywhere.
 using RecordFolder = std::string;
 
 TeamRecord readTeamRecord(Files& files, const RecordFolder& folder);
@@ -31,7 +31,7 @@ struct LastTen {
     int ties = 0;
 };
 
-/// Counts the last ten of the `gameCount` lines of `Last 10 Games.txt`.
+/// Counts the lines of `Last 10 Games.txt` that follow the first `gameCount` - 10, at most ten of them.
 LastTen readLastTen(Files& files, const RecordFolder& folder, int gameCount);
 
 } // namespace iceline

@@ -1,7 +1,6 @@
-#include "teams/TeamStats.h"
-
 #include "files/FileError.h"
 #include "support/TestLeague.h"
+#include "teams/TeamStats.h"
 
 #include <gmock/gmock.h>
 
@@ -47,16 +46,18 @@ TEST(TeamStats, ShowsAnUntouchedTeamWithZeros) {
 
 TEST(TeamStats, CountsTheLastTenAtDisplay) {
     struct Case {
+        int games;
         const char* results;
         const char* wins;
         const char* losses;
         const char* ties;
     };
-    for (const Case& each : {Case{"WLT", "1", "1", "1"}, Case{"WWWWWLLLLT", "5", "4", "1"},
-                             Case{"WWLLLLLLLLLT", "0", "9", "1"}}) {
+    for (const Case& each : {Case{3, "WLT", "1", "1", "1"}, Case{10, "WWWWWLLLLT", "5", "4", "1"},
+                             Case{12, "WWLLLLLLLLLT", "0", "9", "1"}, Case{3, "WL", "1", "1", "0"},
+                             Case{2, "WLLLLLLLLTWWW", "1", "8", "1"}, Case{12, "WWLT", "0", "1", "1"}}) {
         TestLeague league;
         TeamRecord record;
-        record.GameCount = static_cast<int>(std::string_view(each.results).size());
+        record.GameCount = each.games;
         league.setRecord(Boston, PartOfYear::Season, record);
         league.setResults(Boston, PartOfYear::Season, each.results);
         TeamStats& window = open(league);
@@ -68,10 +69,10 @@ TEST(TeamStats, CountsTheLastTenAtDisplay) {
     }
 }
 
-TEST(TeamStats, RefusesAResultListThatIsTooShort) {
+TEST(TeamStats, RefusesAResultListWithoutTheLinesToSkip) {
     TestLeague league;
     TeamRecord record;
-    record.GameCount = 3;
+    record.GameCount = 13;
     league.setRecord(Boston, PartOfYear::Season, record);
     league.setResults(Boston, PartOfYear::Season, "WL");
     TeamStats& window = open(league);
