@@ -1,133 +1,59 @@
 #include "cli/TextTable.h"
 #include "cli/WindowPrinters.h"
+#include "teams/TeamFigures.h"
 #include "teams/TeamStats.h"
-
-#include <map>
 
 namespace iceline::cli {
 
 namespace {
 
-/// A column: its head, and the names of the figures that stand in it, parted by a sign.
-struct Figures {
-    const char* head;
-    std::vector<std::string_view> names;
-    const char* sign = " / ";
-};
+using namespace teamfigures;
 
-/// The figures of a team or coach by the names of their controls.
-class FigureTexts {
-public:
-    explicit FigureTexts(const TeamView& view) {
-        for (const ShownFigure& figure : shownFigures(view))
-            texts_[figure.name] = figure.text;
+/// A table of one row; the head of the first column begins with `title`.
+TextTable figureTable(const std::vector<TeamColumn>& columns, const TeamView& view,
+                      const std::string& title = "") {
+    std::vector<TextTable::Column> heads;
+    std::vector<std::string> cells;
+    for (const TeamColumn& column : columns) {
+        heads.push_back({(heads.empty() ? title : "") + std::string(column.head)});
+        cells.push_back(column.text(view));
     }
-
-    TextTable table(const std::vector<Figures>& columns) const {
-        std::vector<TextTable::Column> heads;
-        std::vector<std::string> cells;
-        for (const Figures& column : columns) {
-            heads.push_back({column.head});
-            cells.push_back(cell(column));
-        }
-        TextTable made(heads);
-        made.addRow(cells);
-        return made;
-    }
-
-private:
-    std::string cell(const Figures& column) const {
-        std::string text;
-        for (const std::string_view name : column.names)
-            text += (text.empty() ? "" : column.sign) + texts_.at(name);
-        return text;
-    }
-
-    std::map<std::string_view, std::string> texts_;
-};
-
-void printRecords(const FigureTexts& figures, std::ostream& out) {
-    out << figures.table({{"Record W - L - T", {"Wins", "Losses", "Ties"}, " - "},
-                          {"Pts.", {"Points"}},
-                          {"Win%", {"WinPercent"}},
-                          {"GP", {"GP"}},
-                          {"GF", {"GF"}},
-                          {"GA", {"GA"}},
-                          {"GFA", {"GFA"}},
-                          {"GAA", {"GAA"}},
-                          {"Diff", {"Diff"}},
-                          {"Pow.Rank", {"PowerRanking"}}})
-        << '\n';
-    out << figures.table({{"Home W - L - T", {"HW", "HL", "HT"}, " - "},
-                          {"Win%", {"HWinPercent"}},
-                          {"GP", {"HGP"}},
-                          {"GF", {"HGF"}},
-                          {"GA", {"HGA"}},
-                          {"GFA", {"HGFA"}},
-                          {"GAA", {"HGAA"}},
-                          {"Diff", {"HomeDiff"}},
-                          {"Pow.Rank", {"HomePowerRanking"}}})
-        << '\n';
-    out << figures.table({{"Away W - L - T", {"AW", "AL", "AT"}, " - "},
-                          {"Win%", {"AWinPercent"}},
-                          {"GP", {"AGP"}},
-                          {"GF", {"AGF"}},
-                          {"GA", {"AGA"}},
-                          {"GFA", {"AGFA"}},
-                          {"GAA", {"AGAA"}},
-                          {"Diff", {"AwayDiff"}},
-                          {"Pow.Rank", {"AwayPowerRanking"}}})
-        << '\n';
-    out << figures.table({{"Overtime W - L - T", {"OTW", "OTL", "OTT"}, " - "},
-                          {"Win%", {"OTWPct"}},
-                          {"GP", {"OTGP"}},
-                          {"Last 10", {"L10W", "L10L", "L10T"}, " - "},
-                          {"Streak", {"Streak"}},
-                          {"Crowd dB", {"ArenaMeter"}},
-                          {"League dB", {"LeagueMeter"}}})
-        << '\n';
+    TextTable table(heads);
+    table.addRow(cells);
+    return table;
 }
 
-void printTotals(const FigureTexts& figures, std::ostream& out) {
-    out << "Season Totals\n"
-        << figures.table({{"SOG", {"SOG"}},
-                          {"S%", {"SOGPct"}},
-                          {"SOGA", {"SOGA"}},
-                          {"PPG/PPA", {"PPG", "PPA"}},
-                          {"PP%", {"PPPct"}},
-                          {"Pen/PIM", {"Pen", "PIM"}},
-                          {"PenA/PIMA", {"PenA", "PIMA"}}})
-        << figures.table({{"PKG/PKO", {"PKG", "PKO"}},
-                          {"PK%", {"PKPct"}},
-                          {"FOW/FOT", {"FOW", "FOT"}},
-                          {"FOW%", {"FOWPct"}},
-                          {"ByCks", {"ByCks"}},
-                          {"PsC/PsA", {"PassComp", "PassAtt"}},
-                          {"PsAcc%", {"PassAcc"}}})
-        << '\n';
+template <std::size_t Columns>
+TextTable figureTable(const std::array<TeamColumn, Columns>& columns, const TeamView& view,
+                      const std::string& title = "") {
+    return figureTable(std::vector(columns.begin(), columns.end()), view, title);
 }
 
-void printAverages(const FigureTexts& figures, std::ostream& out) {
-    out << "Season Averages\n"
-        << figures.table({{"SOG", {"SOGPG"}},
-                          {"SOGA", {"SOGAPG"}},
-                          {"PPG/PPA", {"PPGPG", "PPAPG"}},
-                          {"Pen/PIM", {"PenPG", "PIMPG"}},
-                          {"PenA/PIMA", {"PenAPG", "PIMAPG"}}})
-        << figures.table({{"PKG/PKO", {"PKGPG", "PKOPG"}},
-                          {"Att.Zone", {"AttZonePG"}},
-                          {"FOW/FOT", {"FOWPG", "FOTPG"}},
-                          {"ByCks", {"ByCksPG"}},
-                          {"PsC/PsA", {"PassCompPG", "PassAttPG"}}});
+std::vector<TeamColumn> recordColumns() {
+    std::vector<TeamColumn> columns(Record.begin(), Record.end());
+    columns.insert(columns.begin() + 1, Points);
+    return columns;
+}
+
+std::vector<TeamColumn> overtimeColumns() {
+    std::vector<TeamColumn> columns(Overtime.begin(), Overtime.end());
+    columns.insert(columns.end(), {LastTenGames, CurrentStreak, Crowd[0], Crowd[1]});
+    columns.end()[-2].head = "Crowd dB";
+    columns.end()[-1].head = "League dB";
+    return columns;
 }
 
 } // namespace
 
 void printTeamView(const TeamView& view, std::ostream& out) {
-    const FigureTexts figures(view);
-    printRecords(figures, out);
-    printTotals(figures, out);
-    printAverages(figures, out);
+    out << figureTable(recordColumns(), view, "Record ") << '\n'
+        << figureTable(Home, view, "Home ") << '\n'
+        << figureTable(Away, view, "Away ") << '\n'
+        << figureTable(overtimeColumns(), view, "Overtime ") << '\n'
+        << "Season Totals\n"
+        << figureTable(Totals, view) << figureTable(FurtherTotals, view) << '\n'
+        << "Season Averages\n"
+        << figureTable(Averages, view) << figureTable(FurtherAverages, view);
 }
 
 void printTeamStats(const TeamStats& window, std::ostream& out) {
@@ -135,7 +61,7 @@ void printTeamStats(const TeamStats& window, std::ostream& out) {
         printTeamList("Select Your Team Here", out);
         return;
     }
-    out << TeamName[window.TeamSelect] << "\n\n";
+    out << TeamName[TeamIndex(window.TeamSelect)] << "\n\n";
     printTeamView(*window.content(), out);
 }
 

@@ -18,7 +18,7 @@ public:
 
     void Form_Load() override;
 
-    /// The team at position TeamSelect has been chosen: reads it anew and shows it, or writes its page.
+    /// The team at position TeamSelect has been chosen: reads its files again and shows them.
     void TeamSelect_Click();
 
     /// The team that is shown; none before one is chosen.

@@ -4,8 +4,6 @@
 #include "store/TeamFiles.h"
 
 #include <string>
-#include <string_view>
-#include <vector>
 
 namespace iceline {
 
@@ -19,15 +17,6 @@ struct TeamView {
 
 /// Reads the three files of `folder` and the league's crowd meter.
 TeamView readTeamView(Files& files, const RecordFolder& folder);
-
-/// A figure as a window shows it, by the name of its control.
-struct ShownFigure {
-    std::string_view name;
-    std::string text;
-};
-
-/// The figures that the team and coach windows show, in groups as they stand there.
-std::vector<ShownFigure> shownFigures(const TeamView& view);
 
 /// The tables that team and coach pages share, from the record table to the page's end. The play-off pages of
 /// teams have two columns more for the crowd meters.

@@ -1,6 +1,9 @@
-#include "files/FileError.h"
-#include "support/TestLeague.h"
 #include "teams/TeamStats.h"
+
+#include "files/FileError.h"
+#include "support/NumberedRecord.h"
+#include "support/TestLeague.h"
+#include "teams/TeamFigures.h"
 
 #include <gmock/gmock.h>
 
@@ -9,16 +12,23 @@ namespace iceline::test {
 namespace {
 
 using testing::HasSubstr;
-using testing::Not;
 
 constexpr TeamIndex Boston{0};
 constexpr TeamIndex StLouis{18};
 
-std::string shown(const TeamStats& window, std::string_view control) {
-    for (const ShownFigure& figure : shownFigures(*window.content()))
-        if (figure.name == control)
-            return figure.text;
-    return "no such control";
+std::string lastTen(const TeamStats& window) {
+    return teamfigures::LastTenGames.text(*window.content());
+}
+
+/// The row of heads and the row of figures of a table with these columns.
+std::string tableRows(const std::vector<std::pair<std::string, std::string>>& columns) {
+    std::string heads = "<tr>";
+    std::string cells;
+    for (const auto& [head, figure] : columns) {
+        heads += "<th><b>" + head + "</b></th>";
+        cells += (cells.empty() ? "<tr><td><center>" : "</center></td><td><center>") + figure;
+    }
+    return heads + "</tr>\r\n" + cells + "</center></td></tr>\r\n";
 }
 
 void choose(TeamStats& window, TeamIndex team) {
@@ -37,24 +47,23 @@ TEST(TeamStats, ShowsAnUntouchedTeamWithZeros) {
     EXPECT_FALSE(window.content()) << "the prompt of the list is no team";
 
     choose(window, Boston);
-    EXPECT_EQ(shown(window, "Wins"), "0");
-    EXPECT_EQ(shown(window, "Streak"), " 0");
-    EXPECT_EQ(shown(window, "AttZonePG"), "0");
-    EXPECT_EQ(shown(window, "ArenaMeter"), "80");
-    EXPECT_EQ(shown(window, "LeagueMeter"), "80");
+    const TeamView& view = *window.content();
+    EXPECT_EQ(teamfigures::Record[0].text(view), "0 - 0 - 0");
+    EXPECT_EQ(teamfigures::CurrentStreak.text(view), " 0");
+    EXPECT_EQ(teamfigures::FurtherAverages[1].text(view), "0");
+    EXPECT_EQ(teamfigures::Crowd[0].text(view), "80");
+    EXPECT_EQ(teamfigures::Crowd[1].text(view), "80");
 }
 
-TEST(TeamStats, CountsTheLastTenAtDisplay) {
+TEST(TeamStats, CountsTheLinesAfterAllButTenGamesAtMostTen) {
     struct Case {
         int games;
         const char* results;
-        const char* wins;
-        const char* losses;
-        const char* ties;
+        const char* shown;
     };
-    for (const Case& each : {Case{3, "WLT", "1", "1", "1"}, Case{10, "WWWWWLLLLT", "5", "4", "1"},
-                             Case{12, "WWLLLLLLLLLT", "0", "9", "1"}, Case{3, "WL", "1", "1", "0"},
-                             Case{2, "WLLLLLLLLTWWW", "1", "8", "1"}, Case{12, "WWLT", "0", "1", "1"}}) {
+    for (const Case& each : {Case{3, "WLT", "1 - 1 - 1"}, Case{10, "WWWWWLLLLT", "5 - 4 - 1"},
+                             Case{12, "WWLLLLLLLLLT", "0 - 9 - 1"}, Case{3, "WL", "1 - 1 - 0"},
+                             Case{2, "WLLLLLLLLTWWW", "1 - 8 - 1"}, Case{12, "WWLT", "0 - 1 - 1"}}) {
         TestLeague league;
         TeamRecord record;
         record.GameCount = each.games;
@@ -63,9 +72,7 @@ TEST(TeamStats, CountsTheLastTenAtDisplay) {
         TeamStats& window = open(league);
         choose(window, Boston);
         choose(window, Boston);
-        EXPECT_EQ(shown(window, "L10W"), each.wins) << each.results;
-        EXPECT_EQ(shown(window, "L10L"), each.losses) << each.results;
-        EXPECT_EQ(shown(window, "L10T"), each.ties) << each.results;
+        EXPECT_EQ(lastTen(window), each.shown) << each.results;
     }
 }
 
@@ -79,6 +86,83 @@ TEST(TeamStats, RefusesAResultListWithoutTheLinesToSkip) {
     EXPECT_THROW(choose(window, Boston), FileError);
 }
 
+TEST(TeamStats, EveryFigureIsUnderItsHeadingOnThePage) {
+    TeamView view;
+    view.record = numberedRecord<TeamRecord>();
+    view.record.AttZonePG = "1:34";
+    view.streak = {"L", 201};
+    view.lastTen = {202, 203, 204};
+    view.LeagueMeter = 205;
+    const std::string season = teamTables(view, CrowdColumns::No);
+    std::vector<std::pair<std::string, std::string>> record{{"W - L - T", "1 - 2 - 3"},
+                                                            {"Pts.", "4"},
+                                                            {"Win%", "5.5"},
+                                                            {"GP", "6"},
+                                                            {"GF", "7"},
+                                                            {"GA", "8"},
+                                                            {"GFA", "9.5"},
+                                                            {"GAA", "10.5"},
+                                                            {"Diff", "11.5"},
+                                                            {"Pow.Rank", "12.5"},
+                                                            {"Streak", "L201"},
+                                                            {"Last 10", "202 - 203 - 204"}};
+    EXPECT_THAT(season, testing::StartsWith("<table border = 1>" + tableRows(record) + "</table>\r\n"));
+    EXPECT_THAT(season,
+                HasSubstr("<tr><th colspan = 3>Overtime Stats</th></tr>" +
+                          tableRows({{"W - L - T", "40 - 41 - 42"}, {"Win%", "43.5"}, {"GP", "44"}})));
+    EXPECT_THAT(season, HasSubstr("<tr><th colspan = 9>Home Stats</th></tr>" +
+                                  tableRows({{"W - L - T", "15 - 16 - 17"},
+                                             {"Win%", "19.5"},
+                                             {"GP", "18"},
+                                             {"GF", "20"},
+                                             {"GA", "21"},
+                                             {"GFA", "22.5"},
+                                             {"GAA", "23.5"},
+                                             {"Diff", "24.5"},
+                                             {"Pow.Rank", "25.5"}})));
+    EXPECT_THAT(season, HasSubstr("<tr><th colspan = 9>Away Stats</th></tr>" +
+                                  tableRows({{"W - L - T", "26 - 27 - 28"},
+                                             {"Win%", "30.5"},
+                                             {"GP", "29"},
+                                             {"GF", "31"},
+                                             {"GA", "32"},
+                                             {"GFA", "33.5"},
+                                             {"GAA", "34.5"},
+                                             {"Diff", "35.5"},
+                                             {"Pow.Rank", "36.5"}})));
+    EXPECT_THAT(season, HasSubstr("<tr><th colspan = 21>Season Totals</th></tr>" +
+                                  tableRows({{"SOG", "45"},
+                                             {"S%", "49.5"},
+                                             {"SOGA", "47"},
+                                             {"PPG/PPA", "50 / 52"},
+                                             {"PP%", "54.5"},
+                                             {"Pen/PIM", "60 / 62.5"},
+                                             {"PenA/PIMA", "64.5 / 66.5"}}) +
+                                  "</table>\r\n<table border = 1>" +
+                                  tableRows({{"PKG/PKO", "68 / 70"},
+                                             {"PK%", "72.5"},
+                                             {"FOW/FOT", "95 / 97"},
+                                             {"FOW%", "99.5"},
+                                             {"ByCks", "100"},
+                                             {"PsC/PsA", "102 / 104"},
+                                             {"PsAcc%", "106.5"}})));
+    EXPECT_THAT(season, HasSubstr("<tr><th colspan = 21>Season Averages</th></tr>" +
+                                  tableRows({{"SOG", "46.5"},
+                                             {"SOGA", "48.5"},
+                                             {"PPG/PPA", "51.5 / 53.5"},
+                                             {"Pen/PIM", "61.5 / 63.5"},
+                                             {"PenA/PIMA", "65.5 / 67.5"}}) +
+                                  "</table>\r\n<table border = 1>" +
+                                  tableRows({{"PKG/PKO", "69.5 / 71.5"},
+                                             {"Att.Zone", "1:34"},
+                                             {"FOW/FOT", "96.5 / 98.5"},
+                                             {"ByCks", "101.5"},
+                                             {"PsC/PsA", "103.5 / 105.5"}})));
+
+    record.insert(record.end(), {{"Arena dB Rec.", "107.5"}, {"League dB Rec.", "205"}});
+    EXPECT_THAT(teamTables(view, CrowdColumns::Yes), HasSubstr(tableRows(record)));
+}
+
 TEST(TeamStats, WritesAPageForEveryTeamOnlyWhilePagesAreMade) {
     TestLeague league;
     choose(open(league), Boston);
@@ -90,8 +174,6 @@ TEST(TeamStats, WritesAPageForEveryTeamOnlyWhilePagesAreMade) {
     record.Losses = 5;
     record.WinPercent = 0.583;
     record.Diff = -0.25;
-    record.PPG = 3;
-    record.PPA = 11;
     record.ArenaMeter = 97;
     league.setRecord(StLouis, PartOfYear::Season, record);
     league.setRecord(StLouis, PartOfYear::Playoffs, record);
@@ -111,22 +193,14 @@ TEST(TeamStats, WritesAPageForEveryTeamOnlyWhilePagesAreMade) {
         HasSubstr(
             "MTL.gif\"></img></a><a href=\"./NJ.htm\"><img src=\"../LogoMinis/NJ.gif\"></img></a></p>\r\n"
             "<p><a href=\"./NYR.htm\">"));
-    EXPECT_THAT(
-        page,
-        HasSubstr("<tr><td><center>7 - 5 - 0</center></td><td><center>0</center></td><td><center>0.583"));
+    EXPECT_THAT(page, HasSubstr("<tr><td><center>7 - 5 - 0</center></td><td><center>0</center></td><td>"
+                                "<center>0.583</center></td>"));
     EXPECT_THAT(page, HasSubstr("<td><center>-0.25</center></td>"));
-    EXPECT_THAT(page, HasSubstr("<td><center>L1</center></td><td><center>0 - 0 - 0</center></td></tr>"));
-    EXPECT_THAT(page, HasSubstr("<tr><th colspan = 21>Season Totals</th></tr>"));
-    EXPECT_THAT(page, HasSubstr("<td><center>3 / 11</center></td>"));
-    EXPECT_THAT(page, Not(HasSubstr("Arena dB Rec.")));
     EXPECT_TRUE(page.ends_with("</table><BR><BR></font></center></body></html>\r\n"));
 
     open(league, WindowId::PlayoffTeamStats);
     const std::string playoffs = league.page("PlayoffTStats/STL.htm");
     EXPECT_THAT(playoffs, HasSubstr("<title> Rinkstar - Playoff Team Stats</title>"));
-    EXPECT_THAT(
-        playoffs,
-        HasSubstr("<th><b>Last 10</b></th><th><b>Arena dB Rec.</b></th><th><b>League dB Rec.</b></th></tr>"));
     EXPECT_THAT(playoffs, HasSubstr("<td><center>97</center></td><td><center>80</center></td></tr>"));
     EXPECT_THAT(playoffs, HasSubstr("<td><center>0</center></td><td><center>0 - 0 - 0</center></td>"))
         << "before any game the streak is a bare 0";
