@@ -9,10 +9,11 @@ namespace {
 
 using Align = TextTable::Align;
 
-TextTable playerTable(const std::string& title, std::span<const PlayerColumn> columns,
+template <class Stats, std::size_t Columns>
+TextTable playerTable(const std::string& title, const std::array<PlayerColumn<Stats>, Columns>& columns,
                       const std::vector<PlayerTableRow>& rows) {
     std::vector<TextTable::Column> heads{{title, Align::Left}};
-    for (const PlayerColumn& column : columns)
+    for (const PlayerColumn<Stats>& column : columns)
         heads.push_back({std::string(column.caption)});
     TextTable table(heads);
     for (const PlayerTableRow& row : rows) {
@@ -23,9 +24,9 @@ TextTable playerTable(const std::string& title, std::span<const PlayerColumn> co
     return table;
 }
 
-TextTable leaderTable(const std::vector<PlayerStats::Leader>& leaders) {
+TextTable leaderTable(const std::vector<TeamLeader>& leaders) {
     TextTable table({{"Team Leaders", Align::Left}, {"", Align::Left}, {""}});
-    for (const PlayerStats::Leader& leader : leaders)
+    for (const TeamLeader& leader : leaders)
         table.addRow({std::string(leader.heading), leader.Name, leader.value});
     return table;
 }
@@ -43,9 +44,9 @@ void printPlayerStats(const PlayerStats& window, std::ostream& out) {
         printTeamList("Select Team Here", out);
         return;
     }
-    out << TeamName[window.PlayersTeamSelect] << "\n\n"
-        << playerTable("Forwards / Defensemen", skaterColumns(), window.content().skaters) << '\n'
-        << playerTable("Goalies", goalieColumns(), window.content().goalies) << '\n'
+    out << TeamName[TeamIndex(window.PlayersTeamSelect)] << "\n\n"
+        << playerTable("Forwards / Defensemen", SkaterColumns, window.content().skaters) << '\n'
+        << playerTable("Goalies", GoalieColumns, window.content().goalies) << '\n'
         << leaderTable(window.content().leaders);
 }
 
@@ -54,7 +55,7 @@ void printPlayerProfiles(const PlayerProfiles& window, std::ostream& out) {
         printTeamList("Select Team Here", out);
         return;
     }
-    out << TeamName[window.PlayersTeamSelect] << "\n\nSelect Player Here\n";
+    out << TeamName[TeamIndex(window.PlayersTeamSelect)] << "\n\nSelect Player Here\n";
     for (const RosterRow& row : window.content().roster)
         out << "  " << row.Name << '\n';
 }

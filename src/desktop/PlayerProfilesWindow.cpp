@@ -1,6 +1,5 @@
 #include "desktop/PlayerProfilesWindow.h"
 
-#include "desktop/Controls.h"
 #include "desktop/Pictures.h"
 #include "desktop/QtPlatform.h"
 
@@ -9,60 +8,11 @@
 #include <QGroupBox>
 #include <QVBoxLayout>
 
-#include <vector>
-
 namespace iceline::desktop {
 
 namespace {
 
 constexpr int PortraitSize = 200;
-
-struct FigureCell {
-    const char* head;
-    const char* control;
-};
-
-const std::vector<FigureCell> SkaterTotals{{"GP", "PlyrGP"},    {"G", "PlyrG"},     {"A", "PlyrA"},
-                                           {"Pts.", "PlyrPts"}, {"SOG", "PlyrSOG"}, {"S%", "PlyrSPct"},
-                                           {"PIM", "PlyrPIM"},  {"PP", "PlyrPP"},   {"SH", "PlyrSH"}};
-const std::vector<FigureCell> SkaterAverages{{"Pow. Rnkg", "PlyrPowRanking"},
-                                             {"GPG", "PlyrGPG"},
-                                             {"APG", "PlyrAPG"},
-                                             {"PPG", "PlyrPPG"},
-                                             {"SPG", "PlyrSOGPG"},
-                                             {"PIMG", "PlyrPIMPG"},
-                                             {"3 Star Pts.", "Plyr3Star"}};
-const std::vector<FigureCell> GoalieFigures{{"Pow.Rnkg", "GoaliePowRanking"},
-                                            {"GP", "GoalieGP"},
-                                            {"W", "GoalieW"},
-                                            {"L", "GoalieL"},
-                                            {"T", "GoalieT"},
-                                            {"GAA", "GoalieGAA"},
-                                            {"Save%", "GoalieSavePct"},
-                                            {"SHO", "GoalieShutouts"},
-                                            {"SF", "ShotsFaced"},
-                                            {"GA", "GoalsAgainst"},
-                                            {"A", "GoalieA"},
-                                            {"3 Star Pts.", "Goalie3Star"}};
-
-void addFigures(QGroupBox* box, QGridLayout* grid, int row, const std::vector<FigureCell>& cells) {
-    int column = 0;
-    for (const FigureCell& cell : cells) {
-        grid->addWidget(headLabel(QLatin1String(cell.head), box, Qt::AlignCenter), row, column);
-        QLabel* figure = figureLabel(QLatin1String(cell.control), box);
-        figure->setAlignment(Qt::AlignCenter);
-        grid->addWidget(figure, row + 1, column);
-        grid->setColumnMinimumWidth(column++, 64);
-    }
-}
-
-QLabel* addFact(QGridLayout* grid, QWidget* parent, const QString& caption, const char* control) {
-    const int row = grid->rowCount();
-    grid->addWidget(headLabel(caption, parent, Qt::AlignLeft), row, 0);
-    QLabel* fact = textLabel(QLatin1String(control), parent);
-    grid->addWidget(fact, row, 1);
-    return fact;
-}
 
 } // namespace
 
@@ -75,17 +25,61 @@ PlayerProfilesWindow::PlayerProfilesWindow(Application& application, WindowId id
     rows->addLayout(makeChoices());
     rows->addLayout(makeTeam());
     rows->addLayout(makePlayer());
-    skaterFrame_ = frame("RegularFrame", QStringLiteral("Skater"), this);
-    auto* skater = new QGridLayout(skaterFrame_);
-    addFigures(skaterFrame_, skater, 0, SkaterTotals);
-    addFigures(skaterFrame_, skater, 2, SkaterAverages);
+    skaterFrame_ = makeFigures("RegularFrame", QStringLiteral("Skater"), SkaterProfileLines);
     rows->addWidget(skaterFrame_);
-    goalieFrame_ = frame("GoalieFrame", QStringLiteral("Goalie"), this);
-    addFigures(goalieFrame_, new QGridLayout(goalieFrame_), 0, GoalieFigures);
+    goalieFrame_ = makeFigures("GoalieFrame", QStringLiteral("Goalie"), GoalieProfileLines);
     rows->addWidget(goalieFrame_);
     goalieFrame_->hide();
     rows->addStretch();
     follow(object_);
+}
+
+template <class Stats, std::size_t Lines>
+QGroupBox* PlayerProfilesWindow::makeFigures(const char* name, const QString& caption,
+                                             const std::array<ProfileLine<Stats>, Lines>& lines) {
+    QGroupBox* box = frame(name, caption, this);
+    auto* rows = new QVBoxLayout(box);
+    for (const ProfileLine<Stats>& line : lines)
+        rows->addLayout(makeLine(line, box));
+    return box;
+}
+
+/// The heads are one label; each figure begins where its head does.
+template <class Stats>
+QLayout* PlayerProfilesWindow::makeLine(const ProfileLine<Stats>& line, QWidget* parent) {
+    auto* rows = new QVBoxLayout;
+    QLabel* heads = headLabel(toQt(line.heads), parent, Qt::AlignLeft);
+    heads->setObjectName(toQt(line.headsControl));
+    heads->ensurePolished();
+    rows->addWidget(heads);
+    auto* figures = new QGridLayout;
+    figures->setHorizontalSpacing(0);
+    rows->addLayout(figures);
+    const auto left = [heads](std::string_view text) {
+        return heads->fontMetrics().horizontalAdvance(toQt(text));
+    };
+    auto figure = line.figures.begin();
+    int column = 0;
+    forEachHead(line.heads, [&](std::size_t begin, std::string_view head) {
+        auto* cell = new QHBoxLayout;
+        cell->setSpacing(4);
+        do {
+            if (!figure->dash.empty()) {
+                QLabel* dash = headLabel(QStringLiteral("-"), parent);
+                dash->setObjectName(toQt(figure->dash));
+                cell->addWidget(dash);
+            }
+            cell->addWidget(figures_.add(figureLabel(toQt(figure->control), parent)));
+            ++figure;
+        } while (figure != line.figures.end() && !figure->dash.empty());
+        cell->addStretch();
+        const std::size_t next = line.heads.find_first_not_of(' ', begin + head.size());
+        figures->addLayout(cell, 0, column);
+        figures->setColumnMinimumWidth(column++,
+                                       left(line.heads.substr(0, next)) - left(line.heads.substr(0, begin)));
+    });
+    figures->setColumnStretch(column, 1);
+    return rows;
 }
 
 QLayout* PlayerProfilesWindow::makeChoices() {
@@ -123,8 +117,11 @@ QLayout* PlayerProfilesWindow::makeChoices() {
 QLayout* PlayerProfilesWindow::makeTeam() {
     auto* row = new QHBoxLayout;
     row->addStretch();
-    for (const char* name : {"PlayersTeamLogo", "PlayersTeamName", "PlayersTeamLogo2"})
-        row->addWidget(pictureLabel(QLatin1String(name), this));
+    logo_ = pictureLabel(QStringLiteral("PlayersTeamLogo"), this);
+    name_ = pictureLabel(QStringLiteral("PlayersTeamName"), this);
+    logo2_ = pictureLabel(QStringLiteral("PlayersTeamLogo2"), this);
+    for (QLabel* picture : {logo_, name_, logo2_})
+        row->addWidget(picture);
     row->addStretch();
     return row;
 }
@@ -135,26 +132,37 @@ QLayout* PlayerProfilesWindow::makePlayer() {
     portrait_->setFixedSize(PortraitSize, PortraitSize);
     row->addWidget(portrait_);
     auto* facts = new QGridLayout;
-    QLabel* name = textLabel(QStringLiteral("PlyrName"), this);
-    name->setProperty("role", QStringLiteral("title"));
-    facts->addWidget(name, 0, 0, 1, 2);
-    addFact(facts, this, QStringLiteral("#"), "PlyrNum");
-    addFact(facts, this, QStringLiteral("Position"), "Label1");
-    addFact(facts, this, QStringLiteral("Overall Rating"), "PlyrOverall");
+    playerName_ = textLabel(QStringLiteral("PlyrName"), this);
+    playerName_->setProperty("role", QStringLiteral("title"));
+    facts->addWidget(playerName_, 0, 0, 1, 2);
+    number_ = addFact(facts, "", QStringLiteral("#"), "PlyrNum");
+    position_ = addFact(facts, "Text2", QStringLiteral("Position"), "Label1");
+    overall_ = addFact(facts, "Text1", QStringLiteral("Overall Rating"), "PlyrOverall");
     facts->setColumnStretch(1, 1);
     facts->setRowStretch(facts->rowCount(), 1);
     row->addLayout(facts, 1);
     return row;
 }
 
+QLabel* PlayerProfilesWindow::addFact(QGridLayout* grid, const char* captionName, const QString& caption,
+                                      const char* control) {
+    const int row = grid->rowCount();
+    QLabel* head = headLabel(caption, this, Qt::AlignLeft);
+    head->setObjectName(QLatin1String(captionName));
+    grid->addWidget(head, row, 0);
+    QLabel* fact = textLabel(QLatin1String(control), this);
+    grid->addWidget(fact, row, 1);
+    return fact;
+}
+
 void PlayerProfilesWindow::refresh() {
     const PlayerProfiles::Content& content = object_.content();
-    const TeamIndex team(object_.PlayersTeamSelect);
-    teams_->setCurrentIndex(team.number());
-    if (team.number() != PlayerProfiles::NotChosen) {
-        findChild<QLabel*>(QStringLiteral("PlayersTeamName"))->setPixmap(pictures::teamNameBig(team));
-        for (const char* logo : {"PlayersTeamLogo", "PlayersTeamLogo2"})
-            findChild<QLabel*>(QLatin1String(logo))->setPixmap(pictures::teamLogo(team));
+    teams_->setCurrentIndex(object_.PlayersTeamSelect);
+    if (object_.PlayersTeamSelect != PlayerProfiles::NotChosen) {
+        const TeamIndex team(object_.PlayersTeamSelect);
+        name_->setPixmap(pictures::teamNameBig(team));
+        logo_->setPixmap(pictures::teamLogo(team));
+        logo2_->setPixmap(pictures::teamLogo(team));
     }
     players_->clear();
     for (const RosterRow& row : content.roster)
@@ -165,13 +173,13 @@ void PlayerProfilesWindow::refresh() {
 }
 
 void PlayerProfilesWindow::showPlayer(const PlayerProfiles::Player& player) {
-    setText(this, "PlyrName", player.row.Name);
-    setText(this, "PlyrNum", std::to_string(player.row.Number));
-    setText(this, "PlyrOverall", std::to_string(player.row.Rating));
-    setText(this, "Label1", player.row.Position);
+    playerName_->setText(toQt(player.row.Name));
+    number_->setText(QString::number(player.row.Number));
+    overall_->setText(QString::number(player.row.Rating));
+    position_->setText(toQt(player.row.Position));
     portrait_->setPixmap(portrait(player));
     for (const PlayerProfiles::Figure& figure : player.figures)
-        findChild<QLabel*>(toQt(figure.name))->setText(toQt(figure.text));
+        setText(figures_, figure.name, figure.text);
     goalieFrame_->setVisible(player.row.isGoalie());
     skaterFrame_->setVisible(!player.row.isGoalie());
 }

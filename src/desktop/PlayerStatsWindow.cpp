@@ -12,48 +12,35 @@ namespace iceline::desktop {
 
 namespace {
 
-constexpr int SkaterRows = 23;
-constexpr int GoalieRows = 4;
+/// Room for the team's pictures, so that the window keeps its size when they come.
+constexpr QSize LogoSize(64, 64);
+constexpr QSize BannerSize(360, 64);
 
-/// Headings of the leaders in the window, with the labels of their figures.
-struct LeaderCaption {
-    const char* heading;
-    const char* text;
-    const char* control;
-};
-
-constexpr LeaderCaption LeaderCaptions[] = {
-    {"Text4", "Goals", "PlayerLeaderG"},
-    {"Text5", "Assists", "PlayerLeaderA"},
-    {"Text6", "Points", "PlayerLeaderPts"},
-    {"Text11", "Points Per Game", "PlayerLeaderPPG"},
-    {"Text7", "Power Ranking", "PlayerLeaderPR"},
-    {"Text8", "Penalty Minutes", "PlayerLeaderPIM"},
-    {"Text9", "PP Goals", "PlayerLeaderPP"},
-    {"Text10", "SH Goals", "PlayerLeaderSH"},
-    {"Text13", "Shots on Goal", "PlayerLeaderSOG"},
-    {"Text12", "Shot %", "PlayerLeaderSPct"},
-};
-
-/// Where the name stands among the columns as they are shown: behind position and number.
-constexpr int ShownNameColumn = 2;
-
-int shownColumn(int column) {
-    return column == NameColumn ? ShownNameColumn : column < ShownNameColumn ? column : column + 1;
+/// The column of the layout for a column of figures: after that of the row numbers, and leaving one for the
+/// name.
+int layoutColumn(std::size_t column) {
+    return static_cast<int>(column < ColumnsBeforeName ? column + 1 : column + 2);
 }
+constexpr int NameLayoutColumn = static_cast<int>(ColumnsBeforeName) + 1;
 
 } // namespace
 
 PlayerStatsWindow::PlayerStatsWindow(Application& application, WindowId id, PlayerStats& object)
     : LeagueWindow(application, id), object_(object) {
-    auto* rows = new QVBoxLayout(this);
+    auto* outer = new QVBoxLayout(this);
+    QGroupBox* box = frame("Frame8", QStringLiteral("Player Stats"), this);
+    outer->addWidget(box);
+    auto* rows = new QVBoxLayout(box);
     rows->addLayout(makeHead());
     auto* columns = new QHBoxLayout;
     auto* tables = new QVBoxLayout;
-    tables->addWidget(makeTable(skaters_, "Frame1", QStringLiteral("Forwards / Defensemen"), "PlayerStats",
-                                skaterColumns(), SkaterRows, &PlayerStats::PlayerStatsN_Click));
-    tables->addWidget(makeTable(goalies_, "Frame2", QStringLiteral("Goalies"), "GPlayerStats",
-                                goalieColumns(), GoalieRows, &PlayerStats::GPlayerStatsN_Click));
+    tables->addWidget(makeTable<SkaterStats>(
+        skaters_,
+        {"Frame1", "Forwards / Defensemen", "Text2", "PlayerStats", 23, &PlayerStats::PlayerStatsN_Click},
+        SkaterColumns));
+    tables->addWidget(makeTable<GoalieStats>(
+        goalies_, {"Frame2", "Goalies", "Text3", "GPlayerStats", 4, &PlayerStats::GPlayerStatsN_Click},
+        GoalieColumns));
     tables->addStretch();
     columns->addLayout(tables, 1);
     columns->addWidget(makeLeaders());
@@ -77,63 +64,87 @@ QLayout* PlayerStatsWindow::makeHead() {
     });
     row->addWidget(teams_);
     row->addStretch();
-    const auto addPicture = [&](const char* name) {
+    const auto addPicture = [&](const char* name, QSize size) {
         QLabel* picture = pictureLabel(QLatin1String(name), this);
+        picture->setFixedSize(size);
         row->addWidget(picture);
         return picture;
     };
-    logo_ = addPicture("PlayersTeamLogo");
-    name_ = addPicture("PlayersTeamName");
-    logo2_ = addPicture("PlayersTeamLogo2");
+    logo_ = addPicture("PlayersTeamLogo", LogoSize);
+    name_ = addPicture("PlayersTeamName", BannerSize);
+    logo2_ = addPicture("PlayersTeamLogo2", LogoSize);
     row->addStretch();
     row->addWidget(exitButton("Command2", this));
     return row;
 }
 
-QGroupBox* PlayerStatsWindow::makeTable(Table& table, const char* frameName, const QString& caption,
-                                        const char* arrayStem, std::span<const PlayerColumn> columns,
-                                        int rows, void (PlayerStats::*click)(int)) {
-    QGroupBox* box = frame(frameName, caption, this);
+template <class Stats>
+QGroupBox* PlayerStatsWindow::makeTable(Table& table, const TableForm& form,
+                                        std::span<const PlayerColumn<Stats>> columns) {
+    QGroupBox* box = frame(form.frame, QLatin1String(form.caption), this);
     auto* grid = new QGridLayout(box);
     grid->setContentsMargins(6, 2, 6, 2);
     grid->setHorizontalSpacing(2);
     grid->setVerticalSpacing(0);
-    const QString stem = QLatin1String(arrayStem);
-    for (int row = 0; row < rows; ++row)
-        grid->addWidget(headLabel(QString::number(row + 1), box), row + 1, 0);
-    for (int column = 0; column <= NameColumn; ++column) {
-        const bool isName = column == NameColumn;
-        const QString head = isName ? QStringLiteral("Name") : toQt(columns[column].caption);
-        const QString control = isName ? stem + QStringLiteral("Name") : toQt(columns[column].control);
-        auto* button = new SortHead(element((stem + QLatin1Char('N')).toLatin1(), column), head, box);
-        connect(button, &QPushButton::clicked, this,
-                [this, click, column] { run([this, click, column] { (object_.*click)(column); }); });
-        table.heads.push_back(button);
-        grid->addWidget(button, 0, shownColumn(column) + 1);
-        auto& labels = table.columns.emplace_back();
-        for (int row = 0; row < rows; ++row) {
-            const QString name = element(control.toLatin1(), row);
-            labels.push_back(isName ? textLabel(name, box) : figureLabel(name, box));
-            grid->addWidget(labels.back(), row + 1, shownColumn(column) + 1);
-        }
+    for (const PlayerColumn<Stats>& column : columns) {
+        const int place = layoutColumn(table.heads.size());
+        addColumn(table, grid, form, toQt(column.caption), toQt(column.control), place);
     }
-    grid->setColumnMinimumWidth(ShownNameColumn + 1, 170);
-    grid->setColumnStretch(ShownNameColumn + 1, 1);
+    addColumn(table, grid, form, QStringLiteral("Name"), QLatin1String(form.arrays) + QStringLiteral("Name"),
+              NameLayoutColumn);
+    for (QLabel* name : table.columns.back())
+        name->setAlignment(Qt::AlignLeft | Qt::AlignVCenter);
+    addNumbers(grid, form);
+    grid->setColumnMinimumWidth(NameLayoutColumn, 170);
+    grid->setColumnStretch(NameLayoutColumn, 1);
     return box;
+}
+
+/// One label with all row numbers, each on the height of its row.
+void PlayerStatsWindow::addNumbers(QGridLayout* grid, const TableForm& form) {
+    QStringList numbers;
+    for (int row = 1; row <= form.rows; ++row)
+        numbers.append(QString::number(row));
+    QLabel* label =
+        headLabel(numbers.join(QLatin1Char('\n')), grid->parentWidget(), Qt::AlignRight | Qt::AlignTop);
+    label->setObjectName(QLatin1String(form.numbers));
+    label->ensurePolished();
+    grid->addWidget(label, 1, 0, form.rows, 1);
+    for (int row = 1; row <= form.rows; ++row)
+        for (int column = 1; column < grid->columnCount(); ++column)
+            grid->itemAtPosition(row, column)->widget()->setFixedHeight(label->fontMetrics().lineSpacing());
+}
+
+void PlayerStatsWindow::addColumn(Table& table, QGridLayout* grid, const TableForm& form,
+                                  const QString& caption, const QString& labels, int place) {
+    QWidget* box = grid->parentWidget();
+    const int index = static_cast<int>(table.heads.size());
+    const QString heads = QLatin1String(form.arrays) + QLatin1Char('N');
+    auto* head = new SortHead(element(heads.toLatin1(), index), caption, box);
+    connect(head, &QPushButton::clicked, this,
+            [this, click = form.click, index] { run([this, click, index] { (object_.*click)(index); }); });
+    table.heads.push_back(head);
+    grid->addWidget(head, 0, place);
+    auto& column = table.columns.emplace_back();
+    for (int row = 0; row < form.rows; ++row) {
+        column.push_back(figureLabel(element(labels.toLatin1(), row), box));
+        grid->addWidget(column.back(), row + 1, place);
+    }
 }
 
 QGroupBox* PlayerStatsWindow::makeLeaders() {
     QGroupBox* box = frame("Frame3", QStringLiteral("Team Leaders"), this);
     auto* column = new QVBoxLayout(box);
-    for (const LeaderCaption& leader : LeaderCaptions) {
-        QLabel* heading = headLabel(QLatin1String(leader.text), box, Qt::AlignLeft);
-        heading->setObjectName(QLatin1String(leader.heading));
-        column->addWidget(heading);
+    for (const LeaderCategory& category : LeaderCategories) {
+        QLabel* caption = headLabel(toQt(category.caption), box, Qt::AlignLeft);
+        caption->setObjectName(toQt(category.captionControl));
+        column->addWidget(caption);
         auto* line = new QHBoxLayout;
-        QLabel* name = textLabel(QLatin1String(leader.control) + QStringLiteral("Name"), box);
+        const QString control = toQt(category.control);
+        QLabel* name = leaders_.add(textLabel(control + QStringLiteral("Name"), box));
         name->setMinimumWidth(150);
         line->addWidget(name, 1);
-        line->addWidget(figureLabel(QLatin1String(leader.control), box));
+        line->addWidget(leaders_.add(figureLabel(control, box)));
         column->addLayout(line);
     }
     column->addStretch();
@@ -141,11 +152,12 @@ QGroupBox* PlayerStatsWindow::makeLeaders() {
 }
 
 void PlayerStatsWindow::refresh() {
-    const TeamIndex team(object_.PlayersTeamSelect);
-    teams_->setCurrentIndex(team.number());
-    if (team.number() != PlayerStats::NotChosen) {
+    teams_->setCurrentIndex(object_.PlayersTeamSelect);
+    if (object_.PlayersTeamSelect != PlayerStats::NotChosen) {
+        const TeamIndex team(object_.PlayersTeamSelect);
         name_->setPixmap(pictures::teamNameBig(team));
-        logo_->setPixmap(pictures::teamLogo(team).scaledToHeight(64, Qt::SmoothTransformation));
+        logo_->setPixmap(
+            pictures::teamLogo(team).scaledToHeight(LogoSize.height(), Qt::SmoothTransformation));
         logo2_->setPixmap(logo_->pixmap());
     }
     markHeads(skaters_, object_.SkaterSortColumn, object_.SkaterSortAscending);
@@ -156,30 +168,30 @@ void PlayerStatsWindow::refresh() {
 }
 
 void PlayerStatsWindow::markHeads(const Table& table, int column, bool ascending) {
-    for (int each = 0; each <= NameColumn; ++each)
-        table.heads[each]->mark(each != column ? SortMark::None
-                                : ascending    ? SortMark::Ascending
-                                               : SortMark::Descending);
+    const SortHead* sorting = table.heads.at(static_cast<std::size_t>(column));
+    for (SortHead* head : table.heads)
+        head->mark(head != sorting ? SortMark::None : ascending ? SortMark::Ascending : SortMark::Descending);
 }
 
 void PlayerStatsWindow::showRows(const Table& table, const std::vector<PlayerTableRow>& rows) {
+    const std::size_t figures = table.columns.size() - 1;
     for (std::size_t row = 0; row < table.columns.front().size(); ++row) {
-        const PlayerTableRow shown = row < rows.size() ? rows[row] : PlayerTableRow();
-        for (int column = 0; column < NameColumn; ++column)
+        const PlayerTableRow shown =
+            row < rows.size() ? rows[row] : PlayerTableRow{"", std::vector<std::string>(figures)};
+        for (std::size_t column = 0; column < figures; ++column)
             setText(table.columns[column], row, shown.texts[column]);
-        setText(table.columns[NameColumn], row, shown.Name);
+        setText(table.columns.back(), row, shown.Name);
     }
 }
 
 void PlayerStatsWindow::showLeaders() {
-    const auto& leaders = object_.content().leaders;
-    for (const LeaderCaption& caption : LeaderCaptions) {
-        const auto leader = std::ranges::find(leaders, caption.control, &PlayerStats::Leader::control);
-        const bool isKnown = leader != leaders.end();
-        const QString control = QLatin1String(caption.control);
-        findChild<QLabel*>(control)->setText(isKnown ? toQt(leader->value) : QString());
-        findChild<QLabel*>(control + QStringLiteral("Name"))
-            ->setText(isKnown ? toQt(leader->Name) : QString());
+    for (const LeaderCategory& category : LeaderCategories) {
+        setText(leaders_, category.control, "");
+        setText(leaders_, std::string(category.control) + "Name", "");
+    }
+    for (const TeamLeader& leader : object_.content().leaders) {
+        setText(leaders_, leader.control, leader.value);
+        setText(leaders_, std::string(leader.control) + "Name", leader.Name);
     }
 }
 

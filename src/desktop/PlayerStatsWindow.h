@@ -30,14 +30,28 @@ private:
     };
 
     QLayout* makeHead();
-    QGroupBox* makeTable(Table& table, const char* frameName, const QString& caption, const char* arrayStem,
-                         std::span<const PlayerColumn> columns, int rows, void (PlayerStats::*click)(int));
+    /// What sets a table of the window apart: its frame, the label of its row numbers, its arrays and rows.
+    struct TableForm {
+        const char* frame;
+        const char* caption;
+        const char* numbers;
+        const char* arrays; ///< what the names of its arrays begin with
+        int rows;
+        void (PlayerStats::*click)(int);
+    };
+
+    template <class Stats>
+    QGroupBox* makeTable(Table& table, const TableForm& form, std::span<const PlayerColumn<Stats>> columns);
+    void addNumbers(QGridLayout* grid, const TableForm& form);
+    void addColumn(Table& table, QGridLayout* grid, const TableForm& form, const QString& caption,
+                   const QString& labels, int place);
     QGroupBox* makeLeaders();
     void showRows(const Table& table, const std::vector<PlayerTableRow>& rows);
     void markHeads(const Table& table, int column, bool ascending);
     void showLeaders();
 
     PlayerStats& object_;
+    NamedLabels leaders_;
     QComboBox* teams_ = nullptr;
     QLabel* name_ = nullptr;
     QLabel* logo_ = nullptr;

@@ -1,12 +1,8 @@
 #pragma once
 
-#include "league/TeamTable.h"
 #include "players/PlayerTable.h"
 #include "shell/Window.h"
-#include "store/LeaguePaths.h"
-#include "store/PlayerFiles.h"
 
-#include <string>
 #include <vector>
 
 namespace iceline {
@@ -19,18 +15,10 @@ public:
 
     static constexpr int NotChosen = -1;
 
-    /// A team's leader in a category.
-    struct Leader {
-        std::string_view heading;
-        std::string_view control; ///< label of the figure; the name's ends in "Name"
-        std::string Name;
-        std::string value;
-    };
-
     struct Content {
         std::vector<PlayerTableRow> skaters; ///< in the order shown
         std::vector<PlayerTableRow> goalies;
-        std::vector<Leader> leaders; ///< empty while no team is chosen
+        std::vector<TeamLeader> leaders; ///< empty while no team is chosen
     };
 
     void Form_Load() override;
@@ -45,20 +33,20 @@ public:
 
     int PlayersTeamSelect = NotChosen; ///< position in the team list
 
-    /// Sort state: the column from 0 to 13, 13 being the roster's order.
-    int SkaterSortColumn = 2;
-    int TeamGoalieSortColumn = 2;
+    /// The columns that sort at first, the power ranking, and those that mean the roster's order.
+    static constexpr int RankingColumn = skaterColumn("Pow.Rank");
+    static constexpr int SkaterNameColumn = int{SkaterColumns.size()};
+    static constexpr int GoalieNameColumn = int{GoalieColumns.size()};
+
+    /// Sort state: a column of the table, or its name column.
+    int SkaterSortColumn = RankingColumn;
+    int TeamGoalieSortColumn = RankingColumn;
     bool SkaterSortAscending = false;
     bool TeamGoalieSortAscending = false;
 
 private:
-    void writeFragments();
-    void writeOrders(const std::string& stem, const std::vector<std::string>& skaters,
-                     const std::vector<std::string>& goalies);
-
     PartOfYear part_;
-    PlayerTable skaterTable_;
-    PlayerTable goalieTable_;
+    TeamPlayers players_;
     Content content_;
 };
 

@@ -1,21 +1,17 @@
 #include "site/GenerateWebpages.h"
 
 #include "files/FileError.h"
-#include "page/PageFrame.h"
-#include "page/PageNames.h"
-#include "players/PlayerCards.h"
 #include "players/PlayerPages.h"
-#include "players/RosterPages.h"
 #include "shell/Application.h"
 #include "site/ReadCache.h"
 #include "site/SiteTemplate.h"
-#include "store/PlayerFiles.h"
+#include "store/LeaguePaths.h"
 
 namespace iceline {
 
 namespace {
 
-/// The windows in the order in which they write. The standings come twice so that the second time they bear
+/// The windows in the order in which they write. The standings come twice so that the second time they have
 /// the clinch marks worked out by the first; PlayerStats ends the writing mode.
 constexpr std::array WindowsOfRun{
     WindowId::Rankings,
@@ -77,10 +73,14 @@ public:
         for (const WindowId id : WindowsOfRun)
             writePagesOf(id);
         for (const PartOfYear part : {PartOfYear::Season, PartOfYear::Playoffs}) {
-            for (const TeamIndex team : AllLeagueTeams)
-                writeRoster(part, team);
-            for (const TeamIndex team : AllLeagueTeams)
-                writePlayers(part, team);
+            for (const TeamIndex team : AllLeagueTeams) {
+                progress_.next(profilesFolder(part, team) + "/index.htm");
+                writeRosterPage(app_.files(), part, team);
+            }
+            for (const TeamIndex team : AllLeagueTeams) {
+                progress_.next(profilesFolder(part, team) + "/");
+                writePlayerPages(app_.files(), app_.platform(), part, team);
+            }
         }
     }
 
@@ -90,40 +90,6 @@ private:
         app_.state.ShowWindows = false;
         app_.windows().use(id);
         app_.windows().unload(id);
-    }
-
-    /// The team's folder in the site, made when it is missing.
-    std::string profilesOf(PartOfYear part, TeamIndex team) {
-        const std::string folder = part == PartOfYear::Season ? "Profiles/" : "PlayoffProfiles/";
-        app_.files().makeFolder(paths::page(folder + std::string(TeamAbbr[team])));
-        return folder + std::string(TeamAbbr[team]) + "/";
-    }
-
-    void writeRoster(PartOfYear part, TeamIndex team) {
-        const std::string page = profilesOf(part, team) + "index.htm";
-        progress_.next(page);
-        const Roster roster = readRoster(app_.files(), paths::playersList(team));
-        writePage(app_.files(), paths::page(page), rosterPage(team, roster));
-    }
-
-    void writePlayers(PartOfYear part, TeamIndex team) {
-        const std::string folder = profilesOf(part, team);
-        progress_.next(folder);
-        Files& files = app_.files();
-        const Roster roster = readRoster(files, paths::playersList(team));
-        const TeamPlayerStats stats =
-            readPlayerStats(files, paths::teamFile(team, part, paths::PlayerStats), roster);
-        const auto players = listedPlayers(roster);
-        for (std::size_t row = 0; row < players.size(); ++row)
-            writePage(files, paths::page(folder + playerFileName(players[row].Name) + ".htm"),
-                      playerPage(part, team, players[row], stats[row], cardOf(part, players[row])));
-    }
-
-    /// The pages of the play-offs name a player's own card, whether there is one or not.
-    std::string cardOf(PartOfYear part, const RosterRow& player) {
-        return part == PartOfYear::Playoffs
-                   ? player.Name
-                   : playerCard(app_.files(), app_.platform(), player.Name, player.isGoalie());
     }
 
     Application& app_;

@@ -1,7 +1,9 @@
 #include "app/Catalogue.h"
 #include "app/SplashScreen.h"
 #include "desktop/DesktopTest.h"
+#include "desktop/QtPlatform.h"
 #include "season/Options.h"
+#include "support/NumberedRecord.h"
 
 #include <QComboBox>
 #include <QGroupBox>
@@ -39,16 +41,77 @@ TEST_F(LeagueWindowsTest, EveryRowOfTheCatalogueOpensAndClosesItsWindow) {
     }
 }
 
-TEST_F(LeagueWindowsTest, ShowsTheTeamChosen) {
-    TeamRecord record;
-    record.Wins = 4;
-    record.PIMPG = 12.5;
+TEST_F(LeagueWindowsTest, ShowsEveryTeamFigureInTheLabelOfItsField) {
+    auto record = test::numberedRecord<TeamRecord>();
+    record.GameCount = 0;
     league.setRecord(Boston, PartOfYear::Playoffs, record);
+    league.setResults(Boston, PartOfYear::Playoffs, "WWWLLT");
     LeagueWindow& window = open(WindowId::PlayoffTeamStats);
-    choose(window, "TeamSelect", Boston);
-    EXPECT_EQ(text(window, "Wins"), "4");
-    EXPECT_EQ(text(window, "PIMPG"), "12.5");
-    EXPECT_EQ(text(window, "ArenaMeter"), "80");
+    choose(window, "TeamSelect", Boston.number());
+    int place = 0;
+    int shown = 0;
+    for (const Field<TeamRecord>& field : fieldsOf<TeamRecord>()) {
+        ++place;
+        const bool isWhole = std::holds_alternative<int TeamRecord::*>(field.member);
+        const bool isReal = std::holds_alternative<double TeamRecord::*>(field.member);
+        const auto* label = window.findChild<QLabel*>(toQt(field.name));
+        if (!label || field.name.starts_with("L10") || !(isWhole || isReal))
+            continue;
+        EXPECT_EQ(label->text().toStdString(), std::to_string(place) + (isReal ? ".5" : "")) << field.name;
+        ++shown;
+    }
+    EXPECT_EQ(shown, 75);
+    EXPECT_EQ(text(window, "AttZonePG"), "0");
+    EXPECT_EQ(text(window, "L10W") + text(window, "L10L") + text(window, "L10T"), "321");
+    EXPECT_EQ(text(window, "LeagueMeter"), "80");
+    for (const char* caption : {"Text2", "Text7"})
+        EXPECT_EQ(text(window, caption), "(Averages Per Game)");
+    for (const char* caption : {"Text13", "Text14"})
+        EXPECT_EQ(text(window, caption), "(Totals)");
+    EXPECT_EQ(text(window, "Text16"), "Crowd Meter Records:");
+    EXPECT_EQ(text(window, "Text42"), "Power Ranking:");
+}
+
+TEST_F(LeagueWindowsTest, ShowsEveryFigureOfAPlayerInItsLabel) {
+    Roster roster;
+    roster[0] = {"Gil Keeper", 31, 80, "G"};
+    roster[1] = {"Ann First", 99, 70, "F"};
+    league.setRoster(Boston, roster);
+    league.setPlayerStats(Boston, PartOfYear::Season, 0, test::numberedRecord<GoalieStats>());
+    league.setPlayerStats(Boston, PartOfYear::Season, 1, test::numberedRecord<SkaterStats>());
+    const auto shown = [](QWidget& window, std::initializer_list<const char*> names) {
+        std::string texts;
+        for (const char* name : names)
+            texts += text(window, name) + " ";
+        return texts;
+    };
+    LeagueWindow& table = open(WindowId::PlayerStats);
+    choose(table, "PlayersTeamSelect", Boston.number());
+    EXPECT_EQ(shown(table, {"PlayerStatsPos(0)", "PlayerStatsNumber(0)", "PlayerStatsName(0)",
+                            "PlayerStatsPR(0)", "PlayerStatsG(0)", "PlayerStatsA(0)", "PlayerStatsPts(0)",
+                            "PlayerStatsPPG(0)", "PlayerStatsSPct(0)", "PlayerStatsSOG(0)",
+                            "PlayerStatsPP(0)", "PlayerStatsSH(0)", "PlayerStatsPIM(0)", "PlayerStatsGP(0)"}),
+              "F 99 Ann First 15.5 2 4 6 7.5 10.5 8 12 13 11 1 ");
+    EXPECT_EQ(
+        shown(table, {"GPlayerStatsPos(0)", "GPlayerStatsNumber(0)", "GPlayerStatsName(0)",
+                      "GPlayerStatsPR(0)", "GPlayerStatsW(0)", "GPlayerStatsL(0)", "GPlayerStatsT(0)",
+                      "GPlayerStatsGAA(0)", "GPlayerStatsSVPct(0)", "GPlayerStatsSHO(0)", "GPlayerStatsSF(0)",
+                      "GPlayerStatsGA(0)", "GPlayerStatsA(0)", "GPlayerStatsGP(0)"}),
+        "G 31 Gil Keeper 1.55 5 6 7 9.5 10.5 3 8 2 4 1 ");
+    EXPECT_EQ(text(table, "Text3"), "1\n2\n3\n4");
+
+    LeagueWindow& profile = open(WindowId::PlayerProfiles);
+    choose(profile, "PlayersTeamSelect", Boston.number());
+    choose(profile, "PlayersNameSelect", 1);
+    EXPECT_EQ(shown(profile, {"PlyrNum", "PlyrOverall", "Label1", "PlyrGP", "PlyrG", "PlyrGPG", "PlyrA",
+                              "PlyrAPG", "PlyrPts", "PlyrPPG", "PlyrSOG", "PlyrSOGPG", "PlyrSPct", "PlyrPIM",
+                              "PlyrPP", "PlyrSH", "PlyrPIMPG", "PlyrPowRanking", "Plyr3Star"}),
+              "99 70 F 1 2 3.5 4 5.5 6 7.5 8 9.5 10.5 11 12 13 14.5 15.5 16 ");
+    choose(profile, "PlayersNameSelect", 0);
+    EXPECT_EQ(shown(profile, {"GoalieGP", "GoalieW", "Text4", "GoalieL", "Text5", "GoalieT", "GoalieGAA",
+                              "GoalieSavePct", "GoalieShutouts", "ShotsFaced", "GoalsAgainst", "GoalieA",
+                              "Goalie3Star", "GoaliePowRanking"}),
+              "1 5 - 6 - 7 9.5 10.5 3 8 2 4 16 1.55 ");
 }
 
 TEST_F(LeagueWindowsTest, SortsATeamsPlayersByAClickOnAHead) {

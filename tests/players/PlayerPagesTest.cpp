@@ -1,7 +1,5 @@
 #include "players/PlayerPages.h"
 
-#include "players/RosterPages.h"
-
 #include <gmock/gmock.h>
 
 namespace iceline {

@@ -1,5 +1,8 @@
 #include "players/PlayerStats.h"
 
+#include "files/FileError.h"
+#include "players/PlayerFragments.h"
+#include "support/NumberedRecord.h"
 #include "support/TestLeague.h"
 
 #include <gmock/gmock.h>
@@ -76,7 +79,7 @@ TEST_F(PlayerStatsTest, OpensOnPowerRankingAndTurnsAColumnRound) {
     window.PlayerStatsN_Click(5);
     EXPECT_THAT(namesOf(window.content().skaters), ElementsAre("Cy Third", "Ann First", "Bo Second"))
         << "of equal values the one higher on the roster comes first in both directions";
-    window.PlayerStatsN_Click(NameColumn);
+    window.PlayerStatsN_Click(PlayerStats::SkaterNameColumn);
     EXPECT_THAT(namesOf(window.content().skaters), ElementsAre("Ann First", "Bo Second", "Cy Third"));
 }
 
@@ -88,6 +91,75 @@ TEST_F(PlayerStatsTest, ShowsAGoaliesRankingAtATenth) {
     EXPECT_EQ(goalie.Name, "Gil Keeper");
     EXPECT_THAT(std::vector(goalie.texts.begin(), goalie.texts.begin() + 3), ElementsAre("G", "31", "0.725"));
     EXPECT_EQ(goalie.texts[7], "0.912");
+}
+
+TEST_F(PlayerStatsTest, EveryFigureIsInItsColumn) {
+    Roster roster;
+    roster[0] = {"Gil Keeper", 31, 80, "G"};
+    roster[1] = {"Ann First", 99, 70, "F"};
+    league.setRoster(Boston, roster);
+    league.setPlayerStats(Boston, PartOfYear::Playoffs, 0, numberedRecord<GoalieStats>());
+    league.setPlayerStats(Boston, PartOfYear::Playoffs, 1, numberedRecord<SkaterStats>());
+
+    const TeamPlayers players = readTeamPlayers(league.files, Boston, PartOfYear::Playoffs);
+    EXPECT_THAT(players.skaters.rows().front().texts,
+                ElementsAre("F", "99", "15.5", "2", "4", "6", "7.5", "10.5", "8", "12", "13", "11", "1"));
+    EXPECT_THAT(players.goalies.rows().front().texts,
+                ElementsAre("G", "31", "1.55", "5", "6", "7", "9.5", "10.5", "3", "8", "2", "4", "1"));
+    std::vector<std::string> leaders;
+    for (const TeamLeader& leader : players.leaders)
+        leaders.push_back(std::string(leader.heading) + " " + leader.value);
+    EXPECT_THAT(leaders, ElementsAre("Goals 2", "Assists 4", "Points 6", "Pts. Per Game 7.5",
+                                     "Power Ranking 15.5", "Penalty Minutes 11", "PP Goals 12", "SH Goals 13",
+                                     "Shots on Goal 8", "Shot % 10.5"));
+
+    writePlayerFragments(league.files, Boston, PartOfYear::Playoffs);
+    EXPECT_EQ(
+        league.page("PlayoffPStats/BOS_N0.php"),
+        "<tr><td><center>1</center></td><td><center>F</center></td><td><center>99</center></td>\r\n"
+        "<td><a href=\"../PlayoffProfiles/BOS/Ann First.htm\">Ann First</a></td>"
+        "<td><center>15.5</center></td>\r\n"
+        "<td><center>2</center></td>\r\n<td><center>4</center></td>\r\n<td><center>6</center></td>\r\n"
+        "<td><center>7.5</center></td>\r\n<td><center>10.5</center></td>\r\n"
+        "<td><center>8</center></td>\r\n<td><center>12</center></td>\r\n<td><center>13</center></td>\r\n"
+        "<td><center>11</center></td>\r\n<td><center>1</center></td></tr>\r\n\r\n");
+    EXPECT_EQ(league.page("PlayoffPStats/BOS_G0.php"),
+              "<tr><td><center>1</center></td><td><center>G</center></td><td><center>31</center></td>\r\n"
+              "<td><a href=\"../PlayoffProfiles/BOS/Gil Keeper.htm\">Gil Keeper</a></td>\r\n"
+              "<td><center>1.55</center></td>\r\n"
+              "<td><center>5</center></td>\r\n<td><center>6</center></td>\r\n<td><center>7</center></td>\r\n"
+              "<td><center>9.5</center></td>\r\n<td><center>10.5</center></td>\r\n"
+              "<td><center>3</center></td>\r\n<td><center>8</center></td>\r\n<td><center>2</center></td>\r\n"
+              "<td><center>4</center></td>\r\n<td><center>1</center></td></tr>\r\n\r\n");
+}
+
+TEST_F(PlayerStatsTest, RoundsAFigureToTheEvenDigitOfItsScale) {
+    setSkater(2, 5, 0.0125);
+    setSkater(3, 5, 0.0375);
+    setSkater(4, 5, -0.0625);
+    PlayerStats& window = open();
+    window.PlayersTeamSelect = Boston.number();
+    window.PlayersTeamSelect_Click();
+    std::vector<std::string> rankings;
+    for (const PlayerTableRow& row : window.content().skaters)
+        rankings.push_back(row.texts[PlayerStats::RankingColumn]);
+    EXPECT_THAT(rankings, ElementsAre("0.038", "0.012", "-0.062"));
+}
+
+TEST_F(PlayerStatsTest, ADamagedFileLeavesClearedTables) {
+    PlayerStats& window = open();
+    window.PlayersTeamSelect = Boston.number();
+    window.PlayersTeamSelect_Click();
+    league.files.files["Buffalo Sabres/Player Stats.txt"] = "0,0\r\n";
+    int redrawn = 0;
+    window.onChange = [&redrawn] { ++redrawn; };
+    window.PlayersTeamSelect = 1;
+    EXPECT_THROW(window.PlayersTeamSelect_Click(), FileError);
+    EXPECT_GT(redrawn, 0);
+    window.PlayerStatsN_Click(3);
+    EXPECT_TRUE(window.content().skaters.empty());
+    EXPECT_TRUE(window.content().goalies.empty());
+    EXPECT_TRUE(window.content().leaders.empty());
 }
 
 TEST_F(PlayerStatsTest, NamesTheLeadersOfTheSkaters) {
