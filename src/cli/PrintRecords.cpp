@@ -8,10 +8,12 @@ namespace {
 
 using Align = TextTable::Align;
 
-TextTable recordTable(const std::string& title, const std::vector<ShownRecord>& records) {
-    TextTable table(
-        {{padded(title, 24, Align::Left), Align::Left}, {"", Align::Left}, {"", Align::Left}, {""}});
-    for (const ShownRecord& record : records)
+TextTable recordTable(const RecordSection& section) {
+    TextTable table({{padded(std::string(section.caption), 24, Align::Left), Align::Left},
+                     {"", Align::Left},
+                     {"", Align::Left},
+                     {""}});
+    for (const ShownRecord& record : section.records)
         table.addRow({std::string(record.caption), std::string(record.team ? TeamAbbr[*record.team] : ""),
                       record.name, record.value});
     return table;
@@ -20,11 +22,11 @@ TextTable recordTable(const std::string& title, const std::vector<ShownRecord>& 
 } // namespace
 
 void printAllTimeRecords(const AllTimeRecords& window, std::ostream& out) {
-    const AllTimeRecords::Content& content = window.content();
-    out << recordTable("Player Records", shownPlayerRecords(content)) << '\n'
-        << recordTable("Goalie Records", shownGoalieRecords(content)) << '\n'
-        << recordTable("Team Records", shownTeamRecords(content)) << '\n'
-        << recordTable("Coach Records", shownCoachRecords(content));
+    const char* separator = "";
+    for (const RecordSection& section : recordSections(window.content())) {
+        out << separator << recordTable(section);
+        separator = "\n";
+    }
 }
 
 } // namespace iceline::cli

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "desktop/Controls.h"
 #include "desktop/LeagueWindow.h"
 #include "records/AllTimeRecords.h"
 
@@ -18,11 +19,11 @@ protected:
     void refresh() override;
 
 private:
-    QGroupBox* makeSection(const char* frameName, const QString& caption,
-                           const std::vector<ShownRecord>& records);
-    void show(const std::vector<ShownRecord>& records);
+    QGroupBox* makeSection(const RecordSection& section);
+    void show(const ShownRecord& record);
 
     AllTimeRecords& object_;
+    NamedLabels labels_;
 };
 
 } // namespace iceline::desktop

@@ -4,150 +4,159 @@
 #include "page/PageFrame.h"
 #include "shell/Application.h"
 
-#include <array>
-
 namespace iceline {
 
 namespace {
 
-/// Controls and captions of a record in the window.
-struct RecordControls {
+/// A record of players or goalies: its place in the file, its heading on the page, its caption and controls
+/// in the window.
+template <class RecordOf>
+struct PlayerRow {
+    RecordOf record;
+    std::string_view heading;
     std::string_view caption;
     std::string_view team;
     std::string_view name;
     std::string_view value;
 };
 
-constexpr std::array<RecordControls, 7> PlayerControls{{
-    {"Goals in a Game", "PlyrGRecTeam", "PlyrGRecName", "PlyrGinGame"},
-    {"Assists in a Game", "PlyrARecTeam", "PlyrARecName", "PlyrAinGame"},
-    {"Points in a Game", "PlyrPtsRecTeam", "PlyrPtsRecName", "PlyrPtsinGame"},
-    {"PP Goals in a Game", "PlyrPPRecTeam", "PlyrPPRecName", "PlyrPPinGame"},
-    {"SH Goals in a Game", "PlyrSHRecTeam", "PlyrSHRecName", "PlyrSHinGame"},
-    {"SOG in a Game", "PlyrSOGRecTeam", "PlyrSOGRecName", "PlyrSOGinGame"},
-    {"PIM in a Game", "PlyrPIMRecTeam", "PlyrPIMRecName", "PlyrPIMinGame"},
-}};
+using enum PlayerRecordOf;
 
-constexpr std::array<RecordControls, 5> GoalieControls{{
-    {"Saves in a Game", "GoalieSvRecTeam", "GSavesRecName", "GSavesRec"},
-    {"Most Shots in a Shutout", "GoalieSSHOTeam", "GShotsSHORecName", "GShotsSHORec"},
-    {"Most Goals Allowed", "GoalieGARecTeam", "GGARecName", "GGARec"},
-    {"Most Shots Faced", "GoalieSFRecTeam", "GSFRecName", "GSFRec"},
-    {"Assists in a Game", "GoalieAstRecTeam", "GAstRecName", "GAstRec"},
-}};
+constexpr auto PlayerRows = std::to_array<PlayerRow<PlayerRecordOf>>({
+    {Goals, "Goals", "Goals in a Game", "PlyrGRecTeam", "PlyrGRecName", "PlyrGinGame"},
+    {Assists, "Assists", "Assists in a Game", "PlyrARecTeam", "PlyrARecName", "PlyrAinGame"},
+    {Points, "Points", "Points in a Game", "PlyrPtsRecTeam", "PlyrPtsRecName", "PlyrPtsinGame"},
+    {PowerPlayGoals, "PP Goals", "PP Goals in a Game", "PlyrPPRecTeam", "PlyrPPRecName", "PlyrPPinGame"},
+    {ShorthandedGoals, "SH Goals", "SH Goals in a Game", "PlyrSHRecTeam", "PlyrSHRecName", "PlyrSHinGame"},
+    {Shots, "SOG", "SOG in a Game", "PlyrSOGRecTeam", "PlyrSOGRecName", "PlyrSOGinGame"},
+    {PenaltyMinutes, "PIM", "PIM in a Game", "PlyrPIMRecTeam", "PlyrPIMRecName", "PlyrPIMinGame"},
+});
 
-constexpr std::array<RecordControls, 6> TeamControls{{
-    {"Goals in a Game", "TeamGoalsRec", "", "GinGame"},
-    {"Shots in a Game", "TeamShotRec", "", "SinGame"},
-    {"Body Checks in a Game", "ByCksRec", "", "BCinGame"},
-    {"Penalties in a Game", "TeamPensRec", "", "PeninGame"},
-    {"PPG in a Game", "PPGRec", "", "PPGinGame"},
-    {"PP Opportunities", "PPOppRec", "", "PPOinGame"},
-}};
+constexpr auto GoalieRows = std::to_array<PlayerRow<GoalieRecordOf>>({
+    {GoalieRecordOf::Saves, "Saves", "Saves in a Game", "GoalieSvRecTeam", "GSavesRecName", "GSavesRec"},
+    {GoalieRecordOf::ShutoutSaves, "SOG/Shutout", "Most Shots in a Shutout", "GoalieSSHOTeam",
+     "GShotsSHORecName", "GShotsSHORec"},
+    {GoalieRecordOf::GoalsAllowed, "Goals Allowed", "Most Goals Allowed", "GoalieGARecTeam", "GGARecName",
+     "GGARec"},
+    {GoalieRecordOf::ShotsFaced, "SOG Faced", "Most Shots Faced", "GoalieSFRecTeam", "GSFRecName", "GSFRec"},
+    {GoalieRecordOf::Assists, "Assists", "Assists in a Game", "GoalieAstRecTeam", "GAstRecName", "GAstRec"},
+});
 
-constexpr std::array<RecordControls, 6> CoachControls{{
-    {"Goals in a Game", "", "CoachGName", "Label13"},
-    {"Shots in a Game", "", "CoachSOGName", "Label12"},
-    {"Body Checks in a Game", "", "CoachByCkName", "Label11"},
-    {"Penalties in a Game", "", "CoachPenName", "Label10"},
-    {"PPG in a Game", "", "CoachPPGName", "Label6"},
-    {"PP Opportunities", "", "CoachPPOName", "Label7"},
-}};
-
-constexpr std::array<std::string_view, 7> PlayerHeadings{"Goals",    "Assists", "Points", "PP Goals",
-                                                         "SH Goals", "SOG",     "PIM"};
-constexpr std::array<std::string_view, 5> GoalieHeadings{"Saves", "SOG/Shutout", "Goals Allowed", "SOG Faced",
-                                                         "Assists"};
-
-/// A row of the page's team and coach tables; penalties stand there ahead of body checks.
-struct LeagueHeading {
-    std::string_view heading;
+/// A record of teams, and of the coaches whose teams set it.
+struct LeagueRow {
     LeagueRecordOf record;
+    std::string_view heading;
+    std::string_view caption;
+    std::string_view team;
+    std::string_view teamValue;
+    std::string_view coach;
+    std::string_view coachValue;
 };
 
-constexpr std::array<LeagueHeading, 6> LeagueHeadings{{
-    {"Goals", LeagueRecordOf::Goals},
-    {"SOG", LeagueRecordOf::Shots},
-    {"PIM", LeagueRecordOf::Penalties},
-    {"Body Checks", LeagueRecordOf::BodyChecks},
-    {"PP Goals", LeagueRecordOf::PowerPlayGoals},
-    {"PP Chances", LeagueRecordOf::PowerPlays},
-}};
+constexpr auto LeagueRows = std::to_array<LeagueRow>({
+    {LeagueRecordOf::Goals, "Goals", "Goals in a Game", "TeamGoalsRec", "GinGame", "CoachGName", "Label13"},
+    {LeagueRecordOf::Shots, "SOG", "Shots in a Game", "TeamShotRec", "SinGame", "CoachSOGName", "Label12"},
+    {LeagueRecordOf::BodyChecks, "Body Checks", "Body Checks in a Game", "ByCksRec", "BCinGame",
+     "CoachByCkName", "Label11"},
+    {LeagueRecordOf::Penalties, "PIM", "Penalties in a Game", "TeamPensRec", "PeninGame", "CoachPenName",
+     "Label10"},
+    {LeagueRecordOf::PowerPlayGoals, "PP Goals", "PPG in a Game", "PPGRec", "PPGinGame", "CoachPPGName",
+     "Label6"},
+    {LeagueRecordOf::PowerPlays, "PP Chances", "PP Opportunities", "PPOppRec", "PPOinGame", "CoachPPOName",
+     "Label7"},
+});
+
+/// On the page penalties are ahead of body checks, unlike in the window.
+constexpr std::array<LeagueRecordOf, LeagueRows.size()> PageOrder{
+    LeagueRecordOf::Goals,      LeagueRecordOf::Shots,          LeagueRecordOf::Penalties,
+    LeagueRecordOf::BodyChecks, LeagueRecordOf::PowerPlayGoals, LeagueRecordOf::PowerPlays};
+
+/// The row of that record in a table that is in the order of the file.
+template <class Records, class RecordOf>
+const auto& recordOf(const Records& records, RecordOf record) {
+    return records[static_cast<std::size_t>(record)];
+}
+
+std::string coachName(const CoachRecord& record) {
+    return record.Name.value_or("");
+}
 
 std::string coachValue(const CoachRecord& record) {
     return record.Value ? numberText(*record.Value) : "";
 }
 
-template <class Controls, class Records>
-std::vector<ShownRecord> shownPlayers(const Controls& controls, const Records& records) {
+template <class Rows, class Records>
+std::vector<ShownRecord> shownPlayers(const Rows& rows, const Records& records) {
     std::vector<ShownRecord> shown;
-    for (std::size_t i = 0; i < controls.size(); ++i)
-        shown.push_back({controls[i].caption, controls[i].team, controls[i].name, controls[i].value,
-                         records[i].Team, records[i].Name, std::to_string(records[i].Value)});
+    for (const auto& row : rows) {
+        const PlayerRecord& record = recordOf(records, row.record);
+        shown.push_back({row.caption, row.team, row.name, row.value, record.Team, record.Name,
+                         std::to_string(record.Value)});
+    }
     return shown;
 }
 
-std::string opening(std::string_view heading, TeamIndex team) {
-    std::string row = "<tr><th><b>";
-    row += heading;
-    row += "</b></th><td><center><img src=\"./LogoMinis/";
-    row += TeamAbbr[team];
-    return row + ".gif\"></img></center></td><td>";
+std::vector<ShownRecord> shownTeams(const AllTimeLeagueRecords& records) {
+    std::vector<ShownRecord> shown;
+    for (const LeagueRow& row : LeagueRows) {
+        const LeagueRecord& record = recordOf(records, row.record);
+        shown.push_back(
+            {row.caption, row.team, "", row.teamValue, record.Team, "", std::to_string(record.Value)});
+    }
+    return shown;
 }
 
-/// `closing` stands behind the last row.
-template <class Headings, class Records>
-void addPlayerRows(PageText& page, const Headings& headings, const Records& records,
-                   std::string_view closing = "") {
-    for (std::size_t i = 0; i < headings.size(); ++i) {
-        page.add(opening(headings[i], records[i].Team) + "&nbsp;" + records[i].Name + "</td><td><center>" +
-                 std::to_string(records[i].Value) + "</center></tr>");
-        page.line(i + 1 == headings.size() ? closing : "");
+std::vector<ShownRecord> shownCoaches(const CoachesLeagueRecords& records) {
+    std::vector<ShownRecord> shown;
+    for (const LeagueRow& row : LeagueRows) {
+        const CoachRecord& record = recordOf(records.pairs, row.record);
+        shown.push_back({row.caption, "", row.coach, row.coachValue, std::nullopt, coachName(record),
+                         coachValue(record)});
     }
+    return shown;
+}
+
+std::string headAndLogo(std::string_view heading, TeamIndex team) {
+    return markup(
+        R"(<tr><th><b>{}</b></th><td><center><img src="./LogoMinis/{}.gif"></img></center></td><td>)",
+        heading, TeamAbbr[team]);
+}
+
+/// The rows of players or goalies, the last without the end of its line.
+template <class Rows, class Records>
+std::string playerRows(const Rows& rows, const Records& records) {
+    PageText page;
+    for (const auto& row : rows) {
+        const PlayerRecord& record = recordOf(records, row.record);
+        page.add(page.text().empty() ? "" : LineEnd).add(headAndLogo(row.heading, record.Team));
+        page.add("&nbsp;{}</td><td><center>{}</center></tr>", record.Name, record.Value);
+    }
+    return page.text();
 }
 
 void addTeamRows(PageText& page, const AllTimeLeagueRecords& records) {
-    for (const LeagueHeading& row : LeagueHeadings) {
-        const LeagueRecord& record = records[static_cast<std::size_t>(row.record)];
-        page.line(opening(row.heading, record.Team) + "<center>&nbsp;" + std::to_string(record.Value) +
-                  "</td></tr>");
+    for (const LeagueRecordOf kind : PageOrder) {
+        const LeagueRecord& record = recordOf(records, kind);
+        page.line("{}<center>&nbsp;{}</td></tr>",
+                  headAndLogo(recordOf(LeagueRows, kind).heading, record.Team), record.Value);
     }
 }
 
 void addCoachRows(PageText& page, const CoachesLeagueRecords& records) {
-    for (const LeagueHeading& row : LeagueHeadings) {
-        const CoachRecord& record = records.pairs[static_cast<std::size_t>(row.record)];
-        page.line("<tr><th><b>" + std::string(row.heading) + "</b></th><td><center>&nbsp;" +
-                  record.Name.value_or("") + "</center></td><td><center>&nbsp;" + coachValue(record) +
-                  "</td></tr>");
+    for (const LeagueRecordOf kind : PageOrder) {
+        const CoachRecord& record = recordOf(records.pairs, kind);
+        page.line("<tr><th><b>{}</b></th><td><center>&nbsp;{}</center></td><td><center>&nbsp;{}</td></tr>",
+                  recordOf(LeagueRows, kind).heading, coachName(record), coachValue(record));
     }
 }
 
 } // namespace
 
-std::vector<ShownRecord> shownPlayerRecords(const AllTimeRecords::Content& content) {
-    return shownPlayers(PlayerControls, content.players);
-}
-
-std::vector<ShownRecord> shownGoalieRecords(const AllTimeRecords::Content& content) {
-    return shownPlayers(GoalieControls, content.goalies);
-}
-
-std::vector<ShownRecord> shownTeamRecords(const AllTimeRecords::Content& content) {
-    std::vector<ShownRecord> shown;
-    for (std::size_t i = 0; i < TeamControls.size(); ++i)
-        shown.push_back({TeamControls[i].caption, TeamControls[i].team, "", TeamControls[i].value,
-                         content.teams[i].Team, "", std::to_string(content.teams[i].Value)});
-    return shown;
-}
-
-std::vector<ShownRecord> shownCoachRecords(const AllTimeRecords::Content& content) {
-    std::vector<ShownRecord> shown;
-    for (std::size_t i = 0; i < CoachControls.size(); ++i)
-        shown.push_back({CoachControls[i].caption, "", CoachControls[i].name, CoachControls[i].value,
-                         std::nullopt, content.coaches.pairs[i].Name.value_or(""),
-                         coachValue(content.coaches.pairs[i])});
-    return shown;
+std::array<RecordSection, 4> recordSections(const AllTimeRecords::Content& content) {
+    return {{{"Frame1", "Player Records", shownPlayers(PlayerRows, content.players)},
+             {"Frame4", "Goalie Records", shownPlayers(GoalieRows, content.goalies)},
+             {"Frame2", "Team Records", shownTeams(content.teams)},
+             {"Frame3", "Coach Records", shownCoaches(content.coaches)}}};
 }
 
 std::string allTimeRecordsPage(const AllTimeRecords::Content& content) {
@@ -155,11 +164,11 @@ std::string allTimeRecordsPage(const AllTimeRecords::Content& content) {
     frame.styleSheet = "styles.css";
     PageText page;
     page.add(frame.text());
-    page.line(headerImage("Headers/", "AllTimeRecords") +
-              "<table border = 1><tr><th colspan = 4><b>Player Records in a Game</b></th></tr>");
-    addPlayerRows(page, PlayerHeadings, content.players);
+    page.line("{}<table border = 1><tr><th colspan = 4><b>Player Records in a Game</b></th></tr>",
+              headerImage("Headers/", "AllTimeRecords"));
+    page.line(playerRows(PlayerRows, content.players));
     page.line("</table><br/><table border = 1><tr><th colspan = 4><b>Goalie Records in a Game</b></th></tr>");
-    addPlayerRows(page, GoalieHeadings, content.goalies, "</table>");
+    page.line("{}</table>", playerRows(GoalieRows, content.goalies));
     page.line("<br/><table border = 1><tr><th colspan = 3><b>Team Records in a Game</b></th></tr>");
     addTeamRows(page, content.teams);
     page.line("<br/><table border = 1><tr><th colspan = 3><b>Coaches' Records in a Game</b></th></tr>");

@@ -4,6 +4,7 @@
 #include "store/LeagueFiles.h"
 #include "store/LeaguePaths.h"
 
+#include <array>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -44,11 +45,15 @@ struct ShownRecord {
     std::string value;
 };
 
-/// The four sections of the window, in its order.
-std::vector<ShownRecord> shownPlayerRecords(const AllTimeRecords::Content& content);
-std::vector<ShownRecord> shownGoalieRecords(const AllTimeRecords::Content& content);
-std::vector<ShownRecord> shownTeamRecords(const AllTimeRecords::Content& content);
-std::vector<ShownRecord> shownCoachRecords(const AllTimeRecords::Content& content);
+/// A section of the window.
+struct RecordSection {
+    const char* frame;
+    std::string_view caption;
+    std::vector<ShownRecord> records;
+};
+
+/// The sections of the window: players, goalies, teams, coaches.
+std::array<RecordSection, 4> recordSections(const AllTimeRecords::Content& content);
 
 /// The text of the page, the same for both parts of the year but for the figures.
 std::string allTimeRecordsPage(const AllTimeRecords::Content& content);
