@@ -30,10 +30,6 @@ QPixmap teamLogo(TeamIndex team) {
     return ofTeam("logos", team);
 }
 
-QPixmap teamLogoBig(TeamIndex team) {
-    return ofTeam("logos-big", team);
-}
-
 QPixmap named(const char* name) {
     return load(QLatin1String(name));
 }

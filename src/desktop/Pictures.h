@@ -11,7 +11,6 @@ namespace iceline::desktop::pictures {
 QPixmap teamNameBig(TeamIndex team);  ///< large name banner; AllTeams has one, too
 QPixmap teamNameMini(TeamIndex team); ///< small name banner; BlankTeam is an empty slot
 QPixmap teamLogo(TeamIndex team);     ///< AllTeams has one, too
-QPixmap teamLogoBig(TeamIndex team);
 
 /// The picture of that name under the store's root, for instance "league-logo".
 QPixmap named(const char* name);
