@@ -53,10 +53,10 @@ MemoryFiles fullLeague() {
     for (const TeamIndex team : AllLeagueTeams) {
         Roster roster = league.roster(team);
         TeamPlayerStats stats;
-        for (int row = 0; row < RosterRows; ++row) {
-            const int n = team * RosterRows + row;
+        for (const RosterIndex row : AllRosterRows) {
+            const int n = team.number() * RosterRows + row.number();
             if (roster[row].isEmpty())
-                roster[row].Name = "Called Up " + std::to_string(row);
+                roster[row].Name = "Called Up " + std::to_string(row.number());
             if (roster[row].isGoalie())
                 stats[row] = goalie(n);
             else
@@ -68,7 +68,7 @@ MemoryFiles fullLeague() {
                 playerStatsText(paths::PlayerStats, stats);
             TeamRecord record = league.record(team, part);
             record.GP = 82;
-            record.Points = 60 + team;
+            record.Points = 60 + team.number();
             record.WinPercent = 0.512;
             league.setRecord(team, part, record);
         }

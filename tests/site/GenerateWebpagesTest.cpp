@@ -278,7 +278,7 @@ TEST(Run, ReadsEachDataFileOnce) {
         }
     EXPECT_THAT(files.timesRead, Contains(testing::Key("Boston Bruins/Players List.txt")));
 
-    // What has changed since is read anew by the next run.
+    // What has changed since is read by the next run.
     publish(run.app);
     EXPECT_EQ(files.timesRead.at("Boston Bruins/Players List.txt"), 2);
 }
