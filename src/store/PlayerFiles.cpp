@@ -88,7 +88,7 @@ TeamPlayerStats readPlayerStats(Files& files, const std::string& path, const Ros
     const std::string content = files.read(path);
     ItemReader reader(path, content);
     TeamPlayerStats stats;
-    for (int row = 0; row < RosterRows; ++row) {
+    for (const RosterIndex row : AllRosterRows) {
         if (roster[row].isGoalie())
             stats[row] = GoalieStats();
         std::visit([&reader](auto& line) { readFields(reader, line); }, stats[row]);
