@@ -19,12 +19,16 @@ struct ContentType {
     const char* type;
 };
 
-constexpr std::array<ContentType, 13> ContentTypes{{
+constexpr std::array<ContentType, 21> ContentTypes{{
     {".htm", "text/html; charset=utf-8"},
     {".html", "text/html; charset=utf-8"},
     {".php", "text/html; charset=utf-8"},
     {".css", "text/css; charset=utf-8"},
     {".js", "text/javascript; charset=utf-8"},
+    {".json", "application/json"},
+    {".xml", "application/xml"},
+    {".webmanifest", "application/manifest+json"},
+    {".csv", "text/csv; charset=utf-8"},
     {".txt", "text/plain; charset=utf-8"},
     {".gif", "image/gif"},
     {".png", "image/png"},
@@ -33,6 +37,10 @@ constexpr std::array<ContentType, 13> ContentTypes{{
     {".webp", "image/webp"},
     {".svg", "image/svg+xml"},
     {".ico", "image/x-icon"},
+    {".woff", "font/woff"},
+    {".woff2", "font/woff2"},
+    {".ttf", "font/ttf"},
+    {".otf", "font/otf"},
 }};
 
 std::string contentType(const fs::path& file) {
@@ -78,10 +86,6 @@ SiteAnswer plain(unsigned status, std::string text) {
     return answer;
 }
 
-SiteAnswer notFound() {
-    return plain(404, "There is no such page in this site.\n");
-}
-
 SiteAnswer notPublished() {
     return plain(404, "There is no home page yet. Generate the web pages first.\n");
 }
@@ -106,6 +110,16 @@ SiteAnswer content(const fs::path& file) {
 }
 
 } // namespace
+
+SiteAnswer SiteFolder::notFound() const {
+    const fs::path page = folder_ / "404.html";
+    std::error_code error;
+    if (!fs::is_regular_file(page, error) || !holds(page))
+        return plain(404, "There is no such page in this site.\n");
+    SiteAnswer answer = content(page);
+    answer.status = 404;
+    return answer;
+}
 
 bool SiteFolder::holds(const fs::path& path) const {
     if (!fs::exists(path))

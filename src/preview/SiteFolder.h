@@ -25,6 +25,7 @@ public:
     SiteAnswer answer(std::string_view target) const;
 
 private:
+    SiteAnswer notFound() const; ///< the site's own 404.html where there is one
     bool holds(const std::filesystem::path& path) const;
 
     std::filesystem::path folder_;

@@ -13,7 +13,8 @@ class PreviewError : public std::runtime_error {
 };
 
 /// A web server that shows the published site to browsers on this machine, and to nobody else: it listens on
-/// the loopback address alone, takes GET and HEAD, and reads the files again for each request.
+/// the loopback address alone, answers to its names alone, takes GET and HEAD, and reads the files again for
+/// each request.
 class SitePreview {
 public:
     /// The port that is taken when the user names none.

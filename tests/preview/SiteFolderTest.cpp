@@ -58,6 +58,17 @@ TEST_F(SiteFolderTest, SaysWhatAPageIs) {
     EXPECT_EQ(site.answer("/PStats/BOS_0.php").contentType, "text/html; charset=utf-8");
     EXPECT_EQ(site.answer("/styles.CSS").contentType, "text/css; charset=utf-8");
     EXPECT_EQ(site.answer("/Absent.htm").contentType, "text/plain; charset=utf-8");
+    write("site/data.json", "{}");
+    write("site/font.WOFF2", "");
+    EXPECT_EQ(site.answer("/data.json").contentType, "application/json");
+    EXPECT_EQ(site.answer("/font.WOFF2").contentType, "font/woff2");
+}
+
+TEST_F(SiteFolderTest, ShowsThePageThatTheSiteHasForWhatIsAbsent) {
+    write("site/404.html", "lost");
+    EXPECT_EQ(status("/Absent.htm"), 404U);
+    EXPECT_EQ(body("/Absent.htm"), "lost");
+    EXPECT_EQ(site.answer("/../secret.htm").contentType, "text/html; charset=utf-8");
 }
 
 TEST_F(SiteFolderTest, SendsAFolderToItsSlash) {

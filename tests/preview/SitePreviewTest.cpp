@@ -7,6 +7,7 @@
 
 #include <boost/asio/connect.hpp>
 #include <boost/asio/ip/tcp.hpp>
+#include <boost/asio/write.hpp>
 #include <boost/beast/core/flat_buffer.hpp>
 #include <boost/beast/http.hpp>
 #include <fstream>
@@ -39,10 +40,23 @@ protected:
             std::stoi(preview.address().substr(preview.address().rfind(':') + 1)));
     }
 
-    http::response<http::string_body> ask(http::verb verb, const std::string& target) {
+    http::response<http::string_body> ask(http::verb verb, const std::string& target,
+                                          const std::string& host = "127.0.0.1") {
         http::request<http::empty_body> request(verb, target, 11);
-        request.set(http::field::host, "127.0.0.1");
+        request.set(http::field::host, host);
         http::write(browser, request);
+        return answer(verb);
+    }
+
+    /// The answer to a request in these words, on a connection of its own.
+    http::response<http::string_body> say(const std::string& request) {
+        browser = tcp::socket(context);
+        browser.connect({boost::asio::ip::address_v4::loopback(), port()});
+        boost::asio::write(browser, boost::asio::buffer(request));
+        return answer(http::verb::get);
+    }
+
+    http::response<http::string_body> answer(http::verb verb) {
         http::response_parser<http::string_body> parser;
         parser.skip(verb == http::verb::head);
         boost::beast::flat_buffer buffer;
@@ -77,6 +91,26 @@ TEST_F(SitePreviewTest, OnlyReads) {
     EXPECT_EQ(head.body(), "");
     EXPECT_EQ(ask(http::verb::delete_, "/index.htm").result_int(), 405U);
     EXPECT_EQ(ask(http::verb::get, "/index.htm").body(), "home");
+}
+
+TEST_F(SitePreviewTest, AnswersToTheNamesOfTheLoopbackAlone) {
+    for (const char* host : {"localhost", "LocalHost:8080", "127.0.0.1:1", "[::1]", "[::1]:8080"})
+        EXPECT_EQ(ask(http::verb::get, "/", host).result_int(), 200U) << host;
+    for (const std::string host : {"league.example", "127.0.0.1.example:80", "", "localhost:80x", "::1"})
+        EXPECT_EQ(say("GET / HTTP/1.1\r\nHost: " + host + "\r\n\r\n").result_int(), 421U) << host;
+    EXPECT_EQ(say("GET / HTTP/1.0\r\n\r\n").result_int(), 421U);
+}
+
+TEST_F(SitePreviewTest, SaysWhyARequestIsNotTaken) {
+    const std::string host = "Host: localhost\r\n";
+    const auto brew = say("BREW / HTTP/1.1\r\n" + host + "\r\n");
+    EXPECT_EQ(brew.result_int(), 405U);
+    EXPECT_EQ(brew[http::field::allow], "GET, HEAD");
+    EXPECT_EQ(say("GET / HTTP/1.1\r\n" + host + "X: " + std::string(20'000, 'x') + "\r\n\r\n").result_int(),
+              431U);
+    EXPECT_EQ(say("POST / HTTP/1.1\r\n" + host + "Content-Length: 4\r\n\r\nbody").result_int(), 413U);
+    EXPECT_EQ(say("no request\r\n\r\n").result_int(), 400U);
+    EXPECT_EQ(say("GET / HTTP/1.1\r\n" + host + "\r\n").body(), "home");
 }
 
 TEST_F(SitePreviewTest, NamesThePortThatIsTaken) {
