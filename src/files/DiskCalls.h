@@ -56,6 +56,10 @@ public:
     /// Returns when names that were made, changed or removed in the folder are on the disk.
     virtual bool syncFolder(const std::filesystem::path& folder);
 
+    /// A number for the disk that holds the folder, NoDisk when there is no such folder.
+    virtual std::uintmax_t diskOf(const std::filesystem::path& folder);
+    static constexpr std::uintmax_t NoDisk = UINTMAX_MAX;
+
     /// Returns when everything written to the disk that holds the folder is on it. Fails with ENOSYS where
     /// the platform has no such call.
     virtual bool syncDiskOf(const std::filesystem::path& folder);

@@ -113,6 +113,11 @@ bool Calls::syncFolder(const std::filesystem::path& folder) {
     return syncNamed(folder, ::fsync);
 }
 
+std::uintmax_t Calls::diskOf(const std::filesystem::path& folder) {
+    struct stat status = {};
+    return ::stat(folder.c_str(), &status) == 0 ? status.st_dev : NoDisk;
+}
+
 bool Calls::syncDiskOf(const std::filesystem::path& folder) {
 #ifdef __linux__
     return syncNamed(folder, ::syncfs);

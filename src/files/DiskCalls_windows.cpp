@@ -141,6 +141,11 @@ bool Calls::syncFolder(const std::filesystem::path&) {
     return true;
 }
 
+// Whole disks are not synced here, so which one it is does not matter.
+std::uintmax_t Calls::diskOf(const std::filesystem::path&) {
+    return 0;
+}
+
 bool Calls::syncDiskOf(const std::filesystem::path&) {
     errno = ENOSYS;
     return false;

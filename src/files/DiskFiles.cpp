@@ -1,50 +1,28 @@
 #include "files/DiskFiles.h"
 
 #include "files/DiskError.h"
+#include "files/DiskPlace.h"
 #include "files/FileError.h"
-#include "files/NativePath.h"
 #include "files/OpenFile.h"
+#include "files/Trial.h"
 
 #include <algorithm>
 #include <cerrno>
-#include <limits>
+#include <map>
 #include <system_error>
 #include <utility>
 
 namespace iceline {
 
 namespace fs = std::filesystem;
+using disk::at;
 using disk::OpenFile;
 using disk::Purpose;
-using disk::Task;
 
 namespace {
 
 /// From this many unsynced files and folders on, syncing the whole disk is quicker than syncing each.
 constexpr std::size_t SyncWholeDiskFrom = 16;
-
-constexpr Task Reading{"cannot be read", fs::file_type::regular, true};
-constexpr Task Writing{"cannot be written", fs::file_type::regular, false};
-constexpr Task Removing{"cannot be removed", fs::file_type::regular, false};
-constexpr Task Listing{"cannot be listed", fs::file_type::directory, true};
-constexpr Task MakingFolder{"cannot be made", fs::file_type::directory, false};
-constexpr Task RemovingFolder{"cannot be removed", fs::file_type::directory, false};
-constexpr Task Finding{"cannot be looked for", fs::file_type::unknown, false};
-constexpr Task Syncing{"cannot be brought to the disk", fs::file_type::unknown, false};
-
-/// Carries `action` out on the place of `path`, and turns what goes wrong into a FileError.
-template <class Action>
-auto at(const fs::path& root, const std::string& path, const Task& task, Action action) {
-    refuseOutsideLeague(path);
-    fs::path place = root;
-    try {
-        if (!path.empty())
-            place /= toNative(path);
-        return action(place);
-    } catch (const std::system_error& error) {
-        throw FileError::about(path.empty() ? root.string() : path, disk::explain(task, place, error.code()));
-    }
-}
 
 /// A file is written beside its place and then moved there, so that nobody finds a part of it. One that is
 /// new and need not outlast a power cut goes into its place at once, since nothing can be lost there.
@@ -68,8 +46,6 @@ void replaceFile(disk::Calls& calls, const fs::path& file, std::string_view cont
         calls.remove(fresh);
         throw;
     }
-    if (synced)
-        disk::require(calls.syncFolder(file.parent_path()));
 }
 
 void appendAt(OpenFile& file, std::uintmax_t length, std::string_view content, bool synced) {
@@ -114,34 +90,35 @@ DiskFiles::DiskFiles(fs::path root) : DiskFiles(std::move(root), disk::systemCal
 DiskFiles::DiskFiles(fs::path root, disk::Calls& calls) : root_(std::move(root)), calls_(calls) {}
 
 std::string DiskFiles::read(const std::string& path) {
-    return readFirst(path, std::numeric_limits<std::size_t>::max());
+    if (size(path) > LargestFile)
+        throw FileError::tooLarge(path, LargestFile);
+    return readFirst(path, LargestFile);
 }
 
 std::string DiskFiles::readFirst(const std::string& path, std::size_t limit) {
-    return at(root_, path, Reading,
+    return at(root_, path, disk::Reading,
               [&](const fs::path& file) { return OpenFile(calls_, file, Purpose::Read).read(limit); });
 }
 
 bool DiskFiles::holds(const std::string& path, std::string_view content) {
-    return at(root_, path, Reading, [&](const fs::path& place) {
+    return at(root_, path, disk::Reading, [&](const fs::path& place) {
         const int handle = calls_.open(place, Purpose::Read);
         return handle >= 0 && OpenFile(calls_, handle).holds(content);
     });
 }
 
 void DiskFiles::write(const std::string& path, std::string_view content, Durability durability) {
-    at(root_, path, Writing, [&](const fs::path& file) {
+    at(root_, path, disk::Writing, [&](const fs::path& file) {
         replaceFile(calls_, file, content, durability);
-        if (durability != Durability::Later)
-            return;
-        unsyncedFiles_.insert(file.native());
-        unsyncedFolders_.insert(file.parent_path().native());
+        settle(file, durability);
     });
 }
 
 void DiskFiles::extend(const std::string& path, std::uintmax_t length, std::string_view content,
                        Durability durability) {
-    at(root_, path, Writing, [&](const fs::path& file) {
+    at(root_, path, disk::Writing, [&](const fs::path& file) {
+        if (fs::is_symlink(fs::symlink_status(file)))
+            return replaceLink(file, length, content, durability);
         const bool isNew = !fs::exists(file);
         OpenFile out(calls_, file, Purpose::Change);
         appendAt(out, std::min(length, out.size()), content, durability == Durability::Now);
@@ -151,12 +128,29 @@ void DiskFiles::extend(const std::string& path, std::uintmax_t length, std::stri
         if (isNew && durability == Durability::Later)
             unsyncedFolders_.insert(file.parent_path().native());
         if (isNew && durability == Durability::Now)
-            disk::require(calls_.syncFolder(file.parent_path()));
+            syncFolder(file.parent_path());
     });
 }
 
+/// A link is not followed: the file takes its place, as in write().
+void DiskFiles::replaceLink(const fs::path& link, std::uintmax_t length, std::string_view content,
+                            Durability durability) {
+    std::string whole = fs::is_regular_file(link) ? OpenFile(calls_, link, Purpose::Read).read(length) : "";
+    replaceFile(calls_, link, whole += content, durability);
+    settle(link, durability);
+}
+
+void DiskFiles::settle(const fs::path& file, Durability durability) {
+    if (durability == Durability::Now)
+        syncFolder(file.parent_path());
+    if (durability != Durability::Later)
+        return;
+    unsyncedFiles_.insert(file.native());
+    unsyncedFolders_.insert(file.parent_path().native());
+}
+
 void DiskFiles::remove(const std::string& path) {
-    at(root_, path, Removing, [&](const fs::path& file) {
+    at(root_, path, disk::Removing, [&](const fs::path& file) {
         if (fs::is_directory(file))
             throw std::system_error(std::make_error_code(std::errc::is_a_directory));
         if (!fs::exists(fs::symlink_status(file)))
@@ -166,8 +160,17 @@ void DiskFiles::remove(const std::string& path) {
     });
 }
 
+void DiskFiles::rename(const std::string& path, const std::string& name) {
+    at(root_, path, disk::Renaming, [&](const fs::path& file) {
+        const fs::path target = root_ / toNative(name);
+        disk::require(calls_.rename(file, target));
+        unsyncedFolders_.insert(file.parent_path().native());
+        unsyncedFolders_.insert(target.parent_path().native());
+    });
+}
+
 void DiskFiles::makeFolder(const std::string& path) {
-    at(root_, path, MakingFolder, [&](const fs::path& folder) {
+    at(root_, path, disk::MakingFolder, [&](const fs::path& folder) {
         std::vector<fs::path> missing;
         for (fs::path above = folder; !fs::is_directory(above); above = above.parent_path())
             missing.push_back(above);
@@ -179,12 +182,13 @@ void DiskFiles::makeFolder(const std::string& path) {
 }
 
 void DiskFiles::removeFolder(const std::string& path) {
-    at(root_, path, RemovingFolder, [&](const fs::path& folder) {
+    at(root_, path, disk::RemovingFolder, [&](const fs::path& folder) {
         if (!fs::exists(folder))
             return;
-        for (const std::string& name : namesIn(folder, fs::file_type::regular))
-            if (isTemporary(name))
-                disk::require(calls_.remove(folder / toNative(name)));
+        for (const auto type : {fs::file_type::regular, fs::file_type::directory})
+            for (const std::string& name : namesIn(folder, type))
+                if (isTemporary(name))
+                    disk::require(calls_.remove(folder / toNative(name)));
         // Windows' own refusal is lost: the library then tries to remove the folder as a file.
         if (!fs::is_empty(folder))
             throw std::system_error(std::make_error_code(std::errc::directory_not_empty));
@@ -194,15 +198,22 @@ void DiskFiles::removeFolder(const std::string& path) {
 }
 
 bool DiskFiles::isFile(const std::string& path) {
-    return at(root_, path, Finding, [](const fs::path& file) { return fs::is_regular_file(file); });
+    return at(root_, path, disk::Finding, [](const fs::path& file) { return fs::is_regular_file(file); });
 }
 
 bool DiskFiles::isFolder(const std::string& path) {
-    return at(root_, path, Finding, [](const fs::path& folder) { return fs::is_directory(folder); });
+    return at(root_, path, disk::Finding, [](const fs::path& folder) { return fs::is_directory(folder); });
+}
+
+bool DiskFiles::leadsOut(const std::string& path) {
+    return at(root_, path, disk::Finding, [&](const fs::path& place) {
+        const fs::path root = fs::canonical(root_);
+        return std::ranges::mismatch(root, fs::weakly_canonical(place)).in1 != root.end();
+    });
 }
 
 std::uintmax_t DiskFiles::size(const std::string& path) {
-    return at(root_, path, Finding, [](const fs::path& file) -> std::uintmax_t {
+    return at(root_, path, disk::Finding, [](const fs::path& file) -> std::uintmax_t {
         std::error_code error;
         const std::uintmax_t size = fs::file_size(file, error);
         if (!error)
@@ -213,31 +224,72 @@ std::uintmax_t DiskFiles::size(const std::string& path) {
 }
 
 std::vector<std::string> DiskFiles::filesIn(const std::string& folder) {
-    auto names = at(root_, folder, Listing,
+    auto names = at(root_, folder, disk::Listing,
                     [](const fs::path& place) { return namesIn(place, fs::file_type::regular); });
     std::erase_if(names, isTemporary);
     return names;
 }
 
 std::vector<std::string> DiskFiles::foldersIn(const std::string& folder) {
-    return at(root_, folder, Listing,
-              [](const fs::path& place) { return namesIn(place, fs::file_type::directory); });
+    auto names = at(root_, folder, disk::Listing,
+                    [](const fs::path& place) { return namesIn(place, fs::file_type::directory); });
+    std::erase_if(names, isTemporary);
+    return names;
+}
+
+void DiskFiles::tryOut(const std::vector<Change>& changes) {
+    Trial(calls_, root_).tryOut(changes);
+}
+
+void DiskFiles::syncFolder(const fs::path& folder) {
+    if (calls_.syncFolder(folder))
+        return;
+    const bool unsupported = disk::isUnsupported(errno) || errno == EROFS;
+    requireSynced(unsupported);
+    if (unsupported)
+        limit_ =
+            "The disk of " + folder.string() +
+            " cannot bring the names of files to the disk at once. After a power cut the last changes may be "
+            "missing.";
+}
+
+/// Parts of the league may be on other disks. False when the platform cannot sync a whole disk.
+bool DiskFiles::syncDisks() {
+    std::map<std::uintmax_t, fs::path> folderOfDisk;
+    for (const NativePath& folder : unsyncedFolders_)
+        folderOfDisk.emplace(calls_.diskOf(folder), folder);
+    for (const NativePath& file : unsyncedFiles_) {
+        const fs::path folder = fs::path(file).parent_path();
+        folderOfDisk.emplace(calls_.diskOf(folder), folder);
+    }
+    for (const auto& [disk, folder] : folderOfDisk)
+        if (disk != disk::Calls::NoDisk && !calls_.syncDiskOf(folder)) {
+            disk::require(disk::isUnsupported(errno));
+            return false;
+        }
+    return true;
 }
 
 void DiskFiles::sync() {
-    at(root_, "", Syncing, [&](const fs::path& root) {
+    at(root_, "", disk::Syncing, [&](const fs::path&) {
         const bool many = unsyncedFiles_.size() + unsyncedFolders_.size() >= SyncWholeDiskFrom;
-        const bool wholeDisk = many && calls_.syncDiskOf(root);
-        disk::require(wholeDisk || !many || errno == ENOSYS);
-        if (!wholeDisk) {
-            for (const NativePath& file : unsyncedFiles_)
-                requireSynced(calls_.syncFile(file));
-            for (const NativePath& folder : unsyncedFolders_)
-                requireSynced(calls_.syncFolder(folder));
-        }
+        if (many && syncDisks())
+            return;
+        for (const NativePath& file : unsyncedFiles_)
+            requireSynced(calls_.syncFile(file));
+        for (const NativePath& folder : unsyncedFolders_)
+            syncFolder(folder);
     });
     unsyncedFiles_.clear();
     unsyncedFolders_.clear();
+}
+
+std::string DiskFiles::takeLimit() {
+    std::string limit;
+    if (!limitTold_)
+        limit.swap(limit_);
+    limitTold_ = limitTold_ || !limit.empty();
+    return limit;
 }
 
 } // namespace iceline

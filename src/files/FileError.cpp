@@ -22,6 +22,10 @@ FileError FileError::isFile(const std::string& path) {
     return about(path, "is a file, not a folder");
 }
 
+FileError FileError::tooLarge(const std::string& file, std::uintmax_t limit) {
+    return about(file, "the file is too large: more than " + std::to_string(limit >> 20) + " MiB");
+}
+
 FileError FileError::cannotWrite(const std::string& file, const std::string& reason) {
     return about(file, "cannot be written: " + reason);
 }

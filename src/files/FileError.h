@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstdint>
 #include <stdexcept>
 #include <string>
 
@@ -22,6 +23,9 @@ public:
     /// A folder is where a file should be, and the other way round.
     static FileError isFolder(const std::string& path);
     static FileError isFile(const std::string& path);
+
+    /// The file is larger than `limit` bytes, a whole number of MiB.
+    static FileError tooLarge(const std::string& file, std::uintmax_t limit);
 
     static FileError cannotWrite(const std::string& file, const std::string& reason);
     static FileError cannotRemove(const std::string& path, const std::string& reason);

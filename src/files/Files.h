@@ -7,6 +7,8 @@
 
 namespace iceline {
 
+struct Change;
+
 /// When a change has to be on the disk: before the call returns, at the next Files::sync(), or whenever the
 /// operating system sees fit (pages, which can be made again).
 enum class Durability { Now, Later, Unsynced };
@@ -21,7 +23,10 @@ class Files {
 public:
     virtual ~Files() = default;
 
-    /// The whole content of a file.
+    /// The bytes of the largest file that is read whole.
+    static constexpr std::uintmax_t LargestFile = 64u << 20;
+
+    /// The whole content of a file. One that is larger than LargestFile is not read.
     virtual std::string read(const std::string& path) = 0;
 
     /// The first `limit` bytes of a file, or all of it when it is shorter.
@@ -45,6 +50,9 @@ public:
     /// disk by sync(), here as for folders.
     virtual void remove(const std::string& path) = 0;
 
+    /// Gives a file another name, which no file has.
+    virtual void rename(const std::string& path, const std::string& name);
+
     /// Creates a folder and what is missing above it; nothing happens when it exists.
     virtual void makeFolder(const std::string& path) = 0;
 
@@ -53,6 +61,9 @@ public:
 
     virtual bool isFile(const std::string& path) = 0;
     virtual bool isFolder(const std::string& path) = 0;
+
+    /// Whether a link leads the path of the league out of its folder.
+    virtual bool leadsOut(const std::string& path);
 
     /// Size of a file in bytes, 0 for a missing one.
     virtual std::uintmax_t size(const std::string& path) = 0;
@@ -63,6 +74,11 @@ public:
     /// Names of the sub-folders of a folder, in the same order.
     virtual std::vector<std::string> foldersIn(const std::string& folder) = 0;
 
+    /// Tries whether the changes can be made, one after the other, without making any: names fit, files can
+    /// be made and replaced, folders that go hold nothing else. Throws FileError for the first that cannot.
+    /// Files that cannot fail need not try.
+    virtual void tryOut(const std::vector<Change>& changes) { static_cast<void>(changes); }
+
     /// Brings everything to the disk that was changed with Durability::Later.
     virtual void sync() = 0;
 
@@ -70,7 +86,9 @@ public:
     void append(const std::string& path, std::string_view content) { extend(path, size(path), content); }
 };
 
-/// True for a path that names something in the league folder: relative, without an element "..".
+/// True for a path that names something in the league folder, or the folder itself: relative, without an
+/// element
+/// "..".
 bool isInLeague(const std::string& path);
 
 /// Throws FileError for a path that is relative and yet leads out of the league folder.

@@ -1,6 +1,7 @@
 #include "files/Journal.h"
 
 #include "files/FileError.h"
+#include "files/JournalDoubts.h"
 #include "files/JournalFormat.h"
 
 #include <algorithm>
@@ -33,6 +34,7 @@ void Journal::commit(const std::vector<Change>& changes) {
     if (changes.empty())
         return;
     std::ranges::for_each(changes, refuseForeign);
+    files_.tryOut(changes);
     const bool alone = needsOwnJournal(changes);
     if (alone && length_ > 0)
         finish([&] { checkpoint(); });
@@ -55,7 +57,7 @@ void Journal::endRun() {
         finish([&] { checkpoint(); });
 }
 
-Recovery Journal::recover() {
+Recovery Journal::recover(Doubts doubts) {
     if (!unfinished_)
         return Recovery::Nothing;
     if (!files_.isFile(FileName)) {
@@ -63,9 +65,15 @@ Recovery Journal::recover() {
         unfinished_ = false;
         return Recovery::Nothing;
     }
-    const std::vector<Change> changes = wholeCommits(files_.read(FileName));
+    const std::vector<NotedChange> changes = wholeCommits(files_.read(FileName));
+    if (doubts == Doubts::Refuse)
+        if (const auto doubt = doubtAbout(changes, files_))
+            throw FileError::about(FileName,
+                                   "the change noted here cannot be finished. " + *doubt +
+                                       ". Nothing was done; \"iceline recover\" asks whether to make "
+                                       "the change all the same or to set it aside");
     finish([&] {
-        for (const Change& change : changes) {
+        for (const auto& [change, before] : changes) {
             if (change.kind == Kind::Write || change.kind == Kind::Extend)
                 files_.makeFolder(folderOf(change.path));
             makeChange(change, files_);
@@ -75,24 +83,44 @@ Recovery Journal::recover() {
     return changes.empty() ? Recovery::Dropped : Recovery::Finished;
 }
 
+void Journal::setAside(const std::string& name) {
+    files_.rename(FileName, name);
+    files_.sync();
+    length_ = 0;
+    unfinished_ = false;
+}
+
 void Journal::append(const std::vector<Change>& changes) {
-    const std::string entry = (length_ == 0 ? std::string(JournalHeading) : "") + journalEntry(changes);
+    std::vector<FileMark> before;
+    for (const Change& change : changes)
+        before.push_back(markOf(change, files_));
+    const std::string entry =
+        (length_ == 0 ? std::string(JournalHeading) : "") + journalEntry(changes, before);
+    if (length_ + entry.size() > Files::LargestFile)
+        throw FileError::tooLarge(FileName, Files::LargestFile);
     try {
         files_.extend(FileName, length_, entry, Durability::Now);
-    } catch (const FileError&) {
-        dropScraps();
+    } catch (const FileError& error) {
+        takeBack(error);
         throw;
     }
     length_ += entry.size();
 }
 
-/// Where a part of an entry cannot even be removed, the next entry overwrites it, or recover() drops it.
-void Journal::dropScraps() {
+/// An entry that could not be brought to the disk may be there whole, and the next start would then make a
+/// change that was reported as not made.
+void Journal::takeBack(const FileError& failure) {
     try {
         if (length_ == 0)
             files_.remove(FileName);
+        else
+            files_.extend(FileName, length_, "", Durability::Now);
+        files_.sync();
     } catch (const FileError&) {
-        return;
+        unfinished_ = true;
+        throw FileError::withAdvice(failure,
+                                    "What was noted of the change could not be taken back either, so the "
+                                    "next start may still make it. Look before you do it again");
     }
 }
 
@@ -114,7 +142,8 @@ void Journal::finish(Steps steps) {
     } catch (const FileError& error) {
         throw FileError::withAdvice(error,
                                     "The change is noted in \"" + std::string(FileName) +
-                                        "\" and will be finished before the next one or at the next start");
+                                        "\" and will be finished before the next one or at the next start; "
+                                        "where that cannot be, \"iceline recover\" sets it aside");
     }
     unfinished_ = false;
 }

@@ -8,6 +8,11 @@
 
 namespace iceline {
 
+class FileError;
+
+/// Whether changes are made to files that are not as they were when the changes were worked out.
+enum class Doubts { Refuse, Ignore };
+
 /// What start-up found of the journal.
 enum class Recovery { Nothing, Finished, Dropped };
 
@@ -41,11 +46,15 @@ public:
     /// Finishes the whole commits of a journal that was left, drops a torn one, and removes the
     /// journal. Doing so twice, or after a part of it was done, gives the same files. Costs nothing when
     /// every commit of this object was finished; in a run, what is due at its end is left to that.
-    Recovery recover();
+    /// Throws FileError when a change cannot be made, or is in doubt (doubtAbout()) and doubts are refused.
+    Recovery recover(Doubts doubts = Doubts::Refuse);
+
+    /// Gives the journal another name, so that its changes are never made. The files stay as they are.
+    void setAside(const std::string& name);
 
 private:
     void append(const std::vector<Change>& changes);
-    void dropScraps();
+    void takeBack(const FileError& failure);
     void checkpoint();
 
     template <class Steps>

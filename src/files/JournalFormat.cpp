@@ -1,7 +1,9 @@
 #include "files/JournalFormat.h"
 
-#include <cstdint>
-#include <optional>
+#include "files/Files.h"
+
+#include <algorithm>
+#include <iterator>
 #include <utility>
 
 namespace iceline {
@@ -10,13 +12,11 @@ namespace {
 
 constexpr std::size_t NumberSize = 8;
 
-/// The FNV-1a hash of 64 bits.
-std::uint64_t checksum(std::string_view bytes) {
-    std::uint64_t hash = 0xcbf29ce484222325;
-    for (const char byte : bytes)
-        hash = (hash ^ static_cast<unsigned char>(byte)) * 0x100000001b3;
-    return hash;
-}
+/// The first line of a journal that does not say what the files were before.
+constexpr std::string_view FirstHeading =
+    "Iceline Scorebook journal 1: changes that were begun, to be finished at the next start.\n";
+
+enum class Version { First, Second };
 
 void addNumber(std::string& bytes, std::uint64_t number) {
     for (std::size_t i = 0; i < NumberSize; ++i)
@@ -62,25 +62,47 @@ private:
     std::string_view rest_;
 };
 
-std::optional<Change> takeChange(Bytes& bytes) {
+/// Whether a path names something within the league folder in one way only.
+bool isPlain(std::string_view path) {
+    for (std::size_t begin = 0; begin <= path.size();) {
+        const std::size_t end = std::min(path.find('/', begin), path.size());
+        const std::string_view name = path.substr(begin, end - begin);
+        if (name.empty() || name == ".")
+            return false;
+        begin = end + 1;
+    }
+    return isInLeague(std::string(path));
+}
+
+std::optional<FileMark> takeMark(Bytes& bytes) {
+    const auto exists = bytes.takeNumber();
+    const auto size = bytes.takeNumber();
+    const auto sum = bytes.takeNumber();
+    return sum ? std::optional(FileMark{*exists != 0, *size, *sum}) : std::nullopt;
+}
+
+std::optional<NotedChange> takeChange(Bytes& bytes, Version version) {
     const auto kind = bytes.takeNumber();
     const auto path = bytes.takeText();
     const auto length = bytes.takeNumber();
     const auto content = bytes.takeText();
-    if (!content || *kind > static_cast<std::uint64_t>(Change::Kind::RemoveFolder))
+    const auto before = version == Version::Second ? takeMark(bytes) : std::nullopt;
+    if (!content || *kind > static_cast<std::uint64_t>(Change::Kind::RemoveFolder) || !isPlain(*path))
         return std::nullopt;
-    Change change{static_cast<Change::Kind>(*kind), std::string(*path), *length, std::string(*content)};
-    return isInLeague(change.path) ? std::optional(std::move(change)) : std::nullopt;
+    if (version == Version::Second && !before)
+        return std::nullopt;
+    return NotedChange{{static_cast<Change::Kind>(*kind), std::string(*path), *length, std::string(*content)},
+                       before};
 }
 
-std::optional<std::vector<Change>> takeCommit(Bytes& journal) {
+std::optional<std::vector<NotedChange>> takeCommit(Bytes& journal, Version version) {
     const auto sum = journal.takeNumber();
     const auto body = journal.takeText();
     if (!body || checksum(*body) != *sum)
         return std::nullopt;
-    std::vector<Change> changes;
+    std::vector<NotedChange> changes;
     for (Bytes bytes(*body); !bytes.atEnd();) {
-        auto change = takeChange(bytes);
+        auto change = takeChange(bytes, version);
         if (!change)
             return std::nullopt;
         changes.push_back(std::move(*change));
@@ -90,13 +112,23 @@ std::optional<std::vector<Change>> takeCommit(Bytes& journal) {
 
 } // namespace
 
-std::string journalEntry(const std::vector<Change>& changes) {
+std::uint64_t checksum(std::string_view bytes) {
+    std::uint64_t hash = 0xcbf29ce484222325;
+    for (const char byte : bytes)
+        hash = (hash ^ static_cast<unsigned char>(byte)) * 0x100000001b3;
+    return hash;
+}
+
+std::string journalEntry(const std::vector<Change>& changes, const std::vector<FileMark>& before) {
     std::string body;
-    for (const Change& change : changes) {
-        addNumber(body, static_cast<std::uint64_t>(change.kind));
-        addText(body, change.path);
-        addNumber(body, change.length);
-        addText(body, change.content);
+    for (std::size_t i = 0; i < changes.size(); ++i) {
+        addNumber(body, static_cast<std::uint64_t>(changes[i].kind));
+        addText(body, changes[i].path);
+        addNumber(body, changes[i].length);
+        addText(body, changes[i].content);
+        addNumber(body, before[i].exists ? 1 : 0);
+        addNumber(body, before[i].size);
+        addNumber(body, before[i].checksum);
     }
     std::string entry;
     addNumber(entry, checksum(body));
@@ -104,12 +136,14 @@ std::string journalEntry(const std::vector<Change>& changes) {
     return entry;
 }
 
-std::vector<Change> wholeCommits(std::string_view journal) {
-    std::vector<Change> all;
-    if (!journal.starts_with(JournalHeading))
+std::vector<NotedChange> wholeCommits(std::string_view journal) {
+    const Version version = journal.starts_with(FirstHeading) ? Version::First : Version::Second;
+    const std::string_view heading = version == Version::First ? FirstHeading : JournalHeading;
+    std::vector<NotedChange> all;
+    if (!journal.starts_with(heading))
         return all;
-    Bytes rest(journal.substr(JournalHeading.size()));
-    while (auto changes = takeCommit(rest))
+    Bytes rest(journal.substr(heading.size()));
+    while (auto changes = takeCommit(rest, version))
         all.insert(all.end(), std::make_move_iterator(changes->begin()),
                    std::make_move_iterator(changes->end()));
     return all;

@@ -1,7 +1,9 @@
 #pragma once
 
-#include "files/StagedFiles.h"
+#include "files/Change.h"
 
+#include <cstdint>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -10,13 +12,23 @@ namespace iceline {
 
 /// The first line of a journal, for the user who opens one.
 inline constexpr std::string_view JournalHeading =
-    "Iceline Scorebook journal 1: changes that were begun, to be finished at the next start.\n";
+    "Iceline Scorebook journal 2: changes that were begun, to be finished at the next start.\n";
 
-/// A commit as it is in a journal, after the heading and earlier commits (docs/journal.md).
-std::string journalEntry(const std::vector<Change>& changes);
+/// A change as it is in a journal, with what its file was before; journals of the first version do not say.
+struct NotedChange {
+    Change change;
+    std::optional<FileMark> before;
+};
+
+/// The FNV-1a hash of 64 bits.
+std::uint64_t checksum(std::string_view bytes);
+
+/// A commit as it is in a journal, after the heading and earlier commits (docs/journal.md). A mark for each
+/// change.
+std::string journalEntry(const std::vector<Change>& changes, const std::vector<FileMark>& before);
 
 /// The changes of all whole commits of a journal, in order. The first commit that is cut, whose checksum does
-/// not fit or that names a file outside the league folder ends them.
-std::vector<Change> wholeCommits(std::string_view journal);
+/// not fit or that names what is no file or folder in the league folder ends them.
+std::vector<NotedChange> wholeCommits(std::string_view journal);
 
 } // namespace iceline

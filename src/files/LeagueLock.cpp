@@ -5,6 +5,7 @@
 #include "files/OpenFile.h"
 
 #include <algorithm>
+#include <array>
 #include <cctype>
 #include <ctime>
 #include <iomanip>
@@ -34,6 +35,13 @@ std::string readHolder(disk::OpenFile& file) {
     return {text.begin(), end};
 }
 
+/// Whether the disk, and not what is in the lock's place, keeps the lock from being written.
+bool isOfDisk(const std::error_code& error) {
+    static constexpr std::array reasons{std::errc::read_only_file_system, std::errc::permission_denied,
+                                        std::errc::operation_not_permitted, std::errc::no_space_on_device};
+    return std::ranges::any_of(reasons, [&](std::errc reason) { return error == reason; });
+}
+
 } // namespace
 
 struct LeagueLock::Handle {
@@ -43,26 +51,43 @@ struct LeagueLock::Handle {
     disk::OpenFile file;
 };
 
-LeagueLock::LeagueLock(const std::filesystem::path& folder, const char* program) {
+void LeagueLock::take(const std::filesystem::path& path, const char* program) {
+    handle_ = std::make_unique<Handle>(path);
+    switch (handle_->file.lock()) {
+    case disk::OpenFile::Locked::Yes:
+        break;
+    case disk::OpenFile::Locked::ByAnother: {
+        const std::string holder = readHolder(handle_->file);
+        throw FileError::about(FileName,
+                               "the league is in use by " + (holder.empty() ? "another program" : holder));
+    }
+    case disk::OpenFile::Locked::Unsupported:
+        warning_ =
+            "The disk of the league cannot lock files. Do not open the league with two programs at once.";
+        break;
+    }
+    handle_->file.cut(0);
+    handle_->file.write(holderText(program) + "\n");
+}
+
+LeagueLock::LeagueLock(const std::filesystem::path& folder, const char* program, For purpose) {
     constexpr disk::Task Locking{"the league folder cannot be written", std::filesystem::file_type::regular,
                                  false};
     const std::filesystem::path path = folder / FileName;
     try {
-        handle_ = std::make_unique<Handle>(path);
-        if (!handle_->file.lock()) {
-            const std::string holder = readHolder(handle_->file);
-            throw FileError::about(FileName, "the league is in use by " +
-                                                 (holder.empty() ? "another program" : holder));
-        }
-        handle_->file.cut(0);
-        handle_->file.write(holderText(program) + "\n");
+        take(path, program);
     } catch (const std::system_error& error) {
-        throw FileError::about(FileName, disk::explain(Locking, path, error.code()));
+        canWrite_ = false;
+        if (purpose == For::Changing || !isOfDisk(error.code()))
+            throw FileError::about(FileName, disk::explain(Locking, path, error.code()));
     }
 }
 
+LeagueLock::LeagueLock(LeagueLock&&) noexcept = default;
+
 LeagueLock::~LeagueLock() {
-    handle_->file.tryToCut(0);
+    if (handle_)
+        handle_->file.tryToCut(0);
 }
 
 } // namespace iceline

@@ -13,6 +13,10 @@ void require(bool done) {
         throw std::system_error(errno, std::generic_category());
 }
 
+bool isUnsupported(int reason) {
+    return reason == EINVAL || reason == ENOTSUP || reason == EOPNOTSUPP || reason == ENOSYS;
+}
+
 OpenFile::OpenFile(Calls& calls, const std::filesystem::path& path, Purpose purpose)
     : calls_(calls), handle_(calls.open(path, purpose)) {
     if (handle_ < 0 && errno == EEXIST && purpose == Purpose::Create) {
@@ -23,8 +27,12 @@ OpenFile::OpenFile(Calls& calls, const std::filesystem::path& path, Purpose purp
 }
 
 OpenFile::~OpenFile() {
+    tryToClose();
+}
+
+void OpenFile::tryToClose() noexcept {
     if (handle_ >= 0)
-        calls_.close(handle_);
+        calls_.close(std::exchange(handle_, -1));
 }
 
 std::uintmax_t OpenFile::size() const {
@@ -94,11 +102,13 @@ void OpenFile::sync() {
     require(calls_.sync(handle_));
 }
 
-bool OpenFile::lock() {
+OpenFile::Locked OpenFile::lock() {
     if (calls_.lock(handle_))
-        return true;
-    require(errno == EWOULDBLOCK);
-    return false;
+        return Locked::Yes;
+    if (errno == EWOULDBLOCK)
+        return Locked::ByAnother;
+    require(isUnsupported(errno) || errno == ENOLCK);
+    return Locked::Unsupported;
 }
 
 void OpenFile::close() {

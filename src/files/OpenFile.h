@@ -41,11 +41,13 @@ public:
     void takePermissions(const std::filesystem::path& replaced);
     void sync();
 
-    /// False when another process holds the lock, which lasts until the file is closed.
-    bool lock();
+    /// Locks the file until it is closed, unless another process has done so or the disk cannot lock.
+    enum class Locked { Yes, ByAnother, Unsupported };
+    Locked lock();
 
     /// Closes the file; what was written may fail only here. The destructor closes without a word.
     void close();
+    void tryToClose() noexcept;
 
 private:
     /// Reads up to `size` bytes, 0 at the end of the file.
@@ -54,6 +56,9 @@ private:
     Calls& calls_;
     int handle_;
 };
+
+/// Whether an errno says that the disk has no such call.
+bool isUnsupported(int reason);
 
 /// Throws std::system_error with what errno says, unless `done`.
 void require(bool done);

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "files/Change.h"
 #include "files/Files.h"
 
 #include <cstdint>
@@ -8,18 +9,6 @@
 #include <vector>
 
 namespace iceline {
-
-/// One step of what an operation does to the disk.
-struct Change {
-    enum class Kind { MakeFolder, Write, Extend, Remove, RemoveFolder };
-
-    Kind kind = Kind::Write;
-    std::string path;
-    std::uintmax_t length = 0; ///< Extend: the file's length before the content
-    std::string content;       ///< Write, Extend
-
-    friend bool operator==(const Change&, const Change&) = default;
-};
 
 /// Makes a change; Files::sync() brings it to the disk.
 void makeChange(const Change& change, Files& files);

@@ -3,7 +3,9 @@
 
 #include "files/DiskFiles.h"
 #include "files/Journal.h"
+#include "files/JournalFormat.h"
 #include "files/LeagueLock.h"
+#include "files/OpenFile.h"
 #include "support/ErrorMessage.h"
 #include "support/TemporaryFolder.h"
 
@@ -121,11 +123,13 @@ TEST_F(DiskFaultsTest, AChangeThatFoundNoRoomIsFinishedLater) {
         files.write("ballast", std::string(20'000, 'x'));
         const std::string page(24'000, 'p');
         Journal journal(files);
-        EXPECT_EQ(errorMessage([&] {
-                      journal.commit({{Change::Kind::Write, "page.htm", 0, page}});
-                  }),
-                  "page.htm: cannot be written: the disk is full. The change is noted in \"Unfinished "
-                  "Changes.journal\" and will be finished before the next one or at the next start");
+        EXPECT_EQ(
+            errorMessage([&] {
+                journal.commit({{Change::Kind::Write, "page.htm", 0, page}});
+            }),
+            "page.htm: cannot be written: the disk is full. The change is noted in \"Unfinished "
+            "Changes.journal\" and will be finished before the next one or at the next start; where that "
+            "cannot be, \"iceline recover\" sets it aside");
         EXPECT_FALSE(files.isFile("page.htm"));
         files.remove("ballast");
         EXPECT_EQ(Journal(files).recover(), Recovery::Finished);
@@ -201,6 +205,130 @@ TEST_F(DiskFaultsTest, PermissionsAreKeptAndHeeded) {
         EXPECT_EQ(errorMessage([&] { LeagueLock(folder.path() / "BOS", "iceline"); }),
                   "League in use.lock: the league folder cannot be written: permission denied");
         EXPECT_EQ(files.read("fixed.txt"), "x");
+        return true;
+    });
+}
+
+/// What cannot be carried out is refused before it is noted, so that the league can still be opened.
+TEST_F(DiskFaultsTest, AChangeThatCannotBeMadeIsRefusedAsAWhole) {
+    files.write("Records.txt", "0,0", Durability::Now);
+    files.makeFolder("Coaches/Lee");
+    files.makeFolder("BOS");
+    fs::create_symlink("nowhere", folder.path() / "Coaches/Lee/link");
+    files.write("fixed.txt", "x", Durability::Now);
+    ASSERT_EQ(chmod((folder.path() / "fixed.txt").c_str(), 0444), 0);
+    ASSERT_EQ(chmod(folder.path().c_str(), 0777), 0);
+    ASSERT_EQ(chmod((folder.path() / "BOS").c_str(), 0555), 0);
+    for (const char* name : {"Records.txt", "Coaches", "Coaches/Lee"})
+        ASSERT_EQ(chmod((folder.path() / name).c_str(), 0777), 0);
+    using enum Change::Kind;
+    const std::string longName(252, 'n');
+    const Change record{Write, "Records.txt", 0, "1,0"};
+    const std::vector<std::pair<Change, std::string>> refused{
+        {{Write, longName, 0, "x"}, longName + ": cannot be written: its name is too long"},
+        {{Write, "Coaches/" + longName + "/Records.txt", 0, "x"}, "its folder is missing"},
+        {{MakeFolder, "Coaches/" + longName, 0, ""}, "cannot be made: its name is too long"},
+        {{MakeFolder, "Coaches/Lee/link", 0, ""}, "cannot be made: something else has its name"},
+        {{RemoveFolder, "Coaches/Lee", 0, ""}, "Coaches/Lee: cannot be removed: it still holds \"link\""},
+        {{Write, "fixed.txt", 0, "y"}, "fixed.txt: cannot be written: permission denied"},
+        {{Extend, "fixed.txt", 1, "y"}, "fixed.txt: cannot be written: permission denied"},
+        {{Write, "BOS/Records.txt", 0, "y"}, "BOS/Records.txt: cannot be written: permission denied"},
+        {{Write, "BOS", 0, "y"}, "BOS: is a folder, not a file"}};
+    inChild([&] {
+        if (geteuid() == 0 && seteuid(65534) != 0)
+            return false;
+        for (const auto& [change, message] : refused) {
+            Journal journal(files);
+            EXPECT_THAT(errorMessage([&] { journal.commit({record, change}); }), testing::HasSubstr(message));
+            EXPECT_EQ(journal.recover(), Recovery::Nothing);
+        }
+        EXPECT_EQ(files.read("Records.txt"), "0,0");
+        EXPECT_THAT(files.filesIn(""), ElementsAre("fixed.txt", "Records.txt"));
+        return true;
+    });
+}
+
+TEST_F(DiskFaultsTest, ATriedChangeLeavesNothingAndNewFoldersAreTriedToo) {
+    const std::string name(252, 'n');
+    Journal journal(files);
+    EXPECT_THAT(errorMessage([&] {
+                    journal.commit({{Change::Kind::MakeFolder, "Coaches", 0, ""},
+                                    {Change::Kind::MakeFolder, "Coaches/Lee", 0, ""},
+                                    {Change::Kind::Write, "Coaches/Lee/" + name, 0, "x"}});
+                }),
+                testing::HasSubstr("its name is too long"));
+    EXPECT_TRUE(fs::is_empty(folder.path()));
+}
+
+TEST_F(DiskFaultsTest, ALinkLeadsNobodyOut) {
+    const TemporaryFolder outside;
+    std::ofstream(outside.path() / "mine.txt") << "mine";
+    const auto mine = [&] { return DiskFiles(outside.path()).read("mine.txt"); };
+    fs::create_symlink(outside.path() / "mine.txt", folder.path() / LeagueLock::FileName);
+    EXPECT_EQ(errorMessage([&] { LeagueLock(folder.path(), "iceline"); }),
+              "League in use.lock: the league folder cannot be written: it is a link");
+    EXPECT_EQ(mine(), "mine");
+
+    fs::create_symlink(outside.path() / "mine.txt", folder.path() / "list.txt");
+    files.extend("list.txt", 2, "x", Durability::Now);
+    EXPECT_EQ(files.read("list.txt"), "mix");
+    EXPECT_EQ(mine(), "mine");
+
+    fs::create_directory_symlink(outside.path(), folder.path() / "BOS");
+    const std::vector<Change> changes{{Change::Kind::Write, "BOS/mine.txt", 0, "theirs"}};
+    files.write(Journal::FileName, std::string(JournalHeading) + journalEntry(changes, {FileMark()}),
+                Durability::Now);
+    EXPECT_THAT(errorMessage([&] { Journal(files).recover(); }),
+                testing::HasSubstr("BOS/mine.txt: a link leads out of the league folder"));
+    EXPECT_EQ(mine(), "mine");
+}
+
+TEST_F(DiskFaultsTest, AHugeFileIsNamedAndNotRead) {
+    std::ofstream(folder.path() / "Records.txt") << "x";
+    fs::resize_file(folder.path() / "Records.txt", Files::LargestFile + 1);
+    EXPECT_EQ(errorMessage([&] { files.read("Records.txt"); }),
+              "Records.txt: the file is too large: more than 64 MiB");
+    EXPECT_EQ(files.readFirst("Records.txt", 1), "x");
+}
+
+namespace {
+
+/// A disk that can neither lock nor sync folders.
+class PlainDisk : public disk::Calls {
+public:
+    bool lock(int) override {
+        errno = ENOLCK;
+        return false;
+    }
+    bool syncFolder(const fs::path&) override {
+        errno = EINVAL;
+        return false;
+    }
+};
+
+} // namespace
+
+TEST_F(DiskFaultsTest, ADiskThatCanDoLessIsNamedOnceAndUsed) {
+    PlainDisk calls;
+    DiskFiles plain(folder.path(), calls);
+    Journal journal(plain);
+    EXPECT_EQ(plain.takeLimit(), "");
+    for (const char* content : {"0,0", "1,0"})
+        journal.commit({{Change::Kind::Write, "Records.txt", 0, content}});
+    EXPECT_EQ(files.read("Records.txt"), "1,0");
+    EXPECT_THAT(plain.takeLimit(), testing::HasSubstr("cannot bring the names of files to the disk"));
+    journal.commit({{Change::Kind::Write, "Records.txt", 0, "2,0"}});
+    EXPECT_EQ(plain.takeLimit(), "");
+    disk::OpenFile file(calls, folder.path() / "lock", disk::Purpose::Change);
+    EXPECT_EQ(file.lock(), disk::OpenFile::Locked::Unsupported);
+}
+
+TEST_F(DiskFaultsTest, WhoOnlyLooksNeedsNoLock) {
+    inChild([&] {
+        if (!mountSmallDisk(folder.path()) || !makeReadOnly(folder.path()))
+            return false;
+        const LeagueLock lock(folder.path(), "iceline", LeagueLock::For::Looking);
+        EXPECT_FALSE(lock.canWrite());
         return true;
     });
 }

@@ -1,6 +1,8 @@
 #include "files/Journal.h"
 
 #include "files/FileError.h"
+#include "files/JournalFormat.h"
+#include "support/ErrorMessage.h"
 #include "support/FailingFiles.h"
 #include "support/MemoryFiles.h"
 
@@ -133,14 +135,14 @@ TEST(JournalTest, ADamagedByteEndsTheJournalThere) {
     }
 }
 
-/// A power cut in a run leaves each file as it was after any of the games, torn or empty; of a list at least
-/// what it held before the run.
+/// A power cut in a run leaves each file as it was after any of the games, cut short or with zeros; of a list
+/// at least what it held before the run.
 TEST(JournalTest, DoneAgainGivesTheSameFiles) {
     const std::string journal = journalOfRun();
     const std::vector<State> whole = afterAnyNumberOfGames();
     for (const State& record : whole)
         for (const State& list : whole)
-            for (const char* torn : {"", "torn\n"}) {
+            for (const std::string& torn : {std::string(), std::string("MTL"), std::string("MTL \0\0", 6)}) {
                 MemoryFiles files = league();
                 files.files["BOS/Records.txt"] = record.first.at("BOS/Records.txt");
                 files.files["MTL/Records.txt"] = torn;
@@ -228,14 +230,16 @@ TEST(JournalTest, SaysThatAChangeIsNotedAndFinishesItFirst) {
     const std::vector<Change> changes = first.changes();
     const std::vector<Change> late = second.changes();
 
-    files.failAt(3, Failure::Once);
+    files.failAt(13, Failure::Once);
     try {
         journal.commit(changes);
         FAIL() << "the disk had to fail";
     } catch (const FileError& error) {
-        EXPECT_STREQ(error.what(),
-                     "Coaches/Lee: the disk fails for the test. The change is noted in \"Unfinished "
-                     "Changes.journal\" and will be finished before the next one or at the next start");
+        EXPECT_STREQ(
+            error.what(),
+            "Coaches/Lee: the disk fails for the test. The change is noted in \"Unfinished "
+            "Changes.journal\" and will be finished before the next one or at the next start; where that "
+            "cannot be, \"iceline recover\" sets it aside");
     }
     try {
         journal.commit(late);
@@ -277,6 +281,112 @@ TEST(JournalTest, ARemovedFolderMayComeBackInTheSameRun) {
         {{Change::Kind::MakeFolder, "Coaches", 0, ""}, {Change::Kind::Write, "Coaches/Lee.txt", 0, "0"}});
     EXPECT_EQ(Journal(files).recover(), Recovery::Finished);
     EXPECT_EQ(files.read("Coaches/Lee.txt"), "0");
+}
+
+namespace {
+
+/// A disk that reports an error although it has kept all that was written, as at a failed sync.
+class LyingFiles : public MemoryFiles {
+public:
+    using MemoryFiles::MemoryFiles;
+    explicit LyingFiles(const MemoryFiles& files) : MemoryFiles(files) {}
+
+    void extend(const std::string& path, std::uintmax_t length, std::string_view content,
+                Durability durability) override {
+        MemoryFiles::extend(path, length, content, durability);
+        if (lies && path == Journal::FileName && !content.empty())
+            throw FileError::cannotWrite(path, "the disk reports an error");
+    }
+    void remove(const std::string& path) override {
+        if (keepsJournal && path == Journal::FileName)
+            throw FileError::cannotRemove(path, "the disk reports an error");
+        MemoryFiles::remove(path);
+    }
+
+    bool lies = true;
+    bool keepsJournal = false;
+};
+
+std::string number(std::uint64_t value) {
+    std::string bytes;
+    for (int i = 0; i < 8; ++i)
+        bytes += static_cast<char>(value >> (8 * i));
+    return bytes;
+}
+
+std::string text(const std::string& value) {
+    return number(value.size()) + value;
+}
+
+/// A journal of the first version that writes one file.
+std::string firstVersion(const std::string& path, const std::string& content) {
+    const std::string body = number(1) + text(path) + number(0) + text(content);
+    return "Iceline Scorebook journal 1: changes that were begun, to be finished at the next start.\n" +
+           number(checksum(body)) + text(body);
+}
+
+} // namespace
+
+TEST(JournalTest, AChangeReportedAsNotMadeIsNeverMade) {
+    for (const bool run : {false, true}) {
+        LyingFiles files(league());
+        Journal journal(files);
+        files.lies = false;
+        if (run) {
+            journal.beginRun();
+            commitGame(files, journal, 1);
+        }
+        files.lies = true;
+        EXPECT_EQ(errorMessage([&] { commitGame(files, journal, 2); }),
+                  "Unfinished Changes.journal: cannot be written: the disk reports an error");
+        Journal(files).recover();
+        EXPECT_EQ(stateOf(files), afterGames(run ? 1 : 0));
+    }
+    LyingFiles files(league());
+    files.keepsJournal = true;
+    Journal journal(files);
+    EXPECT_THAT(errorMessage([&] { commitGame(files, journal, 1); }), HasSubstr("may still make it"));
+}
+
+TEST(JournalTest, ABackupCopiedOverTheLeagueIsNoticed) {
+    const std::string journal = journalOfRun();
+    const std::vector<std::function<void(MemoryFiles&)>> copies{
+        [](MemoryFiles& files) { files.files["BOS/Records.txt"] = "BOS of the backup"; },
+        [](MemoryFiles& files) { files.files.erase("MTL/Records.txt"); },
+        [](MemoryFiles& files) { files.files["BoxScores.htm"] = "he"; }};
+    for (const auto& copy : copies) {
+        MemoryFiles files = league();
+        files.files[Journal::FileName] = journal;
+        copy(files);
+        const State before = stateOf(files);
+        EXPECT_THAT(errorMessage([&] { Journal(files).recover(); }), HasSubstr("has been changed since"));
+        EXPECT_EQ(stateOf(files), before);
+
+        MemoryFiles aside = files;
+        Journal(aside).setAside("old.journal");
+        EXPECT_EQ(Journal(aside).recover(), Recovery::Nothing);
+        EXPECT_EQ(aside.read("old.journal"), journal);
+
+        Journal(files).recover(Doubts::Ignore);
+        EXPECT_EQ(files.read("BOS/Records.txt"), "BOS 4");
+    }
+}
+
+TEST(JournalTest, FinishesAJournalOfTheFirstVersion) {
+    MemoryFiles files = league();
+    files.files[Journal::FileName] = firstVersion("BOS/Records.txt", "BOS 7");
+    files.files["BOS/Records.txt"] = "whatever it is now";
+    EXPECT_EQ(Journal(files).recover(), Recovery::Finished);
+    EXPECT_EQ(files.read("BOS/Records.txt"), "BOS 7");
+}
+
+TEST(JournalTest, MadeByHandMovesNothingOutside) {
+    for (const std::string path : {"", "../x", "/etc/passwd", "BOS/../../x", "./x", "BOS//x", "BOS/"}) {
+        MemoryFiles files = league();
+        files.files[Journal::FileName] = firstVersion(path, "x");
+        EXPECT_EQ(Journal(files).recover(), Recovery::Dropped) << path;
+        EXPECT_EQ(stateOf(files), afterGames(0)) << path;
+    }
 }
 
 TEST(JournalTest, StaysInTheLeagueFolder) {

@@ -37,7 +37,7 @@ MemoryFiles UnsyncedDisk::afterPowerCut(Leaves leaves) const {
     const Names names = namesAfterPowerCut(leaves.names);
     MemoryFiles found;
     for (const std::string& folder : names.folders)
-        if (found.isFolder(folderOf(folder)))
+        if (found.isFolder(folderOf(folder)) && !folder.ends_with(DiskFiles::TemporarySuffix))
             found.folders.insert(folder);
     for (const auto& [path, content] : names.files)
         if (found.isFolder(folderOf(path)) && !path.ends_with(DiskFiles::TemporarySuffix))

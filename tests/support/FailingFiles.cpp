@@ -55,6 +55,10 @@ void FailingFiles::remove(const std::string& path) {
     use(path).remove(path);
 }
 
+void FailingFiles::rename(const std::string& path, const std::string& name) {
+    use(path).rename(path, name);
+}
+
 void FailingFiles::makeFolder(const std::string& path) {
     use(path).makeFolder(path);
 }
@@ -71,6 +75,10 @@ bool FailingFiles::isFolder(const std::string& path) {
     return use(path).isFolder(path);
 }
 
+bool FailingFiles::leadsOut(const std::string& path) {
+    return use(path).leadsOut(path);
+}
+
 std::uintmax_t FailingFiles::size(const std::string& path) {
     return use(path).size(path);
 }
@@ -81,6 +89,10 @@ std::vector<std::string> FailingFiles::filesIn(const std::string& folder) {
 
 std::vector<std::string> FailingFiles::foldersIn(const std::string& folder) {
     return use(folder).foldersIn(folder);
+}
+
+void FailingFiles::tryOut(const std::vector<Change>& changes) {
+    use("the league folder").tryOut(changes);
 }
 
 void FailingFiles::sync() {

@@ -35,13 +35,16 @@ public:
     void extend(const std::string& path, std::uintmax_t length, std::string_view content,
                 Durability durability) override;
     void remove(const std::string& path) override;
+    void rename(const std::string& path, const std::string& name) override;
     void makeFolder(const std::string& path) override;
     void removeFolder(const std::string& path) override;
     bool isFile(const std::string& path) override;
     bool isFolder(const std::string& path) override;
+    bool leadsOut(const std::string& path) override;
     std::uintmax_t size(const std::string& path) override;
     std::vector<std::string> filesIn(const std::string& folder) override;
     std::vector<std::string> foldersIn(const std::string& folder) override;
+    void tryOut(const std::vector<Change>& changes) override;
     void sync() override;
 
 private:
