@@ -82,7 +82,7 @@ std::string knownCoach(Session& session, const std::string& name) {
 void addCoachCommands(CLI::App& program, Call& call) {
     CLI::App& coach = *program.add_subcommand("coach", "Look after the coaches")->group("Commands");
     coach.require_subcommand(1);
-    addCommand(coach, call, "list", "List the coaches", listCoaches);
+    addCommand(coach, call, "list", "List the coaches", listCoaches, Works::Looking);
     const auto [add, added] = addCommand<std::string>(coach, call, "add", "Add a coach", addCoach);
     addArgument(*add, "NAME", *added, "at most 20 characters; a blank becomes _");
     const auto [rename, names] =
@@ -95,8 +95,8 @@ void addCoachCommands(CLI::App& program, Call& call) {
     const auto [clear, cleared] =
         addCommand<std::string>(coach, call, "clear", "Set a coach's record back to nothing", clearCoach);
     addArgument(*clear, "NAME", *cleared, "the coach");
-    const auto [show, shown] =
-        addCommand<std::string>(coach, call, "show", "Print a coach's figures and write his page", showCoach);
+    const auto [show, shown] = addCommand<std::string>(
+        coach, call, "show", "Print a coach's figures and write his page", showCoach, Works::Looking);
     addArgument(*show, "NAME", *shown, "the coach");
 }
 

@@ -11,8 +11,9 @@
 
 namespace iceline::cli {
 
-/// Whether a command works on the league; the session is then started before it.
-enum class Works { OnLeague, Alone };
+/// Whether a command changes the league, looks at it alone, or does without it or its start-up. The session
+/// is started before the first two.
+enum class Works { OnLeague, Looking, Alone };
 
 /// What the words of a call have chosen.
 struct Call {
@@ -50,6 +51,7 @@ void addSeasonCommands(CLI::App& program, Call& call);
 void addSampleGamesCommand(CLI::App& program, Call& call);
 void addWindowCommands(CLI::App& program, Call& call);
 void addCoachCommands(CLI::App& program, Call& call);
+void addRecoverCommand(CLI::App& program, Call& call);
 void addPreviewCommand(CLI::App& program, Call& call);
 void addScriptCommand(CLI::App& program, Call& call);
 void addHelpCommand(CLI::App& program, Call& call);

@@ -31,9 +31,10 @@ void addAll(CLI::App& program, Call& call, LeagueChoice& choice) {
     program.get_formatter()->label("REQUIRED", "");
     program.add_option("--league", choice.folder, "the league folder (default: the current folder)")
         ->type_name("DIR");
-    program.add_flag("--yes", choice.yes, "answer the start-up question with OK");
+    program.add_flag("--yes", choice.yes, "answer questions with OK");
     program.set_version_flag("--version", "iceline " ICELINE_VERSION);
     addScriptableCommands(program, call);
+    addRecoverCommand(program, call);
     addPreviewCommand(program, call);
     addScriptCommand(program, call);
 }
@@ -61,6 +62,8 @@ Status carryOut(const Call& call, Session& session) {
     if (!call.action)
         return Status::Done;
     if (call.works == Works::OnLeague && !session.start())
+        return Status::Refused;
+    if (call.works == Works::Looking && !session.startLooking())
         return Status::Refused;
     return call.action(session);
 }

@@ -86,8 +86,8 @@ void addChoices(CLI::App& command, Import& import) {
 } // namespace
 
 void addGameCommands(CLI::App& program, Call& call) {
-    const auto [readCommand, file] =
-        addCommand<std::string>(program, call, "read", "Print the game report of a save state", read);
+    const auto [readCommand, file] = addCommand<std::string>(
+        program, call, "read", "Print the game report of a save state", read, Works::Looking);
     addArgument(*readCommand, "FILE", *file, "the save state of a finished game");
 
     const auto [importCommand, game] =

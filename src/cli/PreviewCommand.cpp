@@ -25,7 +25,7 @@ Status preview(Session& session, const unsigned short& port) {
 void addPreviewCommand(CLI::App& program, Call& call) {
     const auto [command, port] = addCommand<unsigned short>(
         program, call, "preview", "Show the web site to browsers on this machine until it is stopped",
-        preview);
+        preview, Works::Looking);
     *port = SitePreview::DefaultPort;
     command->add_option("--port", *port, "the port to serve it at; 0 takes any that is free")
         ->type_name("N")

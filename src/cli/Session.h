@@ -3,6 +3,7 @@
 #include "cli/ConsolePlatform.h"
 #include "files/DiskFiles.h"
 #include "files/LeagueLock.h"
+#include "files/StagedFiles.h"
 #include "shell/Application.h"
 
 #include <filesystem>
@@ -15,7 +16,7 @@ namespace iceline::cli {
 /// How a command ended; the value is the exit status.
 enum class Status { Done = 0, Refused = 1, Misused = 2 };
 
-/// An argument is off. what() is one line for the user that names it.
+/// An argument is wrong. what() is one line for the user that names it.
 class UsageError : public std::runtime_error {
     using std::runtime_error::runtime_error;
 };
@@ -23,20 +24,31 @@ class UsageError : public std::runtime_error {
 /// What a call has chosen before its command.
 struct LeagueChoice {
     std::string folder = "."; ///< relative to the current folder
-    bool yes = false;         ///< the start-up question is answered with OK
+    bool yes = false;         ///< questions are answered with OK
 };
 
 /// One run of the program: the console that it talks through and, from start() on, its league.
 class Session {
 public:
     Session(Console& console, LeagueChoice choice);
+    ~Session();
+    Session(const Session&) = delete;
+    Session& operator=(const Session&) = delete;
 
     /// Takes the league for this run and starts up on it. False when the start-up question was answered with
     /// Cancel. Throws UsageError when the league folder does not exist, and FileError.
     bool start();
 
+    /// Starts up on a league that is looked at and not changed. Where its folder cannot be written, or a
+    /// change noted in its journal cannot be finished, what would be written stays in memory, and the user is
+    /// told.
+    bool startLooking();
+
+    /// Takes the league for this run without starting up on it, to mend what keeps it from that.
+    void takeLeague();
+
     /// Gives the league up, so that other programs may work on it while this one goes on.
-    void end() { league_.reset(); }
+    void end();
 
     /// The folder of the site that the league publishes.
     std::filesystem::path siteFolder() const;
@@ -49,11 +61,20 @@ public:
     Application& app() { return league_->app; }
 
 private:
+    std::filesystem::path leagueFolder() const;
+    void takeLeague(LeagueLock lock);
+    bool startUpOnLeague();
+    bool startInMemory(LeagueLock lock);
+    void tellLimits();
+
     struct League {
-        League(const std::filesystem::path& folder, Platform& platform);
+        enum class Files { OnDisk, InMemory };
+
+        League(const std::filesystem::path& folder, Platform& platform, LeagueLock lock, Files files);
 
         LeagueLock lock;
         DiskFiles disk;
+        StagedFiles memory;
         DiskFiles siteTemplate;
         Application app;
     };

@@ -30,11 +30,11 @@ Status closeWindow(Session& session, const std::string& name) {
 } // namespace
 
 void addWindowCommands(CLI::App& program, Call& call) {
-    const auto [open, opened] =
-        addCommand<std::string>(program, call, "open", "Open a window and print what it shows", openWindow);
+    const auto [open, opened] = addCommand<std::string>(
+        program, call, "open", "Open a window and print what it shows", openWindow, Works::Looking);
     addArgument(*open, "WINDOW", *opened, "its name in the catalogue, for instance Standings");
     const auto [close, closed] =
-        addCommand<std::string>(program, call, "close", "Close a window", closeWindow);
+        addCommand<std::string>(program, call, "close", "Close a window", closeWindow, Works::Looking);
     addArgument(*close, "WINDOW", *closed, "its name in the catalogue");
 }
 
