@@ -13,7 +13,7 @@ namespace {
 using Kind = Change::Kind;
 
 void refuseForeign(const Change& change) {
-    if (!isInLeague(change.path) || change.path == Journal::FileName)
+    if (!canBeNoted(change.path) || change.path == Journal::FileName)
         throw FileError::about(change.path, "is no file of the league");
 }
 

@@ -62,18 +62,6 @@ private:
     std::string_view rest_;
 };
 
-/// Whether a path names something within the league folder in one way only.
-bool isPlain(std::string_view path) {
-    for (std::size_t begin = 0; begin <= path.size();) {
-        const std::size_t end = std::min(path.find('/', begin), path.size());
-        const std::string_view name = path.substr(begin, end - begin);
-        if (name.empty() || name == ".")
-            return false;
-        begin = end + 1;
-    }
-    return isInLeague(std::string(path));
-}
-
 std::optional<FileMark> takeMark(Bytes& bytes) {
     const auto exists = bytes.takeNumber();
     const auto size = bytes.takeNumber();
@@ -87,7 +75,7 @@ std::optional<NotedChange> takeChange(Bytes& bytes, Version version) {
     const auto length = bytes.takeNumber();
     const auto content = bytes.takeText();
     const auto before = version == Version::Second ? takeMark(bytes) : std::nullopt;
-    if (!content || *kind > static_cast<std::uint64_t>(Change::Kind::RemoveFolder) || !isPlain(*path))
+    if (!content || *kind > static_cast<std::uint64_t>(Change::Kind::RemoveFolder) || !canBeNoted(*path))
         return std::nullopt;
     if (version == Version::Second && !before)
         return std::nullopt;
@@ -111,6 +99,17 @@ std::optional<std::vector<NotedChange>> takeCommit(Bytes& journal, Version versi
 }
 
 } // namespace
+
+bool canBeNoted(std::string_view path) {
+    for (std::size_t begin = 0; begin <= path.size();) {
+        const std::size_t end = std::min(path.find('/', begin), path.size());
+        const std::string_view name = path.substr(begin, end - begin);
+        if (name.empty() || name == ".")
+            return false;
+        begin = end + 1;
+    }
+    return isInLeague(std::string(path));
+}
 
 std::uint64_t checksum(std::string_view bytes) {
     std::uint64_t hash = 0xcbf29ce484222325;

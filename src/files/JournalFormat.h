@@ -20,6 +20,9 @@ struct NotedChange {
     std::optional<FileMark> before;
 };
 
+/// Whether a path can be in a journal: it names something in the league folder, in one way only.
+bool canBeNoted(std::string_view path);
+
 /// The FNV-1a hash of 64 bits.
 std::uint64_t checksum(std::string_view bytes);
 

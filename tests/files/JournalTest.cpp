@@ -393,7 +393,8 @@ TEST(JournalTest, StaysInTheLeagueFolder) {
     MemoryFiles files = league();
     Journal journal(files);
     const State before = stateOf(files);
-    for (const char* path : {"/etc/passwd", "../other/Records.txt", "BOS/../../x", Journal::FileName})
+    for (const char* path :
+         {"/etc/passwd", "../other/Records.txt", "BOS/../../x", "", "./x", Journal::FileName})
         EXPECT_THROW(journal.commit({{Change::Kind::Write, path, 0, "x"}}), FileError) << path;
     EXPECT_EQ(stateOf(files), before);
 }
