@@ -24,9 +24,9 @@ TextTable playerTable(const std::string& title, const std::array<PlayerColumn<St
     return table;
 }
 
-TextTable leaderTable(const std::vector<TeamLeader>& leaders) {
+TextTable leaderTable(const std::vector<CategoryLeader>& leaders) {
     TextTable table({{"Team Leaders", Align::Left}, {"", Align::Left}, {""}});
-    for (const TeamLeader& leader : leaders)
+    for (const CategoryLeader& leader : leaders)
         table.addRow({std::string(leader.heading), leader.Name, leader.value});
     return table;
 }

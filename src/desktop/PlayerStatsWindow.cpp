@@ -189,7 +189,7 @@ void PlayerStatsWindow::showLeaders() {
         setText(leaders_, category.control, "");
         setText(leaders_, std::string(category.control) + "Name", "");
     }
-    for (const TeamLeader& leader : object_.content().leaders) {
+    for (const CategoryLeader& leader : object_.content().leaders) {
         setText(leaders_, leader.control, leader.value);
         setText(leaders_, std::string(leader.control) + "Name", leader.Name);
     }

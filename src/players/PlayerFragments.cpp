@@ -23,9 +23,9 @@ std::string recordLine(const TeamRecord& record) {
     return page.line("{}</center></td></tr>", itemText(record.GP)).text();
 }
 
-std::string leadersText(const std::vector<TeamLeader>& leaders) {
+std::string leadersText(const std::vector<CategoryLeader>& leaders) {
     PageText page;
-    for (const TeamLeader& leader : leaders) {
+    for (const CategoryLeader& leader : leaders) {
         page.line("<tr><th colspan = 2><center><b>{}</th></tr>", leader.heading);
         page.line("<tr><td>{}</td><td><center>{}</center></td></tr>", leader.Name, leader.value);
     }

@@ -18,7 +18,7 @@ public:
     struct Content {
         std::vector<PlayerTableRow> skaters; ///< in the order shown
         std::vector<PlayerTableRow> goalies;
-        std::vector<TeamLeader> leaders; ///< empty while no team is chosen
+        std::vector<CategoryLeader> leaders; ///< empty while no team is chosen
     };
 
     void Form_Load() override;

@@ -14,10 +14,10 @@ std::string shownText(int value, const PlayerColumn<Stats>& column) {
     return numberText(static_cast<double>(value) / column.shownDividedBy);
 }
 
-std::vector<TeamLeader> leadersOf(const PlayerTable& skaters) {
-    std::vector<TeamLeader> leaders;
+std::vector<CategoryLeader> leadersOf(const PlayerTable& skaters) {
+    std::vector<CategoryLeader> leaders;
     for (const LeaderCategory& category : LeaderCategories) {
-        TeamLeader& leader = leaders.emplace_back(TeamLeader{category.heading, category.control, "", "0"});
+        CategoryLeader& leader = leaders.emplace_back(CategoryLeader{category.heading, category.control, "", "0"});
         if (skaters.count() == 0)
             continue;
         const PlayerTableRow& row = skaters.leader(category.column);

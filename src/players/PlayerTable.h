@@ -54,7 +54,7 @@ private:
 };
 
 /// A team's leader in a category; "" and "0" while the team has no skaters.
-struct TeamLeader {
+struct CategoryLeader {
     std::string_view heading;
     std::string_view control; ///< label of the figure; the name's ends in "Name"
     std::string Name;
@@ -65,7 +65,7 @@ struct TeamLeader {
 struct TeamPlayers {
     PlayerTable skaters;
     PlayerTable goalies;
-    std::vector<TeamLeader> leaders; ///< one for each of the LeaderCategories
+    std::vector<CategoryLeader> leaders; ///< one for each of the LeaderCategories
 };
 
 /// Reads a team's roster and statistics.

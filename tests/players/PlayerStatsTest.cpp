@@ -107,7 +107,7 @@ TEST_F(PlayerStatsTest, EveryFigureIsInItsColumn) {
     EXPECT_THAT(players.goalies.rows().front().texts,
                 ElementsAre("G", "31", "1.55", "5", "6", "7", "9.5", "10.5", "3", "8", "2", "4", "1"));
     std::vector<std::string> leaders;
-    for (const TeamLeader& leader : players.leaders)
+    for (const CategoryLeader& leader : players.leaders)
         leaders.push_back(std::string(leader.heading) + " " + leader.value);
     EXPECT_THAT(leaders, ElementsAre("Goals 2", "Assists 4", "Points 6", "Pts. Per Game 7.5",
                                      "Power Ranking 15.5", "Penalty Minutes 11", "PP Goals 12", "SH Goals 13",
