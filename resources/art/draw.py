@@ -15,6 +15,7 @@ from pathlib import Path
 import figures
 import icon
 import pictures
+import trophies
 from canvas import write_gif, write_ico, write_png
 
 RESOURCES = Path(__file__).resolve().parent.parent
@@ -76,6 +77,8 @@ def window_pictures(teams):
             yield f"banners-mini/{abbr}", partial(pictures.mini_banner, team)
     for name in figures.FIGURES:
         yield f"cards/{name}", partial(figures.card, name)
+    for number, draw in trophies.trophies():
+        yield f"trophies/{number}", draw
 
 
 def draw_windows(teams, folder):

@@ -16,6 +16,8 @@
 #include <QPushButton>
 #include <QVBoxLayout>
 
+#include <string>
+
 namespace iceline::desktop {
 
 WelcomeWindow::WelcomeWindow(Application& application, PreviewServer& preview)
@@ -41,6 +43,7 @@ void WelcomeWindow::layOut() {
     picture->setPixmap(pictures::named("league-logo"));
     picture->setAlignment(Qt::AlignCenter);
     side->addWidget(picture);
+    side->addWidget(makeTrophies());
     side->addStretch();
     connect(addButton(*side, QStringLiteral("Command1"), QStringLiteral("Generate Webpages")),
             &QPushButton::clicked, this,
@@ -71,6 +74,22 @@ QListWidget* WelcomeWindow::makeCatalogue() {
     connect(list, &QListWidget::itemClicked, this, &WelcomeWindow::openRow);
     connect(list, &QListWidget::itemActivated, this, &WelcomeWindow::openRow);
     return list;
+}
+
+QFrame* WelcomeWindow::makeTrophies() {
+    constexpr int Trophies = 14;
+    constexpr int TrophiesInARow = 7;
+    auto* frame = new QFrame(this);
+    frame->setObjectName(QStringLiteral("Frame1"));
+    auto* grid = new QGridLayout(frame);
+    grid->setContentsMargins(0, 0, 0, 0);
+    for (int number = 0; number < Trophies; ++number) {
+        auto* trophy = new QLabel(frame);
+        trophy->setPixmap(pictures::named(("trophies/" + std::to_string(number)).c_str()));
+        trophy->setAlignment(Qt::AlignCenter);
+        grid->addWidget(trophy, number / TrophiesInARow, number % TrophiesInARow);
+    }
+    return frame;
 }
 
 void WelcomeWindow::openRow(QListWidgetItem* row) {

@@ -6,6 +6,7 @@
 #include <QTimer>
 #include <QWidget>
 
+class QFrame;
 class QListWidget;
 class QListWidgetItem;
 class QPushButton;
@@ -30,6 +31,7 @@ protected:
 private:
     void layOut();
     QListWidget* makeCatalogue();
+    QFrame* makeTrophies();
     QPushButton* addButton(QLayout& layout, const QString& name, const QString& caption);
     void openRow(QListWidgetItem* row);
 

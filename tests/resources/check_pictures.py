@@ -42,6 +42,7 @@ WINDOW_PICTURES = {
     **{f"logos/{abbr}": LOGO for abbr in TEAMS + ["ALL"]},
     **{f"logos-big/{abbr}": BIG_LOGO for abbr in TEAMS + ["ALL"]},
     **{f"cards/{name}": CARD for name in CARDS},
+    **{f"trophies/{number}": (40, 56) for number in range(14)},
 }
 MOST_BYTES = 3 * 1024 * 1024
 
