@@ -1,10 +1,13 @@
 #pragma once
 
 #include "cli/Session.h"
+#include "shell/StopSignals.h"
 
 #include <CLI/CLI.hpp>
 
+#include <charconv>
 #include <functional>
+#include <limits>
 #include <memory>
 #include <string>
 #include <utility>
@@ -22,6 +25,22 @@ struct Call {
 };
 
 struct NoArguments {};
+
+/// A command has ended early and in good order, because this signal asked the program to end.
+struct Stopped {
+    int signal;
+};
+
+/// Carries out what a signal is not to cut short: a run ends after the item in hand. Throws Stopped at the
+/// end when there was a signal.
+template <class Action>
+Status uninterrupted(Action action) {
+    const StopSignals signals;
+    const Status status = action();
+    if (StopSignals::received() != 0)
+        throw Stopped{StopSignals::received()};
+    return status;
+}
 
 /// Adds a command to the program, or to a command that groups others. The words of a call fill `Arguments`,
 /// whose options the caller adds to what is returned; `action` then takes them.
@@ -42,6 +61,20 @@ addCommand(CLI::App& parent, Call& call, const std::string& name, const std::str
 template <class Value>
 void addArgument(CLI::App& command, const std::string& name, Value& value, const std::string& description) {
     command.add_option(name, value, description)->required()->type_name("");
+}
+
+/// The check of an option that takes a whole number, `least` or more.
+template <class Number>
+CLI::Validator wholeNumber(Number least) {
+    const auto check = [least](const std::string& text) -> std::string {
+        Number number{};
+        const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), number);
+        if (error == std::errc() && end == text.data() + text.size() && number >= least)
+            return "";
+        return "must be a whole number from " + std::to_string(least) + " to " +
+               std::to_string(std::numeric_limits<Number>::max()) + ", not \"" + text + "\"";
+    };
+    return {check, ""};
 }
 
 /// The commands by topic.

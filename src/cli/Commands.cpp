@@ -9,6 +9,9 @@ namespace iceline::cli {
 
 namespace {
 
+/// The exit status of a program that a signal has ended is this and the signal's number.
+constexpr int StatusOfSignals = 128;
+
 constexpr const char* Description = "Keeps the books of a hockey league whose games come from save states.";
 
 std::string noCommand(const std::string& word) {
@@ -68,6 +71,16 @@ Status carryOut(const Call& call, Session& session) {
     return call.action(session);
 }
 
+Status carryOut(const std::vector<std::string>& arguments, Console& console) {
+    CLI::App program(Description, "iceline");
+    Call call;
+    LeagueChoice choice;
+    addAll(program, call, choice);
+    parseWords(program, arguments, console);
+    Session session(console, choice);
+    return carryOut(call, session);
+}
+
 } // namespace
 
 void addHelpCommand(CLI::App& program, Call& call) {
@@ -99,24 +112,22 @@ void parseWords(CLI::App& program, std::vector<std::string> words, Console& cons
 }
 
 int run(const std::vector<std::string>& arguments, Console console) {
-    Status status = Status::Done;
+    int status = static_cast<int>(Status::Done);
     try {
-        CLI::App program(Description, "iceline");
-        Call call;
-        LeagueChoice choice;
-        addAll(program, call, choice);
-        parseWords(program, arguments, console);
-        Session session(console, choice);
-        status = carryOut(call, session);
+        status = static_cast<int>(carryOut(arguments, console));
+    } catch (const Stopped& stopped) {
+        status = StatusOfSignals + stopped.signal;
     } catch (const UsageError& error) {
         report(console, error.what());
-        status = Status::Misused;
+        status = static_cast<int>(Status::Misused);
     } catch (const std::exception& error) {
         report(console, errorText(error));
-        status = Status::Refused;
+        status = static_cast<int>(Status::Refused);
     }
-    console.out.flush();
-    return static_cast<int>(status);
+    if (console.out.flush())
+        return status;
+    report(console, "standard output: cannot be written to its end");
+    return std::max(status, static_cast<int>(Status::Refused));
 }
 
 } // namespace iceline::cli

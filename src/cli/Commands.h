@@ -7,8 +7,8 @@
 
 namespace iceline::cli {
 
-/// Runs one call of the companion program, whose arguments stand without the program's name, and returns its
-/// exit status: 0 done, 1 refused or failed, 2 the arguments are off.
+/// Runs one call of the companion program, given its arguments without the program's name, and returns its
+/// exit status: 0 done, 1 refused or failed, 2 the arguments are wrong, 128 and the signal's number stopped.
 int run(const std::vector<std::string>& arguments, Console console);
 
 } // namespace iceline::cli

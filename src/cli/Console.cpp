@@ -25,6 +25,7 @@ bool isTerminal(StandardStream stream) {
 } // namespace
 
 Console standardConsole() {
+    std::ios::sync_with_stdio(false); // so that a stream tells an error of its input from its end
     return {std::cin, std::cout, std::cerr, isTerminal(Input), isTerminal(Error)};
 }
 

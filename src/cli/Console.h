@@ -14,10 +14,10 @@ struct Console {
     bool errIsTerminal = false;
 };
 
-/// Standard input, output and error.
+/// Standard input, output and error. To be called before anything is read or written.
 Console standardConsole();
 
-/// Writes an error of use or of files: one line on standard error, behind everything said before.
+/// Writes an error of use or of files: one line on standard error, after everything said before.
 void report(Console& console, const std::string& error);
 
 } // namespace iceline::cli

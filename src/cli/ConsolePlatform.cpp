@@ -1,5 +1,7 @@
 #include "cli/ConsolePlatform.h"
 
+#include "shell/StopSignals.h"
+
 #include <chrono>
 #include <utility>
 
@@ -70,7 +72,7 @@ double ConsolePlatform::random() {
 bool ConsolePlatform::showProgress(const Progress& progress) {
     if (console_.errIsTerminal)
         console_.err << '\r' << progressLine(progress) << std::flush;
-    return true;
+    return StopSignals::received() == 0;
 }
 
 void ConsolePlatform::endProgress() {

@@ -52,7 +52,7 @@ void choose(Session& session, const Import& import) {
     window.T2Coach_Click(away);
 }
 
-Status importGame(Session& session, const Import& import) {
+Status importOne(Session& session, const Import& import) {
     choose(session, import);
     if (!selectGame(session, import.path))
         return Status::Refused;
@@ -62,7 +62,7 @@ Status importGame(Session& session, const Import& import) {
     return window.ImportCount > before ? Status::Done : Status::Refused;
 }
 
-Status importFolder(Session& session, const Import& import) {
+Status importAll(Session& session, const Import& import) {
     using Respondent = ConsolePlatform::Respondent;
     const std::string folder = absolutePath(import.path);
     if (!session.app().files().isFolder(folder))
@@ -75,6 +75,14 @@ Status importFolder(Session& session, const Import& import) {
     StatExtractor::in(session.app()).ImportFolder_Click();
     const bool ran = !std::exchange(platform.choice, std::nullopt);
     return ran && platform.okCancelAsked == refusedBefore ? Status::Done : Status::Refused;
+}
+
+Status importGame(Session& session, const Import& import) {
+    return uninterrupted([&] { return importOne(session, import); });
+}
+
+Status importFolder(Session& session, const Import& import) {
+    return uninterrupted([&] { return importAll(session, import); });
 }
 
 void addChoices(CLI::App& command, Import& import) {

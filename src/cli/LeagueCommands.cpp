@@ -14,8 +14,10 @@ Status init(Session& session, const NoArguments&) {
 }
 
 Status publish(Session& session, const NoArguments&) {
-    WelcomeWindow(session.app()).Command1_Click();
-    return Status::Done;
+    return uninterrupted([&] {
+        WelcomeWindow(session.app()).Command1_Click();
+        return Status::Done;
+    });
 }
 
 } // namespace

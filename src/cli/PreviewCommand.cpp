@@ -29,6 +29,7 @@ void addPreviewCommand(CLI::App& program, Call& call) {
     *port = SitePreview::DefaultPort;
     command->add_option("--port", *port, "the port to serve it at; 0 takes any that is free")
         ->type_name("N")
+        ->check(wholeNumber<unsigned short>(0))
         ->capture_default_str();
 }
 

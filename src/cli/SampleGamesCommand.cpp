@@ -12,8 +12,9 @@ struct SampleGames {
 };
 
 Status sampleGames(Session&, const SampleGames& wanted) {
-    DiskFiles disk(std::filesystem::current_path());
-    writeSampleGames(disk, absolutePath(wanted.directory), wanted.games, wanted.seed);
+    const std::string directory = absolutePath(wanted.directory);
+    DiskFiles disk(directory);
+    writeSampleGames(disk, directory, wanted.games, wanted.seed);
     return Status::Done;
 }
 
@@ -26,10 +27,11 @@ void addSampleGamesCommand(CLI::App& program, Call& call) {
     addArgument(*command, "DIR", wanted->directory, "the folder for them, made when missing");
     command->add_option("--games", wanted->games, "how many games")
         ->type_name("N")
-        ->check(CLI::PositiveNumber)
+        ->check(wholeNumber<int>(1))
         ->capture_default_str();
     command->add_option("--seed", wanted->seed, "the same seed makes the same games")
         ->type_name("S")
+        ->check(wholeNumber<std::uint64_t>(0))
         ->capture_default_str();
 }
 

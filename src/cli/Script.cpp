@@ -1,6 +1,7 @@
 #include "cli/Script.h"
 
 #include "cli/Command.h"
+#include "files/FileError.h"
 #include "shell/ErrorText.h"
 
 #include <algorithm>
@@ -22,7 +23,9 @@ Status carryOutLine(const std::string& line, Session& session) {
     Call call;
     addScriptableCommands(program, call);
     parseWords(program, *words, session.console());
-    return call.action ? call.action(session) : Status::Done;
+    if (!call.action)
+        return Status::Done;
+    return uninterrupted([&] { return call.action(session); });
 }
 
 /// Goes on after what is refused and after what is misused; an error ends it, since nobody knows what the
@@ -42,6 +45,8 @@ Status carryOutLines(std::istream& lines, const std::string& name, Session& sess
             return std::max(worst, Status::Refused);
         }
     }
+    if (lines.bad())
+        throw FileError(name, "cannot be read to its end");
     return worst;
 }
 

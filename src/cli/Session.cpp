@@ -15,6 +15,16 @@ namespace {
 
 constexpr const char* Program = "iceline";
 
+fs::path absolute(const std::string& given) {
+    if (given.empty())
+        throw UsageError("the path of a file or folder is empty");
+    try {
+        return fs::absolute(given);
+    } catch (const fs::filesystem_error& error) {
+        throw FileError::about("the current folder", error.code().message());
+    }
+}
+
 } // namespace
 
 Session::League::League(const fs::path& folder, Platform& platform, LeagueLock taken, Files files)
@@ -35,7 +45,7 @@ void Session::end() {
 }
 
 fs::path Session::leagueFolder() const {
-    fs::path folder = fs::absolute(choice_.folder);
+    const fs::path folder = absolute(choice_.folder);
     if (!fs::is_directory(folder))
         throw UsageError(choice_.folder + ": there is no such folder");
     return folder;
@@ -105,11 +115,11 @@ bool Session::startInMemory(LeagueLock lock) {
 }
 
 std::filesystem::path Session::siteFolder() const {
-    return fs::absolute(choice_.folder) / paths::WebRoot;
+    return absolute(choice_.folder) / paths::WebRoot;
 }
 
 std::string absolutePath(const std::string& given) {
-    return fs::absolute(given).lexically_normal().generic_string();
+    return absolute(given).lexically_normal().generic_string();
 }
 
 } // namespace iceline::cli

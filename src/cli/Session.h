@@ -85,7 +85,8 @@ private:
     std::optional<League> league_;
 };
 
-/// A path that the user has given, relative to the current folder, as Files takes it.
+/// A path that the user has given, relative to the current folder, as Files takes it. Throws UsageError when
+/// it is empty, FileError when there is no current folder.
 std::string absolutePath(const std::string& given);
 
 } // namespace iceline::cli

@@ -10,9 +10,11 @@
 #include "desktop/WelcomeWindow.h"
 #include "files/DiskFiles.h"
 #include "files/LeagueLock.h"
+#include "shell/StopSignals.h"
 #include "store/LeaguePaths.h"
 
 #include <QApplication>
+#include <QTimer>
 
 #include <memory>
 
@@ -61,6 +63,29 @@ private:
     std::unique_ptr<WelcomeWindow> welcome_;
 };
 
+/// While it lives, a signal or the end of the desktop session stops a run after the item in hand; the signal
+/// then ends the program.
+class EndFromOutside : public QObject {
+public:
+    explicit EndFromOutside(QtPlatform& platform) {
+        connect(&looks_, &QTimer::timeout, this, [&platform] {
+            if (const int signal = StopSignals::received())
+                platform.endProgram(StatusOfSignals + signal);
+        });
+        looks_.start(MillisecondsBetweenLooks);
+        connect(
+            qApp, &QGuiApplication::commitDataRequest, this, [&platform] { platform.stopRun(); },
+            Qt::DirectConnection);
+    }
+
+private:
+    static constexpr int MillisecondsBetweenLooks = 200;
+    static constexpr int StatusOfSignals = 128;
+
+    StopSignals signals_;
+    QTimer looks_;
+};
+
 int runWindows(const std::filesystem::path& folder, const std::filesystem::path& siteTemplate) {
     const LeagueLock lock(folder, "iceline-scorebook");
     DiskFiles disk(folder);
@@ -68,6 +93,7 @@ int runWindows(const std::filesystem::path& folder, const std::filesystem::path&
     QtPlatform platform;
     Application app(disk, templateFiles, platform, windowCatalogue());
     PreviewServer preview(folder / paths::WebRoot);
+    const EndFromOutside endFromOutside(platform);
     const Start start(app, preview);
     return QApplication::exec();
 }
@@ -81,6 +107,7 @@ int runLeague(const std::filesystem::path& folder, const std::filesystem::path& 
 }
 
 int run(int argc, char** argv) {
+    ignoreSignalsOfWrites();
     GuardedApplication application(argc, argv);
     QApplication::setQuitOnLastWindowClosed(false);
     applyStyle(application);

@@ -8,6 +8,7 @@
 #include <QRandomGenerator>
 
 #include <algorithm>
+#include <iostream>
 
 namespace iceline::desktop {
 
@@ -99,6 +100,10 @@ QtPlatform::QtPlatform() = default;
 QtPlatform::~QtPlatform() = default;
 
 Answer QtPlatform::ask(const Message& message) {
+    if (programEnds_) {
+        std::cerr << message.text << std::endl;
+        return closedAnswer(message.buttons);
+    }
     QMessageBox box(windowInFront());
     box.setObjectName(QStringLiteral("MessageBox"));
     box.setIcon(message.buttons == Buttons::YesNo ? QMessageBox::Question : QMessageBox::Information);
@@ -137,15 +142,21 @@ bool QtPlatform::showProgress(const Progress& progress) {
         sinceBegin_.start();
     }
     progress_->setProgress(progress);
-    if (sinceBegin_.elapsed() < UnseenMilliseconds)
-        return true;
-    progress_->show();
-    QApplication::processEvents();
-    return !progress_->isCancelled();
+    if (sinceBegin_.elapsed() >= UnseenMilliseconds) {
+        progress_->show();
+        QApplication::processEvents();
+    }
+    return !progress_->isCancelled() && !runStopped_ && !programEnds_;
 }
 
 void QtPlatform::endProgress() {
     progress_.reset();
+    runStopped_ = false;
+}
+
+void QtPlatform::endProgram(int status) {
+    programEnds_ = true;
+    QApplication::exit(status);
 }
 
 } // namespace iceline::desktop

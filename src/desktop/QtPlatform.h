@@ -36,9 +36,18 @@ public:
     bool showProgress(const Progress& progress) override;
     void endProgress() override;
 
+    /// Stops the run in progress, if there is one, after the item in hand.
+    void stopRun() { runStopped_ = progress_ != nullptr; }
+
+    /// Ends the program with that exit status, after stopping the run in progress. From now on messages go to
+    /// standard error, and questions count as not agreed to.
+    void endProgram(int status);
+
 private:
     std::unique_ptr<ProgressWindow> progress_;
     QElapsedTimer sinceBegin_; ///< of the run
+    bool runStopped_ = false;
+    bool programEnds_ = false;
 };
 
 } // namespace iceline::desktop

@@ -10,14 +10,14 @@ namespace iceline {
 
 namespace {
 
-/// Takes steps that are worth taking whatever became of the ones before, and keeps the first file error.
+/// Takes steps that are worth taking whatever became of the ones before, and keeps the first error.
 class Steps {
 public:
     template <class Step>
     void take(Step step) {
         try {
             step();
-        } catch (const FileError&) {
+        } catch (...) {
             if (!failure_)
                 failure_ = std::current_exception();
         }
@@ -45,12 +45,13 @@ public:
     FolderRun(const FolderRun&) = delete;
     FolderRun& operator=(const FolderRun&) = delete;
 
-    /// What was imported until a file error stays.
-    void run(Steps& steps) {
+    /// What was imported until an error stays. Returns the closing message.
+    std::string run(Steps& steps) {
         const BusyPointer busy(app_.platform());
         app_.journal().beginRun();
         steps.take([this] { importFiles(); });
         steps.take([this] { app_.journal().endRun(); });
+        return closingMessage();
     }
 
 private:
@@ -58,7 +59,10 @@ private:
         const std::vector<std::string> names = app_.files().filesIn(folder_);
         ProgressRun progress(app_.platform(), "Importing games", static_cast<int>(names.size()), true);
         for (const std::string& name : names) {
-            if (window_.ImportAnswer == Answer::Cancel || !progress.next(name))
+            if (window_.ImportAnswer == Answer::Cancel)
+                return;
+            stopped_ = !progress.next(name);
+            if (stopped_)
                 return;
             importFile(name);
             window_.checkSeason();
@@ -72,12 +76,26 @@ private:
         const PlayedGame& game = window_.readGameInHand();
         if (!game.refusal)
             selectStars(app_.state, game);
+        const int before = window_.ImportCount;
         window_.ImportStats_Click();
+        if (window_.ImportCount > before)
+            lastImported_ = name;
+    }
+
+    std::string closingMessage() const {
+        std::string message = std::to_string(window_.ImportCount) + " Files imported";
+        if (stopped_)
+            message += "\nThe run was stopped.";
+        if (stopped_ && !lastImported_.empty())
+            message += " The last file imported was " + lastImported_ + ".";
+        return message;
     }
 
     Application& app_;
     StatExtractor& window_;
     std::string folder_;
+    std::string lastImported_; ///< file name; empty before the first
+    bool stopped_ = false;     ///< the user has stopped the run
 };
 
 } // namespace
@@ -94,8 +112,8 @@ void StatExtractor::ImportFolder_Click() {
     if (app_.platform().ask({question, Buttons::YesNo, "Import"}) != Answer::Yes)
         return;
     Steps steps;
-    FolderRun(app_, *this, *folder).run(steps);
-    app_.platform().say(std::to_string(ImportCount) + " Files imported");
+    const std::string closing = FolderRun(app_, *this, *folder).run(steps);
+    app_.platform().say(closing);
     steps.take([this] {
         Standings::in(app_).DivisionStandingsUpdate();
         updateStandings();

@@ -67,29 +67,36 @@ public:
         : app_(app), progress_(app.platform(), "Generating webpages",
                                static_cast<int>(WindowsOfRun.size()) + TeamSteps * LeagueTeams, false) {}
 
-    void run() {
+    /// False when the user stopped the run, which then ends between two pages.
+    bool run() {
         for (const WindowId id : WindowsOfRun)
             app_.windows().unload(id);
         for (const WindowId id : WindowsOfRun)
-            writePagesOf(id);
+            if (!writePagesOf(id))
+                return false;
         for (const PartOfYear part : {PartOfYear::Season, PartOfYear::Playoffs}) {
             for (const TeamIndex team : AllLeagueTeams) {
-                progress_.next(profilesFolder(part, team) + "/index.htm");
+                if (!progress_.next(profilesFolder(part, team) + "/index.htm"))
+                    return false;
                 writeRosterPage(app_.files(), part, team);
             }
             for (const TeamIndex team : AllLeagueTeams) {
-                progress_.next(profilesFolder(part, team) + "/");
+                if (!progress_.next(profilesFolder(part, team) + "/"))
+                    return false;
                 writePlayerPages(app_.files(), app_.platform(), part, team);
             }
         }
+        return true;
     }
 
 private:
-    void writePagesOf(WindowId id) {
-        progress_.next(std::string(app_.windows().row(id).entry));
+    bool writePagesOf(WindowId id) {
+        if (!progress_.next(std::string(app_.windows().row(id).entry)))
+            return false;
         app_.state.ShowWindows = false;
         app_.windows().use(id);
         app_.windows().unload(id);
+        return true;
     }
 
     Application& app_;
@@ -100,14 +107,17 @@ private:
 
 void generateWebpages(Application& app) {
     requireSite(app);
+    bool finished = false;
     {
         const BusyPointer busy(app.platform());
         const WritingMode writing(app.state);
         ReadCache files(app.files());
         const FilesInForce inForce(app, files);
-        WebpageRun(app).run();
+        finished = WebpageRun(app).run();
     }
-    app.platform().say("All Webpages have been generated and are located in the IcelineWebpages directory.");
+    app.platform().say(
+        finished ? "All Webpages have been generated and are located in the IcelineWebpages directory."
+                 : "The run was stopped before all Webpages were generated.");
 }
 
 } // namespace iceline

@@ -4,6 +4,7 @@
 #include "files/LeagueLock.h"
 #include "shell/Windows.h"
 
+#include <csignal>
 #include <map>
 
 namespace iceline::cli {
@@ -155,6 +156,63 @@ TEST_F(CliLeagueTest, AWindowThatDoesNotExistIsNamed) {
     const Outcome unknown = iceline({"open", "Standing"});
     EXPECT_EQ(unknown.status, 2);
     EXPECT_THAT(unknown.err, StartsWith("iceline: there is no window 'Standing'; there are StatExtractor, "));
+}
+
+/// Standard error as a terminal on which somebody presses Ctrl+C when a run shows that its second item is in
+/// hand.
+class InterruptingTerminal : public std::streambuf {
+    int_type overflow(int_type character) override {
+        if (character == '\r' && ++items_ == 2)
+            std::raise(SIGINT);
+        return traits_type::not_eof(character);
+    }
+
+    int items_ = 0;
+};
+
+TEST_F(CliLeagueTest, ASignalEndsARunAfterTheItemInHand) {
+    const std::string games = (league() / "games").string();
+    call({"sample-games", games, "--games", "3"});
+    const auto interrupted = [&](std::vector<std::string> words) {
+        words.insert(words.begin(), {"--league", league().string()});
+        InterruptingTerminal terminal;
+        std::istringstream in("open Standings\n");
+        std::ostringstream out;
+        std::ostream err(&terminal);
+        const int status = run(words, {in, out, err, false, true});
+        return std::pair(status, out.str());
+    };
+    EXPECT_THAT(
+        interrupted({"import-folder", games}),
+        testing::Pair(128 + SIGINT, HasSubstr("\n1 Files imported\nThe run was stopped. The last file "
+                                              "imported was game-0001.gs0.\n")));
+    EXPECT_THAT(interrupted({"publish"}),
+                testing::Pair(128 + SIGINT, "The run was stopped before all Webpages were generated.\n"));
+    write("evening.txt", "publish\nopen Standings\n");
+    EXPECT_THAT(interrupted({"script", (league() / "evening.txt").string()}),
+                testing::Pair(128 + SIGINT, "The run was stopped before all Webpages were generated.\n"));
+}
+
+TEST_F(CliLeagueTest, OutputThatCannotBeWrittenIsAFailure) {
+    std::istringstream in;
+    std::ostream out(nullptr);
+    std::ostringstream err;
+    EXPECT_EQ(run({"--league", league().string(), "season-length"}, {in, out, err}), 1);
+    EXPECT_EQ(err.str(), "iceline: standard output: cannot be written to its end\n");
+}
+
+TEST_F(CliLeagueTest, WrongNumbersAndEmptyPathsAreMisuse) {
+    const auto expectMisuse = [&](const std::vector<std::string>& words, const std::string& error) {
+        const Outcome outcome = iceline(words);
+        EXPECT_EQ(outcome.status, 2);
+        EXPECT_EQ(outcome.err, "iceline: " + error + "\n");
+    };
+    expectMisuse({"preview", "--port", "65536"},
+                 "--port: must be a whole number from 0 to 65535, not \"65536\"");
+    expectMisuse({"sample-games", "x", "--games", "0"},
+                 "--games: must be a whole number from 1 to 2147483647, not \"0\"");
+    for (const char* command : {"read", "import", "import-folder", "script", "sample-games"})
+        expectMisuse({command, ""}, "the path of a file or folder is empty");
 }
 
 } // namespace

@@ -87,6 +87,15 @@ TEST_F(ProgressTest, AQuestionWithinARunIsAnsweredWithReturn) {
     }
 }
 
+TEST_F(ProgressTest, TheEndOfTheSessionStopsTheRunInProgressAlone) {
+    platform.stopRun();
+    ASSERT_TRUE(next(false));
+    platform.stopRun();
+    EXPECT_FALSE(again(false));
+    platform.endProgress();
+    EXPECT_TRUE(next(false));
+}
+
 TEST_F(ProgressTest, AQuestionThatIsTakenAwayIsNotAgreedTo) {
     User user([] {
         if (messageBox())

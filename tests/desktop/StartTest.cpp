@@ -1,5 +1,7 @@
 #include "User.h"
+#include "desktop/Controls.h"
 #include "desktop/Desktop.h"
+#include "desktop/Guard.h"
 #include "files/FileError.h"
 #include "files/LeagueLock.h"
 #include "support/TemporaryFolder.h"
@@ -9,7 +11,9 @@
 
 #include <gmock/gmock.h>
 
+#include <csignal>
 #include <fstream>
+#include <new>
 
 namespace iceline::desktop {
 namespace {
@@ -57,6 +61,24 @@ TEST_F(Start, ALeagueInUseEndsTheProgramWithOneMessage) {
     Answers user(QMessageBox::Ok);
     EXPECT_EQ(run(), 1);
     EXPECT_THAT(user.said, ElementsAre(HasSubstr("in use by the other program")));
+}
+
+TEST(Guard, ShowsWhateverIsThrown) {
+    Answers user(QMessageBox::Ok);
+    EXPECT_FALSE(guarded(nullptr, [] { throw std::bad_alloc(); }));
+    EXPECT_FALSE(guarded(nullptr, [] { setText(NamedLabels(), "Wins", "3"); }));
+    EXPECT_THAT(user.said,
+                ElementsAre("there is not enough memory for this", "the window has no label 'Wins'"));
+}
+
+TEST_F(Start, ASignalEndsTheProgram) {
+    makeLeague();
+    User user([] {
+        if (shownWindow("SplashScreen"))
+            std::raise(SIGTERM);
+    });
+    EXPECT_EQ(run(), 128 + SIGTERM);
+    expectNothingLeft();
 }
 
 TEST_F(Start, AKeyEndsTheSplashWindowAndExitTheProgram) {

@@ -129,7 +129,7 @@ TEST_F(ImportFolder, StoppingEndsTheRunAfterTheGameInHand) {
     save("Games/3.gs0", lovelyGame());
     league.platform.stopAfter = 2;
     run();
-    EXPECT_EQ(lastSaid(), "2 Files imported");
+    EXPECT_EQ(lastSaid(), "2 Files imported\nThe run was stopped. The last file imported was 2.gs0.");
     EXPECT_EQ(league.record(Boston).GP, 2);
 }
 
