@@ -46,7 +46,7 @@ Status carryOutLines(std::istream& lines, const std::string& name, Session& sess
         }
     }
     if (lines.bad())
-        throw FileError(name, "cannot be read to its end");
+        throw FileError::about(name, "cannot be read to its end");
     return worst;
 }
 

@@ -96,7 +96,7 @@ GameFiguresPanel::GameFiguresPanel(const QString& team, QGroupBox* frame) : QWid
     setMinimumWidth(84);
 }
 
-QLabel* GameFiguresPanel::add(const TeamFigure& figure, const QString& team) {
+QLabel* GameFiguresPanel::add(const GameFigure& figure, const QString& team) {
     QLabel* label = figureLabel(team + toQt(figure.control), this);
     figures_.emplace_back(figure, label);
     return label;

@@ -48,10 +48,10 @@ public:
     void show(const GameSide& side);
 
 private:
-    QLabel* add(const TeamFigure& figure, const QString& team);
+    QLabel* add(const GameFigure& figure, const QString& team);
 
     QGroupBox* frame_;
-    std::vector<std::pair<TeamFigure, QLabel*>> figures_;
+    std::vector<std::pair<GameFigure, QLabel*>> figures_;
 };
 
 /// The captions between the two teams' figures.

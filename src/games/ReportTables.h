@@ -11,7 +11,7 @@
 namespace iceline {
 
 /// A team's figure, and the end of its control's name: "Shots" of Team1Shots.
-struct TeamFigure {
+struct GameFigure {
     using Member = std::variant<int TeamGameStats::*, std::string TeamGameStats::*>;
 
     std::string_view control;
@@ -28,8 +28,8 @@ struct TeamFigure {
 /// A line of a team's figures: one, or two with a slash between them.
 struct TeamFigureLine {
     std::string_view caption; ///< in window and terminal
-    TeamFigure first;
-    std::optional<TeamFigure> second;
+    GameFigure first;
+    std::optional<GameFigure> second;
     std::string_view secondCaption; ///< where the terminal gives the second figure a line of its own
     std::string_view pageTitle;     ///< none: the page leaves the line out
     std::string TeamGameStats::*pageNote = nullptr; ///< what the page adds in brackets
@@ -40,10 +40,10 @@ inline constexpr std::array TeamFigureLines{
     TeamFigureLine{"Shots", {"Shots", &TeamGameStats::Shots}, {}, "", "SOG"},
     TeamFigureLine{"Shooting Pct.%", {"ShootingPct", &TeamGameStats::ShootingPct}, {}, "", "S%"},
     TeamFigureLine{
-        "PPG / PPA", {"PPG", &TeamGameStats::PPG}, TeamFigure{"PPA", &TeamGameStats::PPA}, "", "Power Plays"},
+        "PPG / PPA", {"PPG", &TeamGameStats::PPG}, GameFigure{"PPA", &TeamGameStats::PPA}, "", "Power Plays"},
     TeamFigureLine{"Penalties",
                    {"Penalties", &TeamGameStats::Penalties},
-                   TeamFigure{"PenM", &TeamGameStats::PenM},
+                   GameFigure{"PenM", &TeamGameStats::PenM},
                    "Penalty Minutes",
                    "Penalties"},
     TeamFigureLine{"Faceoffs Won", {"FaceoffsWon", &TeamGameStats::FaceoffsWon}, {}, "", "Faceoffs Won"},
@@ -52,7 +52,7 @@ inline constexpr std::array TeamFigureLines{
     TeamFigureLine{"Attacking Zone", {"AttackZone", &TeamGameStats::AttackZoneText}, {}, "", "Att. Zone"},
     TeamFigureLine{"Passes / Pass Att.",
                    {"PassComp", &TeamGameStats::PassComp},
-                   TeamFigure{"PassAtt", &TeamGameStats::PassAtt},
+                   GameFigure{"PassAtt", &TeamGameStats::PassAtt},
                    "",
                    "Passing",
                    &TeamGameStats::PassAcc},

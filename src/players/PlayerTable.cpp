@@ -17,7 +17,8 @@ std::string shownText(int value, const PlayerColumn<Stats>& column) {
 std::vector<CategoryLeader> leadersOf(const PlayerTable& skaters) {
     std::vector<CategoryLeader> leaders;
     for (const LeaderCategory& category : LeaderCategories) {
-        CategoryLeader& leader = leaders.emplace_back(CategoryLeader{category.heading, category.control, "", "0"});
+        CategoryLeader& leader =
+            leaders.emplace_back(CategoryLeader{category.heading, category.control, "", "0"});
         if (skaters.count() == 0)
             continue;
         const PlayerTableRow& row = skaters.leader(category.column);
