@@ -13,7 +13,7 @@ namespace iceline::test {
 inline void setPlayer(TestLeague& league, TeamIndex team, int row, const RosterRow& player,
                       const PlayerStatsLine& stats, PartOfYear part = PartOfYear::Season) {
     Roster roster = league.roster(team);
-    roster.at(row) = player;
+    roster.at(RosterIndex(row)) = player;
     league.setRoster(team, roster);
     league.setPlayerStats(team, part, row, stats);
 }
