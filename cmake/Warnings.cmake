@@ -2,7 +2,7 @@
 # would do: figures are the same on every machine.
 add_library(iceline_warnings INTERFACE)
 target_compile_options(iceline_warnings INTERFACE -ffp-contract=off)
-target_compile_options(iceline_warnings INTERFACE -Wall -Wextra -Wpedantic -Wconversion -Wno-sign-conversion
+target_compile_options(iceline_warnings INTERFACE -Wall -Wextra -Wpedantic -Wconversion -Wsign-conversion
     -Wnon-virtual-dtor -Woverloaded-virtual -Wold-style-cast)
 # Clang's -Wshadow asks no more than GCC's does of locals.
 target_compile_options(iceline_warnings INTERFACE $<IF:$<CXX_COMPILER_ID:GNU>,-Wshadow=local,-Wshadow>)

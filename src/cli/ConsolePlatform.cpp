@@ -15,8 +15,8 @@ constexpr std::size_t LineWidth = 79;
 std::string progressLine(const Progress& progress) {
     std::string line = progress.title + " ";
     if (progress.total > 0) {
-        const int filled = BarWidth * progress.done / progress.total;
-        line += "[" + std::string(filled, '#') + std::string(BarWidth - filled, '.') + "] ";
+        const auto filled = static_cast<std::size_t>(BarWidth * progress.done / progress.total);
+        line += "[" + std::string(filled, '#') + std::string(std::size_t{BarWidth} - filled, '.') + "] ";
         line += std::to_string(progress.done) + "/" + std::to_string(progress.total) + " ";
     }
     line += progress.item;

@@ -24,7 +24,7 @@ int decimalsFor(double value) {
 int significantDigits(std::string_view text) {
     const auto first = text.find_first_of("123456789");
     const auto digits = text.substr(std::min(first, text.size()));
-    return static_cast<int>(digits.size() - std::ranges::count(digits, '.'));
+    return static_cast<int>(std::ranges::count_if(digits, [](char c) { return c != '.'; }));
 }
 
 void dropTrailingZeros(std::string& text) {

@@ -25,7 +25,7 @@ int wholeNumber(double value);
 /// attempted. 1 of 3 gives 33.3.
 double pct(double made, double attempted);
 
-/// A total a game; 0 without a game.
+/// A total per game, not rounded; 0 without a game.
 inline double perGame(double total, int games) {
     return games == 0 ? 0 : total / games;
 }

@@ -7,11 +7,7 @@
 
 namespace iceline {
 
-/// A series by its row in PlayoffSeriesTable.
-using SeriesIndex = Index<struct SeriesTable>;
-
-/// All series, and the last of them.
-inline constexpr FirstRows<SeriesIndex> AllSeries{SeriesCount};
+/// The series that decides the championship.
 inline constexpr SeriesIndex FinalSeries{SeriesCount - 1};
 
 /// Rounds of the play-offs: first round, second round, conference final, final.

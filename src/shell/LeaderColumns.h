@@ -1,5 +1,6 @@
 #pragma once
 
+#include "league/Numbers.h"
 #include "store/PlayerFiles.h"
 #include "store/TeamRecord.h"
 
@@ -23,10 +24,6 @@ struct LeaderColumn {
 template <auto Field, class Stats>
 double fieldOf(const Stats& stats) {
     return stats.*Field;
-}
-
-inline double perGame(int figure, int games) {
-    return games == 0 ? 0 : static_cast<double>(figure) / games;
 }
 
 inline constexpr std::array<LeaderColumn<SkaterStats>, 11> PlayerLeaderColumns{{

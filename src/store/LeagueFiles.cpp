@@ -141,23 +141,25 @@ void readPlayoffRecords(Files& files, PlayoffSeriesTable& series) {
     const std::string content = files.read(paths::PlayoffRecords);
     ItemReader reader(paths::PlayoffRecords, content);
     PlayoffSeriesTable read = series;
-    for (int i = 0; i < SeriesCount; ++i) {
-        read[i].WinsA = readWins(reader, "WinsA");
-        read[i].WinsB = readWins(reader, "WinsB");
-        if (i < FirstRoundSeries)
+    for (const SeriesIndex number : AllSeries) {
+        PlayoffSeriesRecord& record = read[number];
+        record.WinsA = readWins(reader, "WinsA");
+        record.WinsB = readWins(reader, "WinsB");
+        if (isFirstRound(number))
             continue;
-        read[i].TeamA = readSlot(reader, "TeamA");
-        read[i].TeamB = readSlot(reader, "TeamB");
+        record.TeamA = readSlot(reader, "TeamA");
+        record.TeamB = readSlot(reader, "TeamB");
     }
     series = read;
 }
 
 std::string textOf(const PlayoffSeriesTable& series) {
     LineWriter writer(paths::PlayoffRecords);
-    for (int i = 0; i < SeriesCount; ++i) {
-        writer.integer(series[i].WinsA).integer(series[i].WinsB);
-        if (i >= FirstRoundSeries)
-            writer.team(series[i].TeamA).team(series[i].TeamB);
+    for (const SeriesIndex number : AllSeries) {
+        const PlayoffSeriesRecord& record = series[number];
+        writer.integer(record.WinsA).integer(record.WinsB);
+        if (!isFirstRound(number))
+            writer.team(record.TeamA).team(record.TeamB);
         writer.endLine();
     }
     return writer.content();

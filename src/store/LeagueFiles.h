@@ -103,6 +103,14 @@ inline constexpr int SeriesCount = 15;
 inline constexpr int FirstRoundSeries = 8;
 using PlayoffSeriesTable = std::array<PlayoffSeriesRecord, SeriesCount>;
 
+/// A series by its row in PlayoffSeriesTable; those of the first round come first.
+using SeriesIndex = Index<struct SeriesTable>;
+inline constexpr FirstRows<SeriesIndex> AllSeries{SeriesCount};
+
+inline constexpr bool isFirstRound(SeriesIndex series) {
+    return series.number() < FirstRoundSeries;
+}
+
 /// An entry of `Last 10 Box.txt`.
 struct RecentGame {
     TeamIndex Home;

@@ -37,7 +37,7 @@ MemoryFiles league() {
 void playGame(Files& files, int n) {
     const std::string game = std::to_string(n);
     files.write("BOS/Records.txt", "BOS " + game);
-    files.write("MTL/Records.txt", "MTL " + game + std::string(n * 10, '.'));
+    files.write("MTL/Records.txt", "MTL " + game + std::string(static_cast<std::size_t>(n) * 10, '.'));
     files.append("BoxScores.htm", "game " + game + "\n");
     if (n == 1) {
         files.makeFolder("Coaches/Lee");

@@ -53,7 +53,7 @@ protected:
     }
 
     /// Ends the regular season and opens a series of Boston, as TeamA, against Montreal.
-    void openSeries(int series, int winsA = 0, int winsB = 0) {
+    void openSeries(std::size_t series, int winsA = 0, int winsB = 0) {
         state().PlayoffMode = true;
         state().SeasonFolder = seasonFolder(PartOfYear::Playoffs);
         state().PlayoffSeries = {};

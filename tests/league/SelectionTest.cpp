@@ -2,6 +2,7 @@
 
 #include <gmock/gmock.h>
 
+#include <optional>
 #include <random>
 
 namespace iceline {
@@ -14,16 +15,15 @@ std::vector<int> orderByWalks(const std::vector<int>& values, Direction directio
     std::vector<int> order;
     std::vector<bool> used(values.size());
     while (order.size() < values.size()) {
-        int best = -1;
-        for (int row = static_cast<int>(values.size()) - 1; row >= 0; --row) {
-            const bool takes =
-                best < 0 || (direction == Direction::HighestFirst ? values[row] >= values[best]
-                                                                  : values[row] <= values[best]);
+        std::optional<std::size_t> best;
+        for (std::size_t row = values.size(); row-- > 0;) {
+            const bool takes = !best || (direction == Direction::HighestFirst ? values[row] >= values[*best]
+                                                                              : values[row] <= values[*best]);
             if (!used[row] && takes)
                 best = row;
         }
-        used[best] = true;
-        order.push_back(best);
+        used[*best] = true;
+        order.push_back(static_cast<int>(*best));
     }
     return order;
 }

@@ -70,7 +70,7 @@ TEST(GenerateWebpages, WritesTheWholeSiteAndSaysSo) {
     for (const TeamIndex team : AllLeagueTeams) {
         std::size_t players = 0;
         for (const RosterRow& row : league.roster(team))
-            players += row.isEmpty() ? 0 : 1;
+            players += row.isEmpty() ? 0u : 1u;
         EXPECT_EQ(filesIn(league, "Profiles/" + std::string(TeamAbbr[team])), players + 1);
         EXPECT_EQ(filesIn(league, "PlayoffProfiles/" + std::string(TeamAbbr[team])), players + 1);
     }

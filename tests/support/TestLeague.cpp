@@ -95,13 +95,14 @@ void TestLeague::setRoster(TeamIndex team, const Roster& roster) {
 }
 
 PlayerStatsLine TestLeague::playerStats(TeamIndex team, PartOfYear part, int row) {
-    return readPlayerStats(files, paths::teamFile(team, part, paths::PlayerStats), roster(team)).at(row);
+    return readPlayerStats(files, paths::teamFile(team, part, paths::PlayerStats), roster(team))
+        .at(RosterIndex(row));
 }
 
 void TestLeague::setPlayerStats(TeamIndex team, PartOfYear part, int row, const PlayerStatsLine& stats) {
     const std::string path = paths::teamFile(team, part, paths::PlayerStats);
     TeamPlayerStats all = readPlayerStats(files, path, roster(team));
-    all.at(row) = stats;
+    all.at(RosterIndex(row)) = stats;
     files.files[path] = playerStatsText(path, all);
 }
 
