@@ -27,7 +27,7 @@ std::string usageError(const CLI::App& program, const CLI::ParseError& error) {
     return noCommand(unknown.front());
 }
 
-/// Everything that can be typed behind the program's name.
+/// Everything that can be typed after the program's name.
 void addAll(CLI::App& program, Call& call, LeagueChoice& choice) {
     program.get_formatter()->label("SUBCOMMAND", "COMMAND");
     program.get_formatter()->label("Positionals", "Arguments");

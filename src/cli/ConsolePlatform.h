@@ -7,7 +7,7 @@
 
 namespace iceline::cli {
 
-/// The platform of a terminal. Messages are printed as they stand, a message a line. A question of Yes or No
+/// The platform of a terminal. Messages are printed as they are, a message a line. A question of Yes or No
 /// counts as answered with Yes, since the command was the answer.
 class ConsolePlatform : public Platform {
 public:

@@ -7,7 +7,7 @@
 
 namespace iceline::cli {
 
-/// The words of a line of a script. Blanks part them; a word that holds blanks stands in double quotes; '#'
+/// The words of a line of a script. Blanks separate them; a word that holds blanks is in double quotes; '#'
 /// where a word could begin starts a comment. None when a double quote is not closed.
 std::optional<std::vector<std::string>> wordsOf(std::string_view line);
 

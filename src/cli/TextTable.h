@@ -6,8 +6,8 @@
 
 namespace iceline::cli {
 
-/// A table of text for the terminal: a line of column heads and rows beneath, columns as wide as their widest
-/// cell, two blanks between them.
+/// A table of text for the terminal: a line of column heads and rows under it, columns as wide as their
+/// widest cell, two blanks between them.
 class TextTable {
 public:
     enum class Align { Left, Right };
@@ -32,14 +32,14 @@ private:
     std::vector<std::vector<std::string>> rows_;
 };
 
-/// Puts lines beside each other, the right ones `gap` blanks behind the longest on the left.
+/// Puts lines beside each other, the right ones `gap` blanks after the longest on the left.
 std::vector<std::string> sideBySide(std::vector<std::string> left, const std::vector<std::string>& right,
                                     std::size_t gap);
 
 /// Columns that a text takes on the terminal: the characters of its UTF-8.
 std::size_t displayWidth(const std::string& text);
 
-/// The text with blanks before or behind it up to `width` columns.
+/// The text with blanks before or after it up to `width` columns.
 std::string padded(const std::string& text, std::size_t width, TextTable::Align align);
 
 } // namespace iceline::cli

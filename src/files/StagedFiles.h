@@ -61,7 +61,7 @@ private:
 
     const Staged* staged(const std::string& path) const;
 
-    /// The entry of a file that is to be written, which must be able to stand at that path.
+    /// The entry of a file that is to be written, which must be possible at that path.
     Staged& stage(const std::string& path);
 
     const std::string& baseContent(const std::string& path);

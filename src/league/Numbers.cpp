@@ -67,7 +67,7 @@ std::string numberText(double value) {
         return std::to_string(static_cast<std::int64_t>(value));
     std::array<char, 400> buffer;
     char* const last = buffer.data() + buffer.size();
-    // The shortest text that stands for the value is the one sought, unless it needs more digits.
+    // The shortest text that gives the value is the one sought, unless it needs more digits.
     const auto shortest = std::to_chars(buffer.data(), last, value, std::chars_format::fixed);
     if (const std::string_view text(buffer.data(), shortest.ptr);
         significantDigits(text) <= SignificantDigits)

@@ -9,7 +9,7 @@ enum class Direction { HighestFirst, LowestFirst };
 
 /// Orders the rows of a table as repeated selection does, the league's way of ordering: each place goes to
 /// the best unused row, looked for from the last row to the first with an inclusive comparison. So of equal
-/// values the row that stands first in the table comes first, in both directions.
+/// values the row that is first in the table comes first, in both directions.
 ///
 /// Returns row numbers, best first: all of them, or the first `places` when the table has more.
 std::vector<int> selectionOrder(std::span<const int> values, Direction direction, int places);

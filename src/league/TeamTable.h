@@ -14,7 +14,7 @@ using TeamIndex = Index<struct TeamTable>;
 /// Rows 0 to 23 are the teams of the league; 24 and 25 are the game's All-Star teams.
 inline constexpr int LeagueTeams = 24;
 
-/// Row of the word that stands for every team.
+/// Row of the word for all teams.
 inline constexpr TeamIndex AllTeams{26};
 
 /// Row of a play-off slot whose team is not yet known.

@@ -14,7 +14,7 @@ struct PageFrame {
     std::string title;
     std::string prefix = "./"; ///< path to the site's root: "./", "../" or "../../"
     std::string styleSheet = prefix + "styles.css";
-    std::string opening = "<font face = arial size = 2><center>"; ///< behind the body tag
+    std::string opening = "<font face = arial size = 2><center>"; ///< after the body tag
     std::string start = "<html>";                                 ///< before the head tag
 
     /// Head, body tag and navigation bar, a line each.

@@ -11,7 +11,7 @@ namespace iceline {
 /// page.line("<tr><td>{}</td></tr>", name). A literal whose holes and values do not match does not compile.
 class PageText {
 public:
-    /// Adds text as it stands.
+    /// Adds text as it is.
     PageText& add(std::string_view text) {
         text_ += text;
         return *this;

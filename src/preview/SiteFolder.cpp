@@ -52,7 +52,7 @@ std::string contentType(const fs::path& file) {
     return found == ContentTypes.end() ? "application/octet-stream" : found->type;
 }
 
-/// The text that %XX marks stand for, none when a mark is cut or no number.
+/// The text with its %XX marks decoded, none when a mark is cut or no number.
 std::optional<std::string> decoded(std::string_view text) {
     std::string result;
     for (std::size_t at = 0; at < text.size(); ++at) {

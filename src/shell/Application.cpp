@@ -7,8 +7,8 @@ Application::Application(Files& disk, Files& siteTemplate, Platform& platform, W
       windows_(*this, catalogue) {}
 
 Operation::Operation(Application& application)
-    : app_(application), outermost_(!application.operationInHand()), beneath_(application.files()),
-      staged_(beneath_), inForce_(application, staged_) {
+    : app_(application), outermost_(!application.operationInHand()), under_(application.files()),
+      staged_(under_), inForce_(application, staged_) {
     if (outermost_)
         app_.journal().recover();
     ++app_.operations_;
@@ -20,7 +20,7 @@ void Operation::commit() {
         app_.journal().commit(changes);
     else
         for (const Change& change : changes)
-            makeChange(change, beneath_);
+            makeChange(change, under_);
     staged_.discard();
 }
 

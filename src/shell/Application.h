@@ -18,7 +18,7 @@ public:
     /// the application, which opens the windows of `catalogue`.
     Application(Files& disk, Files& siteTemplate, Platform& platform, WindowCatalogue catalogue);
 
-    /// The files as they stand for whoever asks now: those of the operation in hand, or the disk.
+    /// The files that count for whoever asks now: those of the operation in hand, or the disk.
     Files& files() { return *inForce_.back(); }
 
     Files& siteTemplate() { return siteTemplate_; }
@@ -74,7 +74,7 @@ public:
 private:
     Application& app_;
     bool outermost_;
-    Files& beneath_;
+    Files& under_;
     StagedFiles staged_;
     FilesInForce inForce_;
 };

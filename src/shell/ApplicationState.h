@@ -15,7 +15,7 @@
 namespace iceline {
 
 /// What the windows share between one piece of work and the next. Everything else is read from the league's
-/// files each time, and nothing here is stored: start-up works PlayoffMode and SeasonFolder out anew.
+/// files each time, and nothing here is stored: start-up works out PlayoffMode and SeasonFolder again.
 struct ApplicationState {
     /// True while the windows work on the screen, False while Generate Webpages drives them to write pages.
     bool ShowWindows = false;

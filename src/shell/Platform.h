@@ -13,7 +13,7 @@ enum class Buttons { Ok, OkCancel, YesNo };
 enum class Answer { Ok = 1, Cancel = 2, Yes = 6, No = 7 };
 
 struct Message {
-    std::string text; ///< lines are parted by '\n'
+    std::string text; ///< lines are separated by '\n'
     Buttons buttons = Buttons::Ok;
     std::string title = "Iceline Scorebook";
 };

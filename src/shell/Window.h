@@ -7,7 +7,7 @@ namespace iceline {
 class Application;
 
 /// A window of the program without its widgets: the procedures that clicks run and that other windows call,
-/// the state behind them, and in a plain struct what the window shows.
+/// their state, and in a plain struct what the window shows.
 class Window {
 public:
     explicit Window(Application& application) : app_(application) {}

@@ -73,8 +73,8 @@ public:
     /// The window, loaded. When its load throws, the window is not loaded.
     Window& use(WindowId id);
 
-    /// The window as the user opens it. One that other windows have loaded and nobody sees is loaded anew, so
-    /// that it shows the files as they are now; one that is open stays as it is.
+    /// The window as the user opens it. One that other windows have loaded and nobody sees is loaded again,
+    /// so that it shows the files as they are now; one that is open stays as it is.
     Window& open(WindowId id);
 
     bool isLoaded(WindowId id) const { return slot(id) != nullptr; }

@@ -41,7 +41,7 @@ constexpr Field<Record> i32(std::string_view name, int Record::*member) {
     return {name, Field<Record>::Width::Bits32, member};
 }
 
-/// Any other kind: a team of the league, a real number (double), a text, an item passed on as it stands, a
+/// Any other kind: a team of the league, a real number (double), a text, an item passed on as it is, a
 /// number or text that may be blank.
 template <class Record, class Value>
 constexpr Field<Record> item(std::string_view name, Value Record::*member) {

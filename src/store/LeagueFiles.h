@@ -62,7 +62,7 @@ inline constexpr auto LeagueRecordCount = static_cast<std::size_t>(LeagueRecordO
 
 using AllTimeLeagueRecords = std::array<LeagueRecord, LeagueRecordCount>;
 
-/// The coach behind a league record: blank until a coach's team breaks it.
+/// The coach of a league record: blank until a coach's team breaks it.
 struct CoachRecord {
     std::optional<std::string> Name;
     std::optional<double> Value;
@@ -72,7 +72,7 @@ template <>
 std::span<const Field<CoachRecord>> fieldsOf<CoachRecord>();
 
 /// `Coaches League Records.txt`: a pair for each league record, and 36 items that are passed on as they
-/// stand.
+/// are.
 struct CoachesLeagueRecords {
     CoachesLeagueRecords();
 

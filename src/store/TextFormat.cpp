@@ -65,7 +65,7 @@ void ItemReader::passSeparator(std::string_view field) {
     if (position_ < content_.size() && content_[position_] == '\n')
         ++position_;
     else if (content_[position_ - 1] != '\r')
-        reject(field, "a comma or the end of the line is missing behind it");
+        reject(field, "a comma or the end of the line is missing after it");
     startsLine_ = true;
 }
 

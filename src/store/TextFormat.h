@@ -12,7 +12,7 @@ namespace iceline {
 /// The end of every line that the program writes.
 inline constexpr std::string_view LineEnd = "\r\n";
 
-/// An item of a data file as it stands there, quotes included, for items that are passed on unread.
+/// An item of a data file as it is there, quotes included, for items that are passed on unread.
 struct RawItem {
     std::string written = "0";
 
@@ -25,7 +25,7 @@ struct RawItem {
 /// without, the file was cut and its last item may have lost digits.
 enum class LastLine { MustEnd, MayLackEnd };
 
-/// Reads a data file item by item. Items are parted by commas and line ends (CR LF or LF); a text stands in
+/// Reads a data file item by item. Items are separated by commas and line ends (CR LF or LF); a text is in
 /// double quotes or runs to the next comma or line end; a blank item reads as 0 or as the empty text.
 ///
 /// Every reader throws FileError naming the file, the line, the item in that line, the field asked for and
@@ -88,7 +88,7 @@ public:
     /// A text in double quotes, which holds neither a double quote nor a line end.
     LineWriter& text(std::string_view field, std::string_view value);
 
-    /// An item as it stands; the empty one is a blank item.
+    /// An item as it is; the empty one is a blank item.
     LineWriter& raw(std::string_view item);
 
     LineWriter& endLine();

@@ -42,7 +42,7 @@ const Paths OfEveryGame{paths::OverallGameNumber, paths::Last10Box};
 
 class GameImport : public ImportLeague {
 protected:
-    /// The data files that a game of a kind changes; Ann stands behind Boston, Bert behind Montreal.
+    /// The data files that a game of a kind changes; Ann coaches Boston, Bert Montreal.
     Paths changedBy(GameKind kind, bool homeCoach, bool awayCoach) {
         league.addCoach("Ann");
         league.addCoach("Bert");

@@ -24,7 +24,7 @@ const std::string Question =
 
 using Contents = std::map<std::string, std::string>;
 
-/// Every file beneath a folder but the lock's, by path.
+/// Every file in a folder but the lock's, by path.
 Contents contentsOf(const fs::path& folder) {
     Contents contents;
     for (const fs::directory_entry& entry : fs::recursive_directory_iterator(folder)) {

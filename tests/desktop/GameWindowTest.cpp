@@ -56,7 +56,7 @@ TEST_F(GameWindowTest, ImportsByTheOptionAndKeepsTheCoachesApart) {
     Q_EMIT home.activated(1);
     away.setCurrentIndex(1);
     Q_EMIT away.activated(1);
-    EXPECT_EQ(home.currentIndex(), 0) << "a coach cannot stand behind both teams";
+    EXPECT_EQ(home.currentIndex(), 0) << "nobody can coach both teams";
     choose(game());
     click(window, "LoadStats");
     click(window, "Season");

@@ -21,7 +21,7 @@ inline void require(bool holds, const std::string& promise) {
 }
 
 /// Selects and imports a season game whose save state lies at `path`. True when a file error broke the
-/// import; one that comes up behind it, when the season is looked at, leaves the game in the books.
+/// import; one that comes up after it, when the season is looked at, leaves the game in the books.
 inline bool importFails(TestLeague& league, const std::string& path) {
     try {
         StatExtractor& window = StatExtractor::in(league.app);
