@@ -15,6 +15,9 @@ struct PlayerContest {
     int (*figure)(const PlayerGame&);
 };
 
+using SkaterContest = PlayerContest<PlayerRecordOf>;
+using GoalieContest = PlayerContest<GoalieRecordOf>;
+
 template <int PlayerGame::*Figure>
 int figureOf(const PlayerGame& game) {
     return game.*Figure;
@@ -29,29 +32,29 @@ int savesOf(const PlayerGame& game) {
 }
 
 constexpr std::array SkaterContests{
-    PlayerContest{PlayerRecordOf::Goals, figureOf<&PlayerGame::goals>},
-    PlayerContest{PlayerRecordOf::Assists, figureOf<&PlayerGame::assists>},
-    PlayerContest{PlayerRecordOf::Points, pointsOf},
-    PlayerContest{PlayerRecordOf::Shots, figureOf<&PlayerGame::shots>},
-    PlayerContest{PlayerRecordOf::PenaltyMinutes, figureOf<&PlayerGame::penaltyMinutes>},
+    SkaterContest{PlayerRecordOf::Goals, figureOf<&PlayerGame::goals>},
+    SkaterContest{PlayerRecordOf::Assists, figureOf<&PlayerGame::assists>},
+    SkaterContest{PlayerRecordOf::Points, pointsOf},
+    SkaterContest{PlayerRecordOf::Shots, figureOf<&PlayerGame::shots>},
+    SkaterContest{PlayerRecordOf::PenaltyMinutes, figureOf<&PlayerGame::penaltyMinutes>},
 };
 
 constexpr std::array SpecialGoalContests{
-    PlayerContest{PlayerRecordOf::ShorthandedGoals, figureOf<&PlayerGame::shorthandedGoals>},
-    PlayerContest{PlayerRecordOf::PowerPlayGoals, figureOf<&PlayerGame::powerPlayGoals>},
+    SkaterContest{PlayerRecordOf::ShorthandedGoals, figureOf<&PlayerGame::shorthandedGoals>},
+    SkaterContest{PlayerRecordOf::PowerPlayGoals, figureOf<&PlayerGame::powerPlayGoals>},
 };
 
 static_assert(SkaterContests.size() + SpecialGoalContests.size() == PlayerRecordCount);
 
 constexpr std::array GoalieContests{
-    PlayerContest{GoalieRecordOf::Saves, savesOf},
-    PlayerContest{GoalieRecordOf::GoalsAllowed, figureOf<&PlayerGame::goals>},
-    PlayerContest{GoalieRecordOf::ShotsFaced, figureOf<&PlayerGame::shots>},
-    PlayerContest{GoalieRecordOf::Assists, figureOf<&PlayerGame::assists>},
+    GoalieContest{GoalieRecordOf::Saves, savesOf},
+    GoalieContest{GoalieRecordOf::GoalsAllowed, figureOf<&PlayerGame::goals>},
+    GoalieContest{GoalieRecordOf::ShotsFaced, figureOf<&PlayerGame::shots>},
+    GoalieContest{GoalieRecordOf::Assists, figureOf<&PlayerGame::assists>},
 };
 
 constexpr std::array ShutoutContests{
-    PlayerContest{GoalieRecordOf::ShutoutSaves, savesOf},
+    GoalieContest{GoalieRecordOf::ShutoutSaves, savesOf},
 };
 
 static_assert(GoalieContests.size() + ShutoutContests.size() == GoalieRecordCount);

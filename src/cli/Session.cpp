@@ -45,7 +45,7 @@ void Session::end() {
 }
 
 fs::path Session::leagueFolder() const {
-    const fs::path folder = absolute(choice_.folder);
+    fs::path folder = absolute(choice_.folder);
     if (!fs::is_directory(folder))
         throw UsageError(choice_.folder + ": there is no such folder");
     return folder;

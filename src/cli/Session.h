@@ -70,7 +70,7 @@ private:
     struct League {
         enum class Files { OnDisk, InMemory };
 
-        League(const std::filesystem::path& folder, Platform& platform, LeagueLock lock, Files files);
+        League(const std::filesystem::path& folder, Platform& platform, LeagueLock taken, Files files);
 
         LeagueLock lock;
         DiskFiles disk;

@@ -13,8 +13,9 @@ void require(bool done) {
         throw std::system_error(errno, std::generic_category());
 }
 
+/// Some systems have one number for ENOTSUP and EOPNOTSUPP, some have two.
 bool isUnsupported(int reason) {
-    return reason == EINVAL || reason == ENOTSUP || reason == EOPNOTSUPP || reason == ENOSYS;
+    return std::ranges::count(std::array{EINVAL, ENOTSUP, EOPNOTSUPP, ENOSYS}, reason) != 0;
 }
 
 OpenFile::OpenFile(Calls& calls, const std::filesystem::path& path, Purpose purpose)

@@ -5,7 +5,6 @@
 #include "files/OpenFile.h"
 
 #include <algorithm>
-#include <ranges>
 
 namespace iceline {
 
@@ -57,8 +56,8 @@ const disk::Task& taskOf(Kind kind) {
 } // namespace
 
 Trial::~Trial() {
-    for (const auto& [path, place] : std::views::reverse(madeFolders_))
-        calls_.remove(place);
+    for (auto made = madeFolders_.rbegin(); made != madeFolders_.rend(); ++made)
+        calls_.remove(made->second);
 }
 
 void Trial::tryOut(const std::vector<Change>& changes) {

@@ -35,7 +35,7 @@ GamePlayerRow playerRow(const TeamSheet& team, RosterIndex row, const std::strin
 GameSide gameSide(const TeamSheet& team, const Roster& roster) {
     GameSide side;
     side.team = team.team;
-    static_cast<TeamFigures&>(side.stats) = team;
+    static_cast<TeamFigures&>(side.stats) = static_cast<const TeamFigures&>(team);
     for (const RosterIndex row : AllRosterRows)
         side.players[row] = playerRow(team, row, roster[row].Name);
     return side;

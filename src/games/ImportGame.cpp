@@ -73,7 +73,7 @@ private:
     std::optional<Refusal> seasonRefusal(const GameSheet& game) const;
     bool hasGamesLeft(TeamIndex team) const;
     void publish();
-    void fold(const PlayedGame& game);
+    void fold(const PlayedGame& played);
 
     Application& app_;
     StatExtractor& window_;

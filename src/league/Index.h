@@ -13,7 +13,7 @@ public:
     constexpr explicit Index(int number) : number_(number) {}
 
     constexpr int number() const { return number_; }
-    constexpr operator std::size_t() const { return static_cast<std::size_t>(number_); }
+    constexpr operator std::size_t() const { return static_cast<std::size_t>(number_); } // NOLINT
 
     constexpr Index& operator++() {
         ++number_;
