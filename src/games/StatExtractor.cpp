@@ -3,17 +3,13 @@
 #include "games/BoxScorePage.h"
 #include "games/Summaries.h"
 #include "games/ThreeStars.h"
+#include "league/Text.h"
 #include "playoffs/SeasonEnd.h"
 #include "shell/Application.h"
 
 namespace iceline {
 
 namespace {
-
-std::string trimmed(const std::string& text) {
-    const std::size_t first = text.find_first_not_of(' ');
-    return first == std::string::npos ? "" : text.substr(first, text.find_last_not_of(' ') - first + 1);
-}
 
 std::string fileNameOf(const std::string& path) {
     return path.substr(path.find_last_of("/\\") + 1);
@@ -65,7 +61,7 @@ void StatExtractor::selectGame() {
 std::optional<std::string> StatExtractor::chooseSaveState() {
     const auto path = app_.platform().chooseFile(
         "Open", {{"All Files (*.*)", "*.*"}, {"Game Save Files (*.gs*)", "*.gs*"}});
-    return path ? std::optional(trimmed(*path)) : std::nullopt;
+    return path ? std::optional(std::string(trimmed(*path))) : std::nullopt;
 }
 
 const PlayedGame& StatExtractor::readGameInHand() {

@@ -12,7 +12,15 @@
 namespace iceline {
 
 template <>
-std::span<const Field<RosterRow>> fieldsOf<RosterRow>();
+inline std::span<const Field<RosterRow>> fieldsOf<RosterRow>() {
+    static constexpr std::array Fields{
+        item("Name", &RosterRow::Name),
+        i16("Number", &RosterRow::Number),
+        i16("Rating", &RosterRow::Rating),
+        item("Position", &RosterRow::Position),
+    };
+    return Fields;
+}
 
 /// Reads the 25 rows of a `Players List.txt`. A name that holds a double quote is an error: the league's
 /// files could not hold it.
@@ -44,7 +52,20 @@ struct SkaterStats {
 };
 
 template <>
-std::span<const Field<SkaterStats>> fieldsOf<SkaterStats>();
+inline std::span<const Field<SkaterStats>> fieldsOf<SkaterStats>() {
+    using R = SkaterStats;
+    static constexpr std::array Fields{
+        i16("GP", &R::GP),          i16("G", &R::G),
+        item("GPG", &R::GPG),       i16("A", &R::A),
+        item("APG", &R::APG),       i16("Pts", &R::Pts),
+        item("PtsPG", &R::PtsPG),   i16("SOG", &R::SOG),
+        item("SOGPG", &R::SOGPG),   item("ShotPct", &R::ShotPct),
+        i16("PIM", &R::PIM),        i16("PPG", &R::PPG),
+        i16("SHG", &R::SHG),        item("PIMPG", &R::PIMPG),
+        item("Rating", &R::Rating), i16("StarPoints", &R::StarPoints),
+    };
+    return Fields;
+}
 
 /// A goalie's line of `Player Stats.txt`.
 struct GoalieStats {
@@ -69,7 +90,28 @@ struct GoalieStats {
 };
 
 template <>
-std::span<const Field<GoalieStats>> fieldsOf<GoalieStats>();
+inline std::span<const Field<GoalieStats>> fieldsOf<GoalieStats>() {
+    using R = GoalieStats;
+    static constexpr std::array Fields{
+        i16("GP", &R::GP),
+        i16("GA", &R::GA),
+        i16("SO", &R::SO),
+        i16("A", &R::A),
+        i16("GW", &R::GW),
+        i16("GL", &R::GL),
+        i16("GT", &R::GT),
+        i16("SA", &R::SA),
+        item("GAA", &R::GAA),
+        item("SvPct", &R::SvPct),
+        item("Unused11", &R::Unused11),
+        i16("PPG", &R::PPG),
+        i16("SHG", &R::SHG),
+        item("Unused14", &R::Unused14),
+        item("Rating", &R::Rating),
+        i16("StarPoints", &R::StarPoints),
+    };
+    return Fields;
+}
 
 /// The stat line of a roster row; the position in the same row of the roster decides which it is.
 using PlayerStatsLine = std::variant<SkaterStats, GoalieStats>;

@@ -40,8 +40,8 @@ TEST(SaveState, FiguresOfTheAwayTeamAreReadFromItsOwnBlock) {
     EXPECT_EQ(save.byteAt(59755), 6);
     EXPECT_EQ(save.team(Side::Home), NewJersey);
     EXPECT_EQ(save.wordAt(60170), 605);
-    EXPECT_EQ(save.figure(Side::Home, SaveStateMap::Goals), 6);
-    EXPECT_EQ(save.figure(Side::Away, SaveStateMap::AttackZoneLow), 605 % 256);
+    EXPECT_EQ(save.figure(Side::Home, 59755), 6);
+    EXPECT_EQ(save.figure(Side::Away, 59753), 605 % 256);
 }
 
 TEST(SaveState, CutFileReadsAsZeroAfterItsEnd) {
