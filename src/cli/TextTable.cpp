@@ -1,6 +1,6 @@
 #include "cli/TextTable.h"
 
-#include "league/Text.h"
+#include "text/Text.h"
 
 #include <algorithm>
 #include <iterator>

@@ -16,12 +16,12 @@ struct FileMark {
 
 /// One step of what an operation does to the disk.
 struct Change {
-    enum class Kind { MakeFolder, Write, Extend, Remove, RemoveFolder };
+    enum class Kind { MakeFolder, Write, Extend, Remove, RemoveFolder, RenameFolder };
 
     Kind kind = Kind::Write;
     std::string path;
     std::uintmax_t length = 0; ///< Extend: the file's length before the content
-    std::string content;       ///< Write, Extend
+    std::string content;       ///< Write, Extend; RenameFolder: the new path
 
     friend bool operator==(const Change&, const Change&) = default;
 };

@@ -5,6 +5,7 @@
 #include "files/FileError.h"
 #include "files/OpenFile.h"
 #include "files/Trial.h"
+#include "text/Names.h"
 
 #include <algorithm>
 #include <cerrno>

@@ -15,6 +15,8 @@ inline constexpr Task Reading{"cannot be read", std::filesystem::file_type::regu
 inline constexpr Task Writing{"cannot be written", std::filesystem::file_type::regular, false};
 inline constexpr Task Removing{"cannot be removed", std::filesystem::file_type::regular, false};
 inline constexpr Task Renaming{"cannot be given another name", std::filesystem::file_type::regular, true};
+inline constexpr Task RenamingFolder{"cannot be given another name", std::filesystem::file_type::directory,
+                                     true};
 inline constexpr Task Listing{"cannot be listed", std::filesystem::file_type::directory, true};
 inline constexpr Task MakingFolder{"cannot be made", std::filesystem::file_type::directory, false};
 inline constexpr Task RemovingFolder{"cannot be removed", std::filesystem::file_type::directory, false};

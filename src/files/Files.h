@@ -50,7 +50,8 @@ public:
     /// disk by sync(), here as for folders.
     virtual void remove(const std::string& path) = 0;
 
-    /// Gives a file another name, which no file has.
+    /// Gives a file or folder another name. Nothing may have it but the file or folder itself, as one of
+    /// another spelling.
     virtual void rename(const std::string& path, const std::string& name);
 
     /// Creates a folder and what is missing above it; nothing happens when it exists.
@@ -87,8 +88,7 @@ public:
 };
 
 /// True for a path that names something in the league folder, or the folder itself: relative, without an
-/// element
-/// "..".
+/// element "..".
 bool isInLeague(const std::string& path);
 
 /// Throws FileError for a path that is relative and yet leads out of the league folder.
@@ -96,12 +96,5 @@ void refuseOutsideLeague(const std::string& path);
 
 /// The folder that a file or folder is in, "" for the league folder.
 std::string folderOf(const std::string& path);
-
-/// The order in which files and folders are listed and coaches compared: by name, without regard to case
-/// (ASCII), then by bytes.
-bool nameBefore(std::string_view a, std::string_view b);
-
-/// True when two names differ at most in case (ASCII).
-bool sameName(std::string_view a, std::string_view b);
 
 } // namespace iceline

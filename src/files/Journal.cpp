@@ -13,15 +13,24 @@ namespace {
 using Kind = Change::Kind;
 
 void refuseForeign(const Change& change) {
-    if (!canBeNoted(change.path) || change.path == Journal::FileName)
-        throw FileError::about(change.path, "is no file of the league");
+    for (const std::string* path : pathsOf(change))
+        if (!canBeNoted(*path) || *path == Journal::FileName)
+            throw FileError::about(*path, "is no file of the league");
 }
 
 /// Commits in one journal are made again from the first to the last, on files that may already be
-/// those after the last. Only the removal of a folder could fail then, when a later commit has filled a
-/// folder of that name again.
+/// those after the last. Only for a folder that goes or gets another name could this fail then, when an
+/// earlier or later commit makes a folder of that name again.
 bool needsOwnJournal(const std::vector<Change>& changes) {
-    return std::ranges::any_of(changes, [](const Change& c) { return c.kind == Kind::RemoveFolder; });
+    return std::ranges::any_of(changes, [](const Change& c) {
+        return c.kind == Kind::RemoveFolder || c.kind == Kind::RenameFolder;
+    });
+}
+
+FileError notFinished(const std::string& reason) {
+    return FileError::about(Journal::FileName, "the change noted here cannot be finished. " + reason +
+                                                   ". Nothing was done; \"iceline recover\" asks whether to "
+                                                   "make the change all the same or to set it aside");
 }
 
 } // namespace
@@ -65,13 +74,13 @@ Recovery Journal::recover(Doubts doubts) {
         unfinished_ = false;
         return Recovery::Nothing;
     }
-    const std::vector<NotedChange> changes = wholeCommits(files_.read(FileName));
+    const std::string journal = files_.read(FileName);
+    if (isOfLaterVersion(journal))
+        throw notFinished("A later version of the program has written the journal");
+    const std::vector<NotedChange> changes = wholeCommits(journal);
     if (doubts == Doubts::Refuse)
         if (const auto doubt = doubtAbout(changes, files_))
-            throw FileError::about(FileName,
-                                   "the change noted here cannot be finished. " + *doubt +
-                                       ". Nothing was done; \"iceline recover\" asks whether to make "
-                                       "the change all the same or to set it aside");
+            throw notFinished(*doubt);
     finish([&] {
         for (const auto& [change, before] : changes) {
             if (change.kind == Kind::Write || change.kind == Kind::Extend)

@@ -46,7 +46,8 @@ public:
     /// Finishes the whole commits of a journal that was left, drops a torn one, and removes the
     /// journal. Doing so twice, or after a part of it was done, gives the same files. Costs nothing when
     /// every commit of this object was finished; in a run, what is due at its end is left to that.
-    /// Throws FileError when a change cannot be made, or is in doubt (doubtAbout()) and doubts are refused.
+    /// Throws FileError when a change cannot be made, is in doubt (doubtAbout()) and doubts are refused, or
+    /// was noted by a later version of the program.
     Recovery recover(Doubts doubts = Doubts::Refuse);
 
     /// Gives the journal another name, so that its changes are never made. The files stay as they are.

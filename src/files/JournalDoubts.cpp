@@ -11,8 +11,12 @@ namespace {
 
 using Kind = Change::Kind;
 
+bool isOfFolder(Kind kind) {
+    return kind == Kind::MakeFolder || kind == Kind::RemoveFolder || kind == Kind::RenameFolder;
+}
+
 bool isOfFile(const NotedChange& noted) {
-    return noted.change.kind != Kind::MakeFolder && noted.change.kind != Kind::RemoveFolder;
+    return !isOfFolder(noted.change.kind);
 }
 
 /// Whether a power cut can have left this of a file that was being written.
@@ -46,7 +50,7 @@ bool isExpected(const std::vector<const NotedChange*>& changes, Files& files) {
 } // namespace
 
 FileMark markOf(const Change& change, Files& files) {
-    if (change.kind == Kind::MakeFolder || change.kind == Kind::RemoveFolder)
+    if (isOfFolder(change.kind))
         return {files.isFolder(change.path), 0, 0};
     if (!files.isFile(change.path))
         return {};
@@ -59,8 +63,9 @@ FileMark markOf(const Change& change, Files& files) {
 std::optional<std::string> doubtAbout(const std::vector<NotedChange>& changes, Files& files) {
     std::map<std::string, std::vector<const NotedChange*>> byFile;
     for (const NotedChange& noted : changes) {
-        if (files.leadsOut(noted.change.path))
-            return noted.change.path + ": a link leads out of the league folder";
+        for (const std::string* path : pathsOf(noted.change))
+            if (files.leadsOut(*path))
+                return *path + ": a link leads out of the league folder";
         if (isOfFile(noted))
             byFile[noted.change.path].push_back(&noted);
     }

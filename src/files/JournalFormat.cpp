@@ -3,6 +3,8 @@
 #include "files/Files.h"
 
 #include <algorithm>
+#include <array>
+#include <charconv>
 #include <iterator>
 #include <utility>
 
@@ -12,11 +14,18 @@ namespace {
 
 constexpr std::size_t NumberSize = 8;
 
-/// The first line of a journal that does not say what the files were before.
+/// What all first lines of journals begin with, before their version.
+constexpr std::string_view HeadingStart = "Iceline Scorebook journal ";
+
+constexpr int NewestVersion = 3;
+
+/// First lines of earlier versions: 1 does not say what the files were before, 2 renames no folders.
 constexpr std::string_view FirstHeading =
     "Iceline Scorebook journal 1: changes that were begun, to be finished at the next start.\n";
+constexpr std::string_view SecondHeading =
+    "Iceline Scorebook journal 2: changes that were begun, to be finished at the next start.\n";
 
-enum class Version { First, Second };
+enum class Version { First, Later };
 
 void addNumber(std::string& bytes, std::uint64_t number) {
     for (std::size_t i = 0; i < NumberSize; ++i)
@@ -74,13 +83,16 @@ std::optional<NotedChange> takeChange(Bytes& bytes, Version version) {
     const auto path = bytes.takeText();
     const auto length = bytes.takeNumber();
     const auto content = bytes.takeText();
-    const auto before = version == Version::Second ? takeMark(bytes) : std::nullopt;
-    if (!content || *kind > static_cast<std::uint64_t>(Change::Kind::RemoveFolder) || !canBeNoted(*path))
+    const auto before = version == Version::Later ? takeMark(bytes) : std::nullopt;
+    if (!content || *kind > static_cast<std::uint64_t>(Change::Kind::RenameFolder))
         return std::nullopt;
-    if (version == Version::Second && !before)
+    if (version == Version::Later && !before)
         return std::nullopt;
-    return NotedChange{{static_cast<Change::Kind>(*kind), std::string(*path), *length, std::string(*content)},
-                       before};
+    NotedChange noted{{static_cast<Change::Kind>(*kind), std::string(*path), *length, std::string(*content)},
+                      before};
+    const bool inLeague =
+        std::ranges::all_of(pathsOf(noted.change), [](const auto* p) { return canBeNoted(*p); });
+    return inLeague ? std::optional(std::move(noted)) : std::nullopt;
 }
 
 std::optional<std::vector<NotedChange>> takeCommit(Bytes& journal, Version version) {
@@ -111,6 +123,12 @@ bool canBeNoted(std::string_view path) {
     return isInLeague(std::string(path));
 }
 
+std::vector<const std::string*> pathsOf(const Change& change) {
+    if (change.kind == Change::Kind::RenameFolder)
+        return {&change.path, &change.content};
+    return {&change.path};
+}
+
 std::uint64_t checksum(std::string_view bytes) {
     std::uint64_t hash = 0xcbf29ce484222325;
     for (const char byte : bytes)
@@ -135,13 +153,24 @@ std::string journalEntry(const std::vector<Change>& changes, const std::vector<F
     return entry;
 }
 
+bool isOfLaterVersion(std::string_view journal) {
+    if (!journal.starts_with(HeadingStart))
+        return false;
+    int version = 0;
+    const char* end = journal.data() + journal.size();
+    const auto read = std::from_chars(journal.data() + HeadingStart.size(), end, version);
+    return read.ptr != end && *read.ptr == ':' && version > NewestVersion;
+}
+
 std::vector<NotedChange> wholeCommits(std::string_view journal) {
-    const Version version = journal.starts_with(FirstHeading) ? Version::First : Version::Second;
-    const std::string_view heading = version == Version::First ? FirstHeading : JournalHeading;
+    const auto startsSo = [&](std::string_view heading) { return journal.starts_with(heading); };
+    constexpr std::array Headings{FirstHeading, SecondHeading, JournalHeading};
+    const auto heading = std::ranges::find_if(Headings, startsSo);
     std::vector<NotedChange> all;
-    if (!journal.starts_with(heading))
+    if (heading == Headings.end())
         return all;
-    Bytes rest(journal.substr(heading.size()));
+    const Version version = heading == Headings.begin() ? Version::First : Version::Later;
+    Bytes rest(journal.substr(heading->size()));
     while (auto changes = takeCommit(rest, version))
         all.insert(all.end(), std::make_move_iterator(changes->begin()),
                    std::make_move_iterator(changes->end()));

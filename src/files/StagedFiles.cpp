@@ -1,6 +1,7 @@
 #include "files/StagedFiles.h"
 
 #include "files/FileError.h"
+#include "text/Names.h"
 
 #include <algorithm>
 #include <iterator>
@@ -51,6 +52,11 @@ void makeChange(const Change& change, Files& files) {
         return files.remove(change.path);
     case Change::Kind::RemoveFolder:
         return files.removeFolder(change.path);
+    case Change::Kind::RenameFolder:
+        // One that is gone has its new name already.
+        if (files.isFolder(change.path))
+            files.rename(change.path, change.content);
+        return;
     }
 }
 
@@ -133,6 +139,14 @@ void StagedFiles::remove(const std::string& path) {
         staged_[path] = {State::Removed, 0, ""};
     else
         staged_.erase(path);
+}
+
+void StagedFiles::rename(const std::string& path, const std::string& name) {
+    if (!isFolder(path))
+        return Files::rename(path, name);
+    requireInLeague(path);
+    requireInLeague(name);
+    renamed_.push_back({Change::Kind::RenameFolder, path, 0, name});
 }
 
 void StagedFiles::makeFolder(const std::string& path) {
@@ -218,12 +232,14 @@ std::vector<Change> StagedFiles::changes() {
         if (!folder->second)
             removed.push_back({Kind::RemoveFolder, folder->first, 0, ""});
     std::ranges::move(removed, std::back_inserter(made));
+    std::ranges::copy(renamed_, std::back_inserter(made));
     return made;
 }
 
 void StagedFiles::discard() {
     staged_.clear();
     folders_.clear();
+    renamed_.clear();
     read_.clear();
 }
 

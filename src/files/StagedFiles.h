@@ -27,6 +27,8 @@ public:
     void extend(const std::string& path, std::uintmax_t length, std::string_view content,
                 Durability durability) override;
     void remove(const std::string& path) override;
+    /// A folder goes by its old name until the operation is committed.
+    void rename(const std::string& path, const std::string& name) override;
     void makeFolder(const std::string& path) override;
     void removeFolder(const std::string& path) override;
     bool isFile(const std::string& path) override;
@@ -72,6 +74,7 @@ private:
     Files& base_;
     std::map<std::string, Staged> staged_;
     std::map<std::string, bool> folders_; ///< made (true) or removed (false) by the operation
+    std::vector<Change> renamed_;         ///< folders that get another name
     std::map<std::string, Read> read_;
 };
 

@@ -46,6 +46,8 @@ const disk::Task& taskOf(Kind kind) {
         return disk::Removing;
     case Kind::RemoveFolder:
         return disk::RemovingFolder;
+    case Kind::RenameFolder:
+        return disk::RenamingFolder;
     case Kind::Write:
     case Kind::Extend:
         break;
@@ -79,6 +81,9 @@ void Trial::tryOne(const Change& change) {
     case Kind::Remove:
     case Kind::RemoveFolder:
         return removeFrom(folderOf(change.path));
+    case Kind::RenameFolder:
+        removeFrom(folderOf(change.path));
+        return makeFolder(change.content);
     }
 }
 

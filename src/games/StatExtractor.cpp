@@ -3,9 +3,9 @@
 #include "games/BoxScorePage.h"
 #include "games/Summaries.h"
 #include "games/ThreeStars.h"
-#include "league/Text.h"
 #include "playoffs/SeasonEnd.h"
 #include "shell/Application.h"
+#include "text/Text.h"
 
 namespace iceline {
 

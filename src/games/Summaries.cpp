@@ -2,6 +2,7 @@
 
 #include "league/Numbers.h"
 #include "page/PageText.h"
+#include "text/Text.h"
 
 #include <algorithm>
 #include <array>
@@ -114,7 +115,7 @@ std::string windowGoal(const GameReport& report, const ScoringEntry& goal) {
     const std::string names = namesOf(goal, side, windowName);
     line += windowTeam(side) + "  " + names;
     if (*strength != Strength::Even)
-        (line += blanks(GoalRoom - static_cast<int>(names.size()))) += marksOf(*strength).window;
+        (line += blanks(GoalRoom - static_cast<int>(characterCount(names)))) += marksOf(*strength).window;
     return line;
 }
 
@@ -125,7 +126,7 @@ std::string windowPenalty(const GameReport& report, const PenaltyEntry& penalty)
         return line;
     const GameSide& side = report.of(sideOf(penalty.type));
     const std::string name = windowName(side, penalty.player);
-    line += windowTeam(side) + "  " + name + blanks(PenaltyRoom - static_cast<int>(name.size()));
+    line += windowTeam(side) + "  " + name + blanks(PenaltyRoom - static_cast<int>(characterCount(name)));
     line += infraction->name;
     line.append(InfractionWidth - infraction->name.size(), ' ');
     line += infraction->windowMinutes;

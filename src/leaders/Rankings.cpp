@@ -5,22 +5,13 @@
 #include "leaders/LeaderTables.h"
 #include "league/Selection.h"
 #include "shell/Application.h"
-
-#include <algorithm>
+#include "text/Text.h"
 
 namespace iceline {
 
 namespace {
 
 constexpr int PlacesInWindow = 20;
-
-/// The window shows names in capitals; letters beyond ASCII stay as they are.
-std::string inCapitals(std::string text) {
-    std::ranges::transform(text, text.begin(), [](char c) {
-        return c >= 'a' && c <= 'z' ? static_cast<char>(c - 'a' + 'A') : c;
-    });
-    return text;
-}
 
 } // namespace
 
@@ -92,6 +83,7 @@ void Rankings::StarUpdate() {
 }
 
 void Rankings::showTable(Table& table, LeaderList list, LeaderSort sort) {
+    // The window shows names in capitals.
     table = {std::move(list.lines), sort};
     for (LeaderLine& row : table.rows)
         row.name = inCapitals(row.name);

@@ -6,9 +6,6 @@
 /// Names of players and coaches where they become names of files. Titles and cells show a name unchanged.
 namespace iceline {
 
-/// True for a character that a file system refuses in a name: / \ : * ? " < > | and control characters.
-bool isForbiddenInFileNames(char c);
-
 /// The name of a player's page without its ending, for files and links: every character that a
 /// file system refuses becomes "_".
 std::string playerFileName(std::string_view name);

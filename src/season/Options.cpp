@@ -4,11 +4,11 @@
 #include "coaches/Coaches.h"
 #include "leaders/Rankings.h"
 #include "league/Numbers.h"
-#include "league/Text.h"
 #include "playoffs/SeasonEnd.h"
 #include "shell/Application.h"
 #include "standings/Standings.h"
 #include "store/LeagueFiles.h"
+#include "text/Text.h"
 
 #include <charconv>
 #include <limits>
@@ -80,11 +80,14 @@ void Options::NewCoach_Click() {
     changed();
 }
 
-/// Shows the name as it will be stored in the input, and says why it cannot be taken when it cannot.
-bool Options::acceptsNewName() {
+/// Shows the name as it will be stored in the input, and says why it cannot be taken when it cannot. `former`
+/// may get another spelling.
+bool Options::acceptsNewName(const std::string& former) {
     NewC = storedCoachName(NewC);
     changed();
-    if (NewC.empty() || findCoach(app_.files(), NewC)) {
+    const auto holder = findCoach(app_.files(), NewC);
+    const bool isRespelt = holder == former && NewC != former;
+    if (NewC.empty() || (holder && !isRespelt)) {
         app_.platform().say(NewC + " already exists");
         return false;
     }
@@ -118,7 +121,7 @@ void Options::EditCoach_Click() {
 void Options::Command2_Click() {
     if (!isCoachChosen())
         return;
-    if (acceptsNewName()) {
+    if (acceptsNewName(chosenCoach())) {
         Operation operation(app_);
         renameCoach(app_.files(), chosenCoach(), NewC);
         operation.commit();

@@ -57,7 +57,7 @@ public:
 
 private:
     bool isCoachChosen();
-    bool acceptsNewName();
+    bool acceptsNewName(const std::string& former = "");
     void refreshCoaches();
     void clearOneTeam(TeamIndex team);
     void clearWholeLeague();

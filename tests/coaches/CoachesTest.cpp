@@ -8,12 +8,10 @@ namespace iceline::test {
 
 namespace {
 
-TEST(CoachNames, ThatCannotBeFoldersOnEverySystemAreRefused) {
-    for (const char* name : {"a/b", "a\\b", "..", ".", "Bob.", "a:b", "a*", "a?", "<b>", "a|b", "a\"b",
-                             "a\tb", "CON", "con.old", "Lpt1", "abcdefghijklmnopqrstu"})
+TEST(CoachNames, ThatCannotBeFoldersOnEverySystemOrAreTooLongAreRefused) {
+    for (const char* name : {"Bob.", "a:b", "COM¹", "M\xfcller", "abcdefghijklmnopqrstu"})
         EXPECT_TRUE(coachNameProblem(name)) << name;
-    for (const char* name :
-         {"Bob", "O'Neil", "J.-P.M", "Contact", "COM10", "abcdefghijklmnopqrst", "\xc3\x89mile"})
+    for (const char* name : {"Bob", "abcdefghijklmnopqrst", "ÉÉÉÉÉÉÉÉÉÉÉÉÉÉÉÉÉÉÉÉ"})
         EXPECT_FALSE(coachNameProblem(name)) << name << ": " << *coachNameProblem(name);
 }
 
@@ -21,9 +19,11 @@ TEST(Coaches, AreFoundWhateverTheCase) {
     TestLeague league;
     league.addCoach("Bob");
     league.addCoach("ann");
+    league.addCoach("Åke");
     EXPECT_EQ(findCoach(league.files, "BOB"), "Bob");
+    EXPECT_EQ(findCoach(league.files, "åke"), "Åke");
     EXPECT_EQ(findCoach(league.files, "Bo"), std::nullopt);
-    EXPECT_THAT(coachNames(league.files), testing::ElementsAre("ann", "Bob"));
+    EXPECT_THAT(coachNames(league.files), testing::ElementsAre("ann", "Åke", "Bob"));
 }
 
 } // namespace

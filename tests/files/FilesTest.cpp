@@ -148,14 +148,6 @@ TEST_P(AllFiles, ListNamesInOrderWithoutRegardToCase) {
     EXPECT_THAT(files.foldersIn(""), ElementsAre("A", "d"));
 }
 
-TEST(FileNames, AreOrderedByLettersThenByCase) {
-    EXPECT_TRUE(nameBefore("Bob", "bob"));
-    EXPECT_FALSE(nameBefore("bob", "Bob"));
-    EXPECT_TRUE(nameBefore("bob", "Bobby"));
-    EXPECT_TRUE(sameName("LEE", "lee"));
-    EXPECT_FALSE(sameName("lee", "lees"));
-}
-
 TEST_P(AllFiles, SayWhatIsMissing) {
     EXPECT_FALSE(files.isFile("no.txt"));
     EXPECT_FALSE(files.isFolder("no"));

@@ -1,10 +1,12 @@
 #include "files/Journal.h"
 
+#include "files/DiskFiles.h"
 #include "files/FileError.h"
 #include "files/JournalFormat.h"
 #include "support/ErrorMessage.h"
 #include "support/FailingFiles.h"
 #include "support/MemoryFiles.h"
+#include "support/TemporaryFolder.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -21,6 +23,7 @@ namespace {
 using Failure = FailingFiles::Failure;
 using testing::AnyOf;
 using testing::Contains;
+using testing::ElementsAre;
 using testing::HasSubstr;
 
 constexpr int Games = 4;
@@ -120,6 +123,25 @@ TEST(JournalTest, CutAnywhereRecoversAWholeNumberOfGames) {
     EXPECT_EQ(games, Games);
 }
 
+/// On a disk that regards case the names are two, on another one.
+TEST(JournalTest, GivesAFolderAnotherSpellingOnceOrAgain) {
+    const TemporaryFolder folder;
+    DiskFiles disk(folder.path());
+    Files& files = disk;
+    files.makeFolder("Coaches/Åke");
+    files.write("Coaches/Åke/Records.txt", "9", Durability::Now);
+    const Change respelt{Change::Kind::RenameFolder, "Coaches/Åke", 0, "Coaches/åke"};
+    Journal(files).commit({respelt});
+    for (const bool again : {false, true}) {
+        EXPECT_THAT(files.foldersIn("Coaches"), ElementsAre("åke")) << again;
+        EXPECT_EQ(files.read("Coaches/åke/Records.txt"), "9") << again;
+        files.write(Journal::FileName,
+                    std::string(JournalHeading) + journalEntry({respelt}, {FileMark{true, 0, 0}}),
+                    Durability::Now);
+        EXPECT_EQ(Journal(files).recover(), Recovery::Finished);
+    }
+}
+
 TEST(JournalTest, ADamagedByteEndsTheJournalThere) {
     const std::string journal = journalOfRun();
     const std::vector<State> whole = afterAnyNumberOfGames();
@@ -128,6 +150,12 @@ TEST(JournalTest, ADamagedByteEndsTheJournalThere) {
         std::string damaged = journal;
         damaged[at] = static_cast<char>(damaged[at] ^ (1 << at % 8));
         files.files[Journal::FileName] = damaged;
+        if (at == journal.find('3')) {
+            EXPECT_THAT(errorMessage([&] { Journal(files).recover(Doubts::Ignore); }),
+                        HasSubstr("later version of the program"));
+            EXPECT_EQ(files.files[Journal::FileName], damaged) << "neither made nor dropped";
+            continue;
+        }
         Journal(files).recover();
         const auto state = std::ranges::find(whole, stateOf(files));
         ASSERT_NE(state, whole.end()) << "damaged at " << at;

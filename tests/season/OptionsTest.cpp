@@ -85,12 +85,17 @@ TEST_F(OptionsTest, RenamesACoachWithHisFiles) {
     window().Command2_Click();
     EXPECT_EQ(league.said().back(), "BOB already exists");
     EXPECT_TRUE(window().content().Command2Visible);
+    window().NewC = "ann";
+    window().Command2_Click();
+    EXPECT_THAT(window().content().coaches, ElementsAre("ann", "Bob"));
+    window().Combo1 = 0;
+    window().EditCoach_Click();
     window().NewC = "Zoe Q";
     window().Command2_Click();
     EXPECT_FALSE(window().content().inputRowVisible());
     EXPECT_THAT(window().content().coaches, ElementsAre("Bob", "Zoe_Q"));
     EXPECT_EQ(league.coachRecord("Zoe_Q").Wins, 9);
-    EXPECT_FALSE(league.files.isFolder("Coaches/Ann"));
+    EXPECT_FALSE(league.files.isFolder("Coaches/ann"));
 }
 
 TEST_F(OptionsTest, DeletesAndClearsACoachAfterAQuestion) {
@@ -208,7 +213,7 @@ const std::array Deeds{
              window.NewC = "Bea";
              window.Command2_Click();
          },
-         20},
+         10},
     Deed{"delete",
          [](Options& window) {
              window.Combo1 = 0;

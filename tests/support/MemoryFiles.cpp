@@ -1,6 +1,7 @@
 #include "support/MemoryFiles.h"
 
 #include "files/FileError.h"
+#include "text/Names.h"
 
 #include <algorithm>
 
@@ -70,6 +71,21 @@ void MemoryFiles::remove(const std::string& path) {
     if (isFolder(path))
         throw FileError::isFolder(path);
     files.erase(path);
+}
+
+void MemoryFiles::rename(const std::string& path, const std::string& name) {
+    if (!isFolder(path))
+        return Files::rename(path, name);
+    const auto renamed = [&](const std::string& of) { return name + of.substr(path.size()); };
+    const auto isIn = [&](const std::string& of) { return of == path || of.starts_with(path + "/"); };
+    std::set<std::string> folderNames;
+    for (const std::string& folder : folders)
+        folderNames.insert(isIn(folder) ? renamed(folder) : folder);
+    folders = std::move(folderNames);
+    std::map<std::string, std::string> kept;
+    for (auto& [file, content] : files)
+        kept[isIn(file) ? renamed(file) : file] = std::move(content);
+    files = std::move(kept);
 }
 
 void MemoryFiles::makeFolder(const std::string& path) {

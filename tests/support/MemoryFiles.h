@@ -17,6 +17,7 @@ public:
     void extend(const std::string& path, std::uintmax_t length, std::string_view content,
                 Durability durability) override;
     void remove(const std::string& path) override;
+    void rename(const std::string& path, const std::string& name) override;
     void makeFolder(const std::string& path) override;
     void removeFolder(const std::string& path) override;
     bool isFile(const std::string& path) override;
