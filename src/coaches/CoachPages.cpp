@@ -1,6 +1,7 @@
 #include "coaches/CoachPages.h"
 
 #include "page/PageFrame.h"
+#include "page/PageNames.h"
 #include "page/PageParts.h"
 
 #include <array>
@@ -61,7 +62,7 @@ void writeCoachingStatsPage(Files& files, const LeaderList& coaches) {
     page.line("</tr>");
     for (const LeaderLine& coach : coaches.lines)
         page.line(R"(<tr><td><a href="./CStats/{}.htm" ><b>{}</b></a></td><td><center>{}</center></td>)",
-                  coach.name, coach.name,
+                  linked(coach.name), shown(coach.name),
                   figureCells(coach, readTeamRecord(files, paths::coachFolder(coach.name))));
     page.line("</tr></table></font></center></body></html>");
     writePage(files, paths::page("CoachingStats.htm"), page.text());
@@ -73,7 +74,7 @@ void writeCoachPage(Files& files, const std::string& coach, const TeamView& view
     PageText page;
     page.add(frame.text());
     page.line(headerImage("../Headers/", "CoachingStats"));
-    page.line("<table border = 1><tr><th><font size = 7>{}</font></th></tr></table><BR>", coach);
+    page.line("<table border = 1><tr><th><font size = 7>{}</font></th></tr></table><BR>", shown(coach));
     page.add(teamTables(view, CrowdColumns::No));
     writePage(files, paths::page("CStats/" + coach + ".htm"), page.text());
 }

@@ -4,6 +4,7 @@
 #include "games/Summaries.h"
 #include "league/Numbers.h"
 #include "page/PageFrame.h"
+#include "page/PageNames.h"
 #include "store/LeagueFiles.h"
 #include "store/LeaguePaths.h"
 
@@ -64,7 +65,7 @@ void addRosterHead(PageText& page) {
 
 /// The row of an empty roster row is not closed; browsers close it at the next one.
 void addPlayer(PageText& page, const GamePlayerRow& player) {
-    page.add("<tr><td>{}", player.isEmpty() ? "&nbsp;" : player.Name);
+    page.add("<tr><td>{}", player.isEmpty() ? "&nbsp;" : shown(player.Name));
     for (const PlayerFigure& figure : PlayerFigures)
         page.add("</td><td><center>{}", player.isEmpty() ? "&nbsp;" : itemText(player.*figure.figure));
     page.line("</center></td>{}", player.isEmpty() ? "" : "</tr>");
@@ -74,7 +75,7 @@ void addPlayer(PageText& page, const GamePlayerRow& player) {
 void addRoster(PageText& page, const GameSide& side, const std::optional<std::string>& coach) {
     addWideRow(page, goalsOf(side));
     if (coach)
-        addWideRow(page, *coach);
+        addWideRow(page, shown(*coach));
     addRosterHead(page);
     for (const GamePlayerRow& player : side.players)
         addPlayer(page, player);
@@ -106,7 +107,7 @@ void addStars(PageText& page, const std::array<StarOfGame, 3>& stars) {
     page.add("<table border = 1 align = center><tr><th colspan = 3>Three Star Awards</th></tr>");
     for (std::size_t k = 0; k < StarPlaces.size(); ++k)
         page.line().add("<tr><th>{}</th><td><center>{}</center></td><td>{}</td></tr>",
-                        StarPlaces[k].pageTitle, miniBanner(stars[k].Team), stars[k].Name);
+                        StarPlaces[k].pageTitle, miniBanner(stars[k].Team), shown(stars[k].Name));
     page.line("</table></td>");
 }
 
@@ -167,7 +168,7 @@ std::string boxScoreListRow(const BoxScore& game, int gameNumber) {
              R"(<img src="./BannerMinis/{}.gif">{}</font>)"
              R"(<a href="./BoxScores/{}" > Box Score </b></a></td></tr>)",
              itemText(gameNumber), letterOf(*game.kind), abbrOf(away), goalsOf(away), abbrOf(home),
-             goalsOf(home), game.page);
+             goalsOf(home), linked(game.page));
     return row.text();
 }
 

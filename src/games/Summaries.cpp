@@ -1,6 +1,7 @@
 #include "games/Summaries.h"
 
 #include "league/Numbers.h"
+#include "page/PageNames.h"
 #include "page/PageText.h"
 #include "text/Text.h"
 
@@ -84,7 +85,7 @@ const GamePlayerRow& playerOf(const GameSide& side, int byte) {
 }
 
 std::string pageName(const GameSide& side, int byte) {
-    return playerOf(side, byte).Name;
+    return shown(playerOf(side, byte).Name);
 }
 
 std::string windowName(const GameSide& side, int byte) {

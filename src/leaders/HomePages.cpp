@@ -2,6 +2,7 @@
 
 #include "leaders/LeaderLists.h"
 #include "page/PageFrame.h"
+#include "page/PageNames.h"
 #include "players/PlayerCards.h"
 
 namespace iceline {
@@ -11,7 +12,7 @@ namespace {
 constexpr int Places = 5; ///< rows of a block
 
 std::string ownCard(std::string_view card) {
-    return markup(R"(<tr><td colspan = 4><img src="./PlayerCards/{}.gif"></img></td>)", card);
+    return markup(R"(<tr><td colspan = 4><img src="./PlayerCards/{}.gif"></img></td>)", linked(card));
 }
 
 std::string defaultCard(std::string_view card) {
@@ -23,7 +24,7 @@ std::string skaterPicture(Files& files, Platform& platform, const LeaderLine& le
     if (!hasPlayerCard(files, leader.name))
         return defaultCard(defaultSkaterCard(platform));
     return markup(R"(<tr><td colspan = 4><center><img src="./PlayerCards/{}.gif"></center></td></tr>)",
-                  leader.name);
+                  linked(leader.name));
 }
 
 std::string goaliePicture(Files& files, Platform&, const LeaderLine& leader) {
@@ -45,7 +46,7 @@ std::string playerRow(const LeaderLine& line, std::string_view figure) {
     return markup(
         R"(<tr><td><center><b>{}</b></center></td><td><center><img src="./LogoMinis/{}.gif"></center></td>)"
         R"(<td>{}</td><td><center>{}</td></tr>)",
-        line.number, TeamAbbr[line.team], line.name, figure);
+        line.number, TeamAbbr[line.team], shown(line.name), figure);
 }
 
 std::string teamRow(const LeaderLine& line, std::string_view figure) {
@@ -133,7 +134,8 @@ void addLastGames(PageText& page, const std::vector<RecentGame>& games) {
         page.line(R"(<tr><td><img src="./LogoMinis/{}.gif"></img></td><td><b>{}</b></td><td> vs. </td>)"
                   R"(<td><img src="./LogoMinis/{}.gif"></img></td><td><b>{}</b></td>)"
                   R"(<td><a href="./BoxScores/{}"><b> BOX </b></a></td></tr>)",
-                  TeamAbbr[game.Away], game.AwayGoals, TeamAbbr[game.Home], game.HomeGoals, game.Page);
+                  TeamAbbr[game.Away], game.AwayGoals, TeamAbbr[game.Home], game.HomeGoals,
+                  linked(game.Page));
     if (games.empty())
         page.line("<tr><td colspan=6>No Games</td></tr>");
     page.line("</table></td></tr></table><br/><br/>");
@@ -147,7 +149,7 @@ void addLeagueOpening(PageText& page, const std::vector<RecentGame>& lastGames) 
 
 void addPlayoffOpening(PageText& page) {
     page.add(PageFrame{.title = "Rinkstar - Playoffs", .start = ""}.text());
-    page.line(headerImage("Headers/", "Playoffs"));
+    page.line("<br/>{}", headerImage("Headers/", "Playoffs"));
     for (const PlayoffLink& link : PlayoffLinks)
         page.line(R"(<p><a href="./{}"><b>{}</b></a></p>)", link.file, link.caption);
     page.line("<br/><br/>");

@@ -2,6 +2,7 @@
 
 #include "leaders/LeaderLists.h"
 #include "page/PageFrame.h"
+#include "page/PageNames.h"
 #include "page/PageParts.h"
 
 namespace iceline {
@@ -36,13 +37,13 @@ void addPlayerRow(PageText& page, const LeaderLine& line) {
     page.line(
         R"(<tr><td><center><b>{}</b></center></td><td><center><img src="../LogoMinis/{}.gif"></center></td>)"
         R"(<td>{}<td><center>{}</center></td></tr>)",
-        line.number, TeamAbbr[line.team], line.name, figureCells(line, PlayerCells));
+        line.number, TeamAbbr[line.team], shown(line.name), figureCells(line, PlayerCells));
 }
 
 void addGoalieRow(PageText& page, const LeaderLine& line) {
     page.line(R"(<tr><td><b>{}</b></center></td><td><img src="../LogoMinis/{}.gif"></td></center>)"
               R"(<td>{}<td><center>{}</center></td></tr>)",
-              line.number, TeamAbbr[line.team], line.name, figureCells(line, GoalieCells));
+              line.number, TeamAbbr[line.team], shown(line.name), figureCells(line, GoalieCells));
 }
 
 void addTeamRow(PageText& page, const LeaderLine& line) {
@@ -54,7 +55,7 @@ void addTeamRow(PageText& page, const LeaderLine& line) {
 void addStarRow(PageText& page, const LeaderLine& line) {
     page.line(R"(<tr><td><center><b>{}</b></center></td><td><center><img src="../LogoMinis/{}.gif"></img>)"
               R"(</center></td><td><center>{}</td><td><center>{}</center></td></tr>)",
-              line.number, TeamAbbr[line.team], line.name, line.figures.front());
+              line.number, TeamAbbr[line.team], shown(line.name), line.figures.front());
 }
 
 /// The fragments of a part of the year. The number in a fragment's name tells its order: first come the

@@ -3,8 +3,15 @@
 #include <string>
 #include <string_view>
 
-/// Names of players and coaches where they become names of files. Titles and cells show a name unchanged.
+/// Names of players, coaches and games where they become markup, links and names of files.
 namespace iceline {
+
+/// A name as markup shows it: "<", ">" and "&" are written as entities, so that no name is markup or code.
+std::string shown(std::string_view name);
+
+/// The name of a file as a link in double quotes holds it: "%", "#" and "?", which would mean something else
+/// there, and "<" and ">" are percent-encoded, "&" is an entity.
+std::string linked(std::string_view fileName);
 
 /// The name of a player's page without its ending, for files and links: every character that a
 /// file system refuses becomes "_".

@@ -27,7 +27,7 @@ std::string leadersText(const std::vector<CategoryLeader>& leaders) {
     PageText page;
     for (const CategoryLeader& leader : leaders) {
         page.line("<tr><th colspan = 2><center><b>{}</th></tr>", leader.heading);
-        page.line("<tr><td>{}</td><td><center>{}</center></td></tr>", leader.Name, leader.value);
+        page.line("<tr><td>{}</td><td><center>{}</center></td></tr>", shown(leader.Name), leader.value);
     }
     return page.text();
 }
@@ -35,9 +35,9 @@ std::string leadersText(const std::vector<CategoryLeader>& leaders) {
 /// A row after the cell of its number, the same in all orders.
 std::string rowText(const PlayerTableRow& row, TeamIndex team, PartOfYear part, RankingLine ranking) {
     PageText page;
-    page.line("<td><center>{}</center></td><td><center>{}</center></td>", row.texts[0], row.texts[1]);
+    page.line("<td><center>{}</center></td><td><center>{}</center></td>", shown(row.texts[0]), row.texts[1]);
     page.add(R"(<td><a href="../{}/{}.htm">{}</a></td>)", profilesFolder(part, team),
-             playerFileName(row.Name), row.Name);
+             linked(playerFileName(row.Name)), shown(row.Name));
     if (ranking == RankingLine::ItsOwn)
         page.line();
     for (std::size_t column = ColumnsBeforeName; column < row.texts.size(); ++column) {

@@ -60,7 +60,7 @@ void addStats(PageText& page, const RosterRow& player, const SkaterStats& stats)
 
 /// The card to name on a player's page. The pages of the play-offs name his own, whether there is one or not.
 std::string cardOf(Files& files, Platform& platform, PartOfYear part, const RosterRow& player) {
-    return part == PartOfYear::Playoffs ? player.Name
+    return part == PartOfYear::Playoffs ? playerFileName(player.Name)
                                         : playerCard(files, platform, player.Name, player.isGoalie());
 }
 
@@ -88,7 +88,8 @@ std::string rosterPage(TeamIndex team, const Roster& roster) {
               "<th>Overall Rating</th></tr>");
     for (const RosterRow& player : listedPlayers(roster))
         page.line(R"(<td>{}</td><td>{}</td><td><a href="./{}.htm">{}</a></td><td>{}</td></tr>)",
-                  player.Position, player.Number, playerFileName(player.Name), player.Name, player.Rating);
+                  shown(player.Position), player.Number, linked(playerFileName(player.Name)),
+                  shown(player.Name), player.Rating);
     return page.line("</table></center></body></html>").text();
 }
 
@@ -96,15 +97,17 @@ std::string playerPage(PartOfYear part, TeamIndex team, const RosterRow& player,
                        const std::string& card) {
     const char* kind = part == PartOfYear::Season ? "Player Profile" : "Playoff Player Profile";
     PageText page;
-    page.add(PageFrame{.title = markup("Iceline - {} {}", player.Name, kind), .prefix = "../../"}.text());
+    page.add(
+        PageFrame{.title = markup("Iceline - {} {}", shown(player.Name), kind), .prefix = "../../"}.text());
     page.line(R"(<br/><br/><img src="../../Headers/PlayerProfiles.gif"></img></p><table border = 5><tr>)"
               R"(<td colspan =2><img src="../../BigBanners/{}.gif"></img></td></tr><br>)",
               TeamAbbr[team]);
-    page.line(R"(<tr><td><img src="../../PlayerCards/{}.gif" width = 200 height = 200></img></td>)", card);
+    page.line(R"(<tr><td><img src="../../PlayerCards/{}.gif" width = 200 height = 200></img></td>)",
+              linked(card));
     page.line(R"(<td><img src="../../BigLogos/{}.gif"></img></td></tr></table>)", TeamAbbr[team]);
     page.line("<table border = 1><tr><th colspan = 3><font size = 5>{}</font></th></tr><tr><th>#</th>"
               "<th>Position</th><th>Overall Rating</th></tr><tr><td>{}</td><td>{}</td><td>{}</tr></table>",
-              player.Name, player.Number, player.Position, player.Rating);
+              shown(player.Name), player.Number, shown(player.Position), player.Rating);
     std::visit([&](const auto& line) { addStats(page, player, line); }, stats);
     return page.line("</table></center></body></html>").text();
 }

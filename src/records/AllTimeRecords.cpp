@@ -2,6 +2,7 @@
 
 #include "league/Numbers.h"
 #include "page/PageFrame.h"
+#include "page/PageNames.h"
 #include "shell/Application.h"
 
 namespace iceline {
@@ -129,7 +130,7 @@ std::string playerRows(const Rows& rows, const Records& records) {
     for (const auto& row : rows) {
         const PlayerRecord& record = recordOf(records, row.record);
         page.add(page.text().empty() ? "" : LineEnd).add(headAndLogo(row.heading, record.Team));
-        page.add("&nbsp;{}</td><td><center>{}</center></tr>", record.Name, record.Value);
+        page.add("&nbsp;{}</td><td><center>{}</center></tr>", shown(record.Name), record.Value);
     }
     return page.text();
 }
@@ -146,7 +147,7 @@ void addCoachRows(PageText& page, const CoachesLeagueRecords& records) {
     for (const LeagueRecordOf kind : PageOrder) {
         const CoachRecord& record = recordOf(records.pairs, kind);
         page.line("<tr><th><b>{}</b></th><td><center>&nbsp;{}</center></td><td><center>&nbsp;{}</td></tr>",
-                  recordOf(LeagueRows, kind).heading, coachName(record), coachValue(record));
+                  recordOf(LeagueRows, kind).heading, shown(coachName(record)), coachValue(record));
     }
 }
 

@@ -234,7 +234,7 @@ TEST(PlayoffHomePage, OpensWithoutTheRootTagAndWithALinkList) {
 
     const std::vector<std::string> lines = linesOf(league.page("Playoffs.htm"));
     EXPECT_THAT(lines[0], testing::StartsWith("<head><title>Rinkstar - Playoffs</title>"));
-    EXPECT_EQ(lines[3], "<br/><p><img src=\"Headers/Playoffs.gif\"></img></p><br/><br/>");
+    EXPECT_EQ(lines[3], "<br/><br/><p><img src=\"Headers/Playoffs.gif\"></img></p><br/><br/>");
     EXPECT_EQ(lines[4], "<p><a href=\"./PlayoffTree.htm\"><b>Playoff Tree</b></a></p>");
     EXPECT_EQ(lines[8], "<p><a href=\"./PlayoffAllTimeRecords.htm\"><b>Playoff All-Time Records</b></a></p>");
     EXPECT_EQ(lines[9], "<br/><br/>");

@@ -48,6 +48,34 @@ std::size_t filesIn(TestLeague& league, const std::string& folder) {
     return league.files.filesIn(paths::page(folder)).size();
 }
 
+TEST(GenerateWebpages, NoNameBecomesMarkupOrCodeOnAnyPage) {
+    TestLeague league;
+    const std::string name = "<?=`id`?> & #1";
+    Roster roster = league.roster(BOS);
+    roster[RosterIndex(5)].Name = name;
+    league.setRoster(BOS, roster);
+    SkaterStats stats;
+    stats.GP = stats.G = stats.Pts = stats.StarPoints = 9;
+    league.setPlayerStats(BOS, PartOfYear::Season, 5, stats);
+    AllTimePlayerRecords records;
+    records.front().Name = name;
+    const std::string recordsFile = paths::allTimePlayerRecords(PartOfYear::Season);
+    league.files.files[recordsFile] = textOf(recordsFile, records);
+    league.addCoach("A&B");
+
+    publish(league.app);
+
+    std::map<std::string, std::string> site = siteOf(league.files);
+    for (const auto& [path, content] : site)
+        EXPECT_THAT(content, Not(HasSubstr("<?="))) << path;
+    for (const char* page : {"index.htm", "AllTimeRecords.htm", "Rankings/Normal0.php", "Rankings/Star1.php",
+                             "PStats/BOS_N0.php", "PStats/BOS_leaders.php", "Profiles/BOS/index.htm"})
+        EXPECT_THAT(site[page], HasSubstr("&lt;?=`id`?&gt; &amp; #1")) << page;
+    EXPECT_THAT(site["Profiles/BOS/index.htm"], HasSubstr("<a href=\"./__=`id`__ &amp; %231.htm\">"));
+    EXPECT_TRUE(site.contains("Profiles/BOS/__=`id`__ & #1.htm"));
+    EXPECT_THAT(site["CoachingStats.htm"], HasSubstr("<a href=\"./CStats/A&amp;B.htm\" ><b>A&amp;B</b>"));
+}
+
 TEST(GenerateWebpages, WritesTheWholeSiteAndSaysSo) {
     TestLeague league;
 
