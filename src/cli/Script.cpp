@@ -3,6 +3,7 @@
 #include "cli/Command.h"
 #include "files/FileError.h"
 #include "shell/ErrorText.h"
+#include "text/Text.h"
 
 #include <algorithm>
 #include <sstream>
@@ -36,7 +37,7 @@ Status carryOutLines(std::istream& lines, const std::string& name, Session& sess
     for (int number = 1; std::getline(lines, line); ++number) {
         const std::string place = name + ", line " + std::to_string(number) + ": ";
         try {
-            worst = std::max(worst, carryOutLine(line, session));
+            worst = std::max(worst, carryOutLine(textOfFile(line), session));
         } catch (const UsageError& error) {
             report(session.console(), place + error.what());
             worst = Status::Misused;

@@ -2,6 +2,7 @@
 
 #include "files/FileError.h"
 #include "league/Numbers.h"
+#include "text/Text.h"
 
 #include <charconv>
 #include <cmath>
@@ -11,7 +12,7 @@ namespace iceline {
 
 namespace {
 
-std::string_view trimmed(std::string_view item) {
+std::string_view withoutBlanks(std::string_view item) {
     const auto first = item.find_first_not_of(" \t");
     return first == std::string_view::npos ? ""
                                            : item.substr(first, item.find_last_not_of(" \t") - first + 1);
@@ -23,6 +24,10 @@ ItemReader::ItemReader(std::string file, std::string_view content, LastLine last
     : file_(std::move(file)), content_(content) {
     if (lastLine == LastLine::MustEnd && !content.empty() && content.back() != '\n')
         throw FileError::about(file_, "the file is cut: its last line has no end");
+    if (!isPlainUtf8(content_)) {
+        decoded_ = textOfFile(std::string(content_));
+        content_ = decoded_;
+    }
 }
 
 std::string_view ItemReader::next(std::string_view field) {
@@ -78,7 +83,7 @@ double ItemReader::number(std::string_view field) {
 }
 
 std::optional<double> ItemReader::optionalNumber(std::string_view field) {
-    const std::string_view item = trimmed(next(field));
+    const std::string_view item = withoutBlanks(next(field));
     if (item.empty())
         return std::nullopt;
     double value = 0;

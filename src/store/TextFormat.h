@@ -32,8 +32,11 @@ enum class LastLine { MustEnd, MayLackEnd };
 /// what stood there, when the file is at its end or the item does not fit.
 class ItemReader {
 public:
-    /// `content` must outlive the reader. `file` is the name used in messages.
+    /// `content` is read as textOfFile() says and must outlive the reader. `file` is the name used in
+    /// messages.
     ItemReader(std::string file, std::string_view content, LastLine lastLine = LastLine::MustEnd);
+    ItemReader(const ItemReader&) = delete;
+    ItemReader& operator=(const ItemReader&) = delete;
 
     /// True when no item is left.
     bool atEnd() const { return position_ >= content_.size(); }
@@ -63,6 +66,7 @@ private:
     int integer(std::string_view field, double lowest, double highest);
 
     std::string file_;
+    std::string decoded_; ///< the content, when it is not what is in the file
     std::string_view content_;
     std::size_t position_ = 0;
     int line_ = 1;

@@ -58,6 +58,10 @@ bool isUtf8(std::string_view text) {
     return true;
 }
 
+bool isPlainUtf8(std::string_view text) {
+    return !text.starts_with(ByteOrderMark) && isUtf8(text);
+}
+
 std::string inCapitals(std::string_view text) {
     if (!isUtf8(text))
         return std::string(text);

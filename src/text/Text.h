@@ -25,6 +25,9 @@ bool isUtf8(std::string_view text);
 /// The text with each letter that has a capital letter in it; a text that is not UTF-8 stays as it is.
 std::string inCapitals(std::string_view text);
 
+/// True for UTF-8 without a byte order mark.
+bool isPlainUtf8(std::string_view text);
+
 /// The text of a file that any editor may have saved: without the byte order mark that may lead it, and read
 /// as Windows-1252 when it is not UTF-8.
 std::string textOfFile(std::string bytes);

@@ -99,6 +99,13 @@ TEST(ItemReader, RefusesATornTextAndAFileThatIsCut) {
     EXPECT_TRUE(roster.atEnd());
 }
 
+TEST(ItemReader, ReadsWhatAnyEditorHasSaved) {
+    ItemReader marked("Players List.txt", "\xEF\xBB\xBFJosé,9\n");
+    EXPECT_EQ(marked.text("Name"), "José");
+    ItemReader windows("Players List.txt", "\"Jos\xe9\",9\n");
+    EXPECT_EQ(windows.text("Name"), "José");
+}
+
 TEST(LineWriter, WritesWhatTheReaderTakes) {
     LineWriter writer("Some File.txt");
     writer.integer(-7).text("Name", "a, b").number(0.25).raw("").raw("\"1:05\"").endLine();
