@@ -10,6 +10,7 @@
 #include <limits>
 #include <memory>
 #include <string>
+#include <type_traits>
 #include <utility>
 
 namespace iceline::cli {
@@ -43,18 +44,29 @@ Status uninterrupted(Action action) {
 }
 
 /// Adds a command to the program, or to a command that groups others. The words of a call fill `Arguments`,
-/// whose options the caller adds to what is returned; `action` then takes them.
+/// whose options the caller adds to what is returned; `action` then takes them, and works as `worksWith` says
+/// of them.
+template <class Arguments>
+std::pair<CLI::App*, std::shared_ptr<Arguments>>
+addCommand(CLI::App& parent, Call& call, const std::string& name, const std::string& description,
+           Status (*action)(Session&, const Arguments&),
+           std::type_identity_t<std::function<Works(const Arguments&)>> worksWith) {
+    CLI::App* command = parent.add_subcommand(name, description)->group("Commands");
+    auto arguments = std::make_shared<Arguments>();
+    command->callback([&call, arguments, action, worksWith] {
+        call.works = worksWith(*arguments);
+        call.action = [arguments, action](Session& session) { return action(session, *arguments); };
+    });
+    return {command, arguments};
+}
+
+/// The same for a command that always works in one way.
 template <class Arguments>
 std::pair<CLI::App*, std::shared_ptr<Arguments>>
 addCommand(CLI::App& parent, Call& call, const std::string& name, const std::string& description,
            Status (*action)(Session&, const Arguments&), Works works = Works::OnLeague) {
-    CLI::App* command = parent.add_subcommand(name, description)->group("Commands");
-    auto arguments = std::make_shared<Arguments>();
-    command->callback([&call, arguments, action, works] {
-        call.works = works;
-        call.action = [arguments, action](Session& session) { return action(session, *arguments); };
-    });
-    return {command, arguments};
+    return addCommand<Arguments>(parent, call, name, description, action,
+                                 [works](const Arguments&) { return works; });
 }
 
 /// Adds an argument that must be given, by its place.

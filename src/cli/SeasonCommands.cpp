@@ -18,6 +18,10 @@ Status seasonLength(Session& session, const std::optional<std::string>& length) 
     return seasonLengthOf(*length) ? Status::Done : Status::Refused;
 }
 
+Works seasonLengthWorks(const std::optional<std::string>& length) {
+    return length ? Works::OnLeague : Works::Looking;
+}
+
 Status goToPlayoffs(Session& session, const NoArguments&) {
     use<Options>(session, WindowId::Options).GoToPlayoffs_Click();
     return Status::Done;
@@ -45,7 +49,7 @@ void printOptions(const Options& window, std::ostream& out) {
 void addSeasonCommands(CLI::App& program, Call& call) {
     const auto [command, length] = addCommand<std::optional<std::string>>(
         program, call, "season-length", "Show the games that a team plays in the regular season, or set them",
-        seasonLength);
+        seasonLength, seasonLengthWorks);
     command->add_option("N", *length, "the new length")->type_name("");
     addCommand(program, call, "go-to-playoffs", "End the regular season now", goToPlayoffs);
     const auto [clear, team] = addCommand<std::string>(
