@@ -227,7 +227,8 @@ std::uintmax_t DiskFiles::size(const std::string& path) {
 std::vector<std::string> DiskFiles::filesIn(const std::string& folder) {
     auto names = at(root_, folder, disk::Listing,
                     [](const fs::path& place) { return namesIn(place, fs::file_type::regular); });
-    std::erase_if(names, isTemporary);
+    if (isInLeague(folder))
+        std::erase_if(names, isTemporary);
     return names;
 }
 

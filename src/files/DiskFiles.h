@@ -16,7 +16,8 @@ class Calls;
 /// A file is replaced by writing a temporary file beside it, checking every write, syncing it
 /// (Durability::Now), renaming it over the old one and syncing the folder, so that neither a full disk nor a
 /// power cut leaves a part. The file keeps its permissions, and one that may not be written is not replaced.
-/// A temporary file that a crash has left is overwritten by the next try and never listed.
+/// A temporary file that a crash has left is overwritten by the next try and never listed; outside the league
+/// a file of such a name is one as any other.
 class DiskFiles : public Files {
 public:
     /// What the name of a temporary file ends in.
