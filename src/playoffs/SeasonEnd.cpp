@@ -42,6 +42,12 @@ void turnToPlayoffs(Application& app) {
     redrawGameWindow(app.windows());
 }
 
+void returnToSeason(Application& app) {
+    app.state.PlayoffMode = false;
+    app.state.SeasonFolder = seasonFolder(PartOfYear::Season);
+    redrawGameWindow(app.windows());
+}
+
 void checkSeason(Application& app) {
     if (seasonIsOver(app))
         turnToPlayoffs(app);

@@ -15,4 +15,7 @@ void checkSeason(Application& app);
 bool seasonIsOver(Application& app);
 void turnToPlayoffs(Application& app);
 
+/// Works on the files of the regular season again.
+void returnToSeason(Application& app);
+
 } // namespace iceline

@@ -216,8 +216,7 @@ void Options::clearWholeLeague() {
 
 /// The league is back in its regular season, and the tables in memory follow the files.
 void Options::afterClearing() {
-    app_.state.PlayoffMode = false;
-    app_.state.SeasonFolder.clear();
+    returnToSeason(app_);
     Standings::in(app_).DivisionStandingsUpdate();
     Rankings::in(app_, PartOfYear::Season).tmLeadersLoad();
 }

@@ -2,6 +2,7 @@
 
 #include "app/Catalogue.h"
 #include "files/FileError.h"
+#include "games/StatExtractor.h"
 #include "page/BoxScoreList.h"
 #include "support/FailingFiles.h"
 #include "support/TestLeague.h"
@@ -159,7 +160,11 @@ TEST_F(OptionsTest, ClearsOneTeamAndLeavesTheRest) {
     window().Command8_Click();
     EXPECT_EQ(league.said().back(), "Please select a team or [ALL] first!");
     window().ClearTeamSelect = Boston;
+    std::vector<std::string> captions;
+    StatExtractor& game = StatExtractor::in(league.app);
+    game.onChange = [&] { captions.push_back(game.caption()); };
     window().Command8_Click();
+    EXPECT_THAT(captions, ElementsAre("Stat Extractor")) << "an open game window loses its mark at once";
     EXPECT_EQ(league.said().back(), "Boston Bruins stats cleared");
     EXPECT_EQ(league.record(Boston).GP, 0);
     EXPECT_EQ(league.record(Boston, PartOfYear::Playoffs).GP, 0);
