@@ -1,9 +1,12 @@
 #include "games/GameSheetReader.h"
 
+#include "files/NativePath.h"
+#include "games/BoxScorePage.h"
 #include "games/SaveStateMap.h"
 #include "games/TeamSheetFields.h"
 #include "store/LeaguePaths.h"
 #include "store/PlayerFiles.h"
+#include "text/Names.h"
 
 namespace iceline {
 
@@ -33,6 +36,15 @@ int lastScorer(const SaveState& save) {
     return save.byteAt(end - FromEnd);
 }
 
+/// The game's page gets the file's name, which must be possible on every system that the site may go to.
+std::optional<std::string> pageNameRefusal(const std::string& path) {
+    const std::u8string name = toNative(path).filename().u8string();
+    const auto problem = namingProblem(boxScorePageName(std::string(name.begin(), name.end())));
+    if (!problem)
+        return std::nullopt;
+    return path + ": the game's page would be named after this file, and the name of a page " + *problem;
+}
+
 } // namespace
 
 GameSheet readGameSheet(const SaveState& save) {
@@ -49,6 +61,8 @@ GameSheet readGameSheet(const SaveState& save) {
 PlayedGame readGame(Files& files, const std::string& path) {
     const SaveState save = SaveState::read(files, path);
     PlayedGame game{readGameSheet(save), {}, lastScorer(save), save.refusal()};
+    if (!game.refusal)
+        game.refusal = pageNameRefusal(path);
     if (!game.refusal)
         game.rosters = readRosters(files, game.sheet);
     return game;

@@ -176,11 +176,12 @@ TEST_F(ImportFolder, TheStandingsCountTheGamesBeforeAFileError) {
     EXPECT_EQ(games, 2) << "one for each of two teams";
 }
 
-TEST_F(ImportFolder, AGameWhosePageNoListCanNameIsRefused) {
-    save("Games/1 \"final\".gs0", lovelyGame());
-    save("Games/2.gs0", lovelyGame());
+TEST_F(ImportFolder, AGameWhosePageCannotBeNamedOnEverySystemIsRefused) {
+    for (const char* name : {"1 \"final\".gs0", "2?.gs0", "CON.gs0", "M\xfcller.gs0"})
+        save(std::string("Games/") + name, lovelyGame());
+    save("Games/3.gs0", lovelyGame());
     run();
-    EXPECT_EQ(league.said()[1], "Cannot import file because its name holds a double quote or a line end.");
+    EXPECT_THAT(league.said()[1], HasSubstr("the name of a page can hold letters, digits and signs other"));
     EXPECT_EQ(lastSaid(), "1 Files imported");
 }
 
