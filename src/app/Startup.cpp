@@ -1,5 +1,6 @@
 #include "app/Startup.h"
 
+#include "games/FolderRunNote.h"
 #include "playoffs/SeasonEnd.h"
 #include "shell/Application.h"
 #include "site/SiteTemplate.h"
@@ -29,6 +30,16 @@ void recoverJournal(Application& app) {
                            "The league is as it was before that change.");
         break;
     }
+}
+
+void tellOfBrokenRun(Application& app) {
+    Operation operation(app);
+    const auto note = readFolderRunNote(app.files());
+    if (!note)
+        return;
+    removeFolderRunNote(app.files());
+    operation.commit();
+    app.platform().say(note->text());
 }
 
 void make(const LeagueEntry& entry, Application& app) {
@@ -67,6 +78,7 @@ bool startUp(Application& app) {
     const BusyPointer busy(app.platform());
     app.state.ShowWindows = true;
     recoverJournal(app);
+    tellOfBrokenRun(app);
     if (!makeWhatIsMissing(app))
         return false;
     app.state.SeasonLength = readNumber16(app.files(), paths::GamesUntilPlayoffs);

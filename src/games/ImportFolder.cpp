@@ -1,4 +1,5 @@
 #include "files/FileError.h"
+#include "games/FolderRunNote.h"
 #include "games/StatExtractor.h"
 #include "games/ThreeStars.h"
 #include "shell/Application.h"
@@ -49,12 +50,23 @@ public:
     std::string run(Steps& steps) {
         const BusyPointer busy(app_.platform());
         app_.journal().beginRun();
-        steps.take([this] { importFiles(); });
+        steps.take([this] {
+            change([this] { writeFolderRunNote(app_.files(), {0, "", folder_}); });
+            importFiles();
+        });
+        steps.take([this] { change([this] { removeFolderRunNote(app_.files()); }); });
         steps.take([this] { app_.journal().endRun(); });
         return closingMessage();
     }
 
 private:
+    template <class Step>
+    void change(Step step) {
+        Operation operation(app_);
+        step();
+        operation.commit();
+    }
+
     void importFiles() {
         const std::vector<std::string> names = app_.files().filesIn(folder_);
         ProgressRun progress(app_.platform(), "Importing games", static_cast<int>(names.size()), true);
@@ -65,7 +77,6 @@ private:
             if (stopped_)
                 return;
             importFile(name);
-            window_.checkSeason();
         }
     }
 
@@ -80,6 +91,8 @@ private:
         window_.ImportStats_Click();
         if (window_.ImportCount > before)
             lastImported_ = name;
+        else
+            window_.checkSeason();
     }
 
     std::string closingMessage() const {

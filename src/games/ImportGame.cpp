@@ -1,5 +1,6 @@
 #include "books/GameImport.h"
 #include "files/FileError.h"
+#include "games/FolderRunNote.h"
 #include "games/StatExtractor.h"
 #include "playoffs/Bracket.h"
 #include "playoffs/SeasonEnd.h"
@@ -42,11 +43,6 @@ void undoAllButTheNumber(Application& app, StatExtractor& window, const Applicat
     } catch (const FileError&) {
         return;
     }
-}
-
-/// Whether a list can hold the name of the game's page, which is the save state's.
-bool canBeListed(const std::string& saveState) {
-    return saveState.find_first_of("\"\r\n", saveState.rfind('/') + 1) == std::string::npos;
 }
 
 std::string seasonCompleted(const std::string& teams, const std::string& verb) {
@@ -97,8 +93,6 @@ std::optional<Refusal> GameInHand::import() {
 std::optional<Refusal> GameInHand::refusal(const PlayedGame& game) {
     if (game.refusal)
         return Refusal{*game.refusal};
-    if (!canBeListed(app_.state.SaveStatePath))
-        return Refusal{"Cannot import file because its name holds a double quote or a line end."};
     if (auto seasonOver = seasonRefusal(game.sheet))
         return seasonOver;
     readPlayoffRecords(app_.files(), app_.state.PlayoffSeries);
@@ -175,11 +169,18 @@ private:
 /// How an import ended.
 struct Outcome {
     std::optional<Refusal> refusal;
-    bool seasonEnds = false; ///< the game was a single one and the last of the regular season
+    bool seasonEnds = false; ///< the game was the last of the regular season
 };
 
+/// Notes that one more game of the run is in, and sees that its closing will find whole standings.
+void noteFolderRun(Application& app, const StatExtractor& window) {
+    writeFolderRunNote(app.files(),
+                       {window.ImportCount + 1, window.SaveStateFileName, folderOf(app.state.SaveStatePath)});
+    Standings::in(app).DivisionStandingsUpdate();
+}
+
 /// Imports the game in hand with the raised number, all or nothing of it; of a refused game and of one that
-/// broke the raised number stays alone. What a single import shows afterwards is worked out here, too, before
+/// broke the raised number stays alone. What an import shows afterwards is worked out here, too, before
 /// anything reaches the disk: a game that has been imported can then no longer end with an error.
 Outcome importGameInHand(Application& app, StatExtractor& window) {
     const BusyPointer busy(app.platform());
@@ -190,8 +191,10 @@ Outcome importGameInHand(Application& app, StatExtractor& window) {
         GameInHand game(app, window);
         app.files().write(paths::OverallGameNumber, numberLine(number));
         Outcome outcome{game.import()};
-        if (!outcome.refusal && window.ImportMode != 1) {
+        if (!outcome.refusal) {
             outcome.seasonEnds = seasonIsOver(app);
+            if (window.ImportMode == 1)
+                noteFolderRun(app, window);
             window.updateStandings();
         }
         operation.commit();
@@ -220,9 +223,8 @@ void StatExtractor::ImportStats_Click() {
         return;
     }
     ++ImportCount;
-    if (!single)
-        return;
-    app_.platform().say("The game has been imported and stats have been saved.");
+    if (single)
+        app_.platform().say("The game has been imported and stats have been saved.");
     if (outcome.seasonEnds)
         turnToPlayoffs(app_);
     changed();

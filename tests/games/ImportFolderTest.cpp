@@ -1,6 +1,9 @@
+#include "app/Startup.h"
 #include "files/FileError.h"
+#include "games/FolderRunNote.h"
 #include "games/ImportLeague.h"
 #include "standings/Standings.h"
+#include "support/FailingFiles.h"
 
 namespace iceline {
 namespace {
@@ -155,13 +158,63 @@ TEST_F(ImportFolder, AFileErrorEndsTheRunAndKeepsWhatWasImported) {
     save("Games/1.gs0", lovelyGame());
     save("Games/2.gs0", GameSheet(TeamIndex(3), TeamIndex(4)));
     save("Games/3.gs0", lovelyGame());
-    files().files["Chicago Blackhawks/Records.txt"] = "torn";
+    files().files["Chicago Blackhawks/Player Stats.txt"] = "torn";
     EXPECT_THROW(run(), FileError);
     EXPECT_EQ(lastSaid(), "1 Files imported");
     EXPECT_EQ(league.record(Boston).GP, 1);
     EXPECT_EQ(gameNumber(), 2);
     EXPECT_EQ(window().ImportMode, 0);
     EXPECT_FALSE(files().isFile(Journal::FileName)) << "the run was brought to its end";
+}
+
+TEST_F(ImportFolder, AGameIsNotImportedWhenTheStandingsOfAThirdTeamCannotBeRead) {
+    save("Games/1.gs0", lovelyGame());
+    std::string& record = files().files["Chicago Blackhawks/Records.txt"];
+    record = record.substr(0, record.size() / 2) + "\r\n";
+    EXPECT_THROW(run(), FileError);
+    EXPECT_EQ(lastSaid(), "0 Files imported");
+    EXPECT_EQ(league.record(Boston).GP, 0);
+    EXPECT_EQ(gameNumber(), 1);
+}
+
+/// Whatever use of the disk the program dies at.
+TEST_F(ImportFolder, TheNextStartTellsWhatOfABrokenRunIsIn) {
+    for (const char* path : {"Games/1.gs0", "Games/2.gs0"})
+        save(path, lovelyGame());
+    files().makeFolder("Games");
+    std::set<std::string> told;
+    bool failed = true;
+    for (int use = 1; failed; use += 5) {
+        MemoryFiles broken = files();
+        FailingFiles failing(broken);
+        TestPlatform platform;
+        platform.chosen.push_back("Games");
+        Application app(failing, league.siteTemplate, platform, windowCatalogue());
+        startUp(app);
+        StatExtractor::in(app).Exhibition = false;
+        StatExtractor::in(app).Season = true;
+        failing.failAt(use, FailingFiles::Failure::Crash);
+        try {
+            StatExtractor::in(app).ImportFolder_Click();
+        } catch (const FileError&) {
+        }
+        failed = failing.hasFailed();
+        TestPlatform next;
+        Application restarted(broken, league.siteTemplate, next, windowCatalogue());
+        ASSERT_TRUE(startUp(restarted));
+        const int games = readTeamRecord(broken, paths::teamFolder(Boston)).GP;
+        const std::string last = next.messages.empty() ? "" : next.said().back();
+        if (!last.starts_with("The import of the folder Games was broken off. "))
+            continue;
+        told.insert(last);
+        EXPECT_THAT(last, HasSubstr(games == 0 ? "No file of it was imported."
+                                    : games == 1
+                                        ? "1 Files of it were imported. The last file imported was 1.gs0."
+                                        : "2 Files of it were imported. The last file imported was 2.gs0."))
+            << use;
+        EXPECT_FALSE(broken.isFile(paths::FolderRun)) << "it is told once";
+    }
+    EXPECT_EQ(told.size(), 3u);
 }
 
 TEST_F(ImportFolder, TheStandingsCountTheGamesBeforeAFileError) {
