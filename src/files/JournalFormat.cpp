@@ -37,7 +37,7 @@ void addText(std::string& bytes, std::string_view text) {
     bytes += text;
 }
 
-/// Takes what addNumber() and addText() added; nothing when the bytes do not reach.
+/// Takes what addNumber() and addText() added; nothing when the bytes do not reach, and nothing after that.
 class Bytes {
 public:
     explicit Bytes(std::string_view rest) : rest_(rest) {}
@@ -45,8 +45,10 @@ public:
     bool atEnd() const { return rest_.empty(); }
 
     std::optional<std::string_view> take(std::uint64_t size) {
-        if (size > rest_.size())
+        if (size > rest_.size()) {
+            rest_ = {};
             return std::nullopt;
+        }
         const std::string_view taken = rest_.substr(0, size);
         rest_.remove_prefix(size);
         return taken;

@@ -415,6 +415,12 @@ TEST(JournalTest, MadeByHandMovesNothingOutside) {
         EXPECT_EQ(Journal(files).recover(), Recovery::Dropped) << path;
         EXPECT_EQ(stateOf(files), afterGames(0)) << path;
     }
+    MemoryFiles files = league();
+    const std::string pathCutShort = number(1) + number(99) + number(0) + text("x");
+    files.files[Journal::FileName] =
+        "Iceline Scorebook journal 1: changes that were begun, to be finished at the next start.\n" +
+        number(checksum(pathCutShort)) + text(pathCutShort);
+    EXPECT_EQ(Journal(files).recover(), Recovery::Dropped);
 }
 
 TEST(JournalTest, StaysInTheLeagueFolder) {
