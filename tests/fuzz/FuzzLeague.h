@@ -1,52 +1,24 @@
 #pragma once
 
-#include "app/Catalogue.h"
-#include "files/FileError.h"
-#include "games/StatExtractor.h"
-#include "support/TestLeague.h"
+#include "books/GameImport.h"
+#include "support/MemoryFiles.h"
 
-#include <algorithm>
-#include <cstdlib>
-#include <iostream>
 #include <string>
+#include <vector>
 
 namespace iceline::test {
 
-/// Tells the fuzzer that the program has broken a promise.
-inline void require(bool holds, const std::string& promise) {
-    if (holds)
-        return;
-    std::cerr << "broken: " << promise << '\n';
-    std::abort();
-}
+/// A league half through its season with two coaches, in its play-offs, and a new one.
+const std::vector<MemoryFiles>& fuzzLeagues();
 
-/// Selects and imports a season game whose save state lies at `path`. True when a file error broke the
-/// import; one that comes up after it, when the season is looked at, leaves the game in the books.
-inline bool importFails(TestLeague& league, const std::string& path) {
-    try {
-        StatExtractor& window = StatExtractor::in(league.app);
-        window.Exhibition = false;
-        window.Season = true;
-        window.T1Coach = 1;
-        league.platform.chosen.push_back(path);
-        window.LoadStats_Click();
-        window.ImportStats_Click();
-    } catch (const FileError&) {
-        const auto said = league.said();
-        return std::ranges::find(said, "The game has been imported and stats have been saved.") == said.end();
-    }
-    return false;
-}
+/// Save states of made-up games.
+std::vector<std::string> sampleSaveStates();
 
-/// Opens every window of the league. True when a file error kept one from it.
-inline bool windowsFail(TestLeague& league) {
-    try {
-        for (const CatalogueRow& row : windowCatalogue())
-            league.app.windows().use(row.id);
-    } catch (const FileError&) {
-        return true;
-    }
-    return false;
-}
+/// A file as each of the leagues has it.
+std::vector<std::string> fromLeagues(const std::string& path);
+
+/// The coaches of the leagues.
+inline const std::string HomeCoach = "Ann";
+inline const std::string AwayCoach = "Bo";
 
 } // namespace iceline::test
