@@ -33,13 +33,13 @@ Status listCoaches(Session& session, const NoArguments&) {
 }
 
 Status addCoach(Session& session, const std::string& name) {
-    const bool isNew = !coachNamed(session, name);
     Options& options = use<Options>(session, WindowId::Options);
     if (!options.content().Command1Visible)
         options.NewCoach_Click();
+    const std::size_t before = options.content().coaches.size();
     options.NewC = name;
     options.Command1_Click();
-    return isNew && coachNamed(session, name) ? Status::Done : Status::Refused;
+    return options.content().coaches.size() > before ? Status::Done : Status::Refused;
 }
 
 Status renameCoach(Session& session, const Renaming& renaming) {
@@ -48,7 +48,7 @@ Status renameCoach(Session& session, const Renaming& renaming) {
         options.EditCoach_Click();
     options.NewC = renaming.to;
     options.Command2_Click();
-    return coachNamed(session, renaming.from) ? Status::Refused : Status::Done;
+    return options.Combo1 == Options::NotChosen ? Status::Done : Status::Refused;
 }
 
 Status deleteCoach(Session& session, const std::string& name) {

@@ -2,14 +2,17 @@
 
 #include "books/Clearing.h"
 #include "coaches/Coaches.h"
+#include "files/FileError.h"
 #include "leaders/Rankings.h"
 #include "league/Numbers.h"
 #include "playoffs/SeasonEnd.h"
 #include "shell/Application.h"
 #include "standings/Standings.h"
 #include "store/LeagueFiles.h"
+#include "text/Names.h"
 #include "text/Text.h"
 
+#include <algorithm>
 #include <charconv>
 #include <limits>
 #include <optional>
@@ -26,6 +29,32 @@ void storeSeasonLength(Application& app, int length) {
     app.files().write(paths::GamesUntilPlayoffs, numberLine(length));
     operation.commit();
     app.state.SeasonLength = length;
+}
+
+/// Has an open window show the standings of the files; one that cannot read them shows what it did.
+void showStandingsOfFiles(Application& app) {
+    try {
+        if (app.windows().isOpen(WindowId::Standings))
+            Standings::in(app).DivisionStandingsUpdate();
+    } catch (const FileError&) {
+        return;
+    }
+}
+
+/// Makes changes together with what is worked out of them afterwards, so that nothing can fail once they are
+/// on the disk. When they do not get there, the shared state and the standings on view are as before.
+template <class Changes>
+void changeWhole(Application& app, Changes changes) {
+    const ApplicationState before = app.state;
+    try {
+        Operation operation(app);
+        changes();
+        operation.commit();
+    } catch (const FileError&) {
+        app.state = before;
+        showStandingsOfFiles(app);
+        throw;
+    }
 }
 
 bool confirms(Application& app, const std::string& question, const std::string& title = Message().title) {
@@ -61,8 +90,14 @@ std::string Options::chosenCoach() const {
     return Combo1 == NotChosen ? "" : content_.coaches.at(CoachIndex(Combo1));
 }
 
-void Options::refreshCoaches() {
-    content_.coaches = coachNames(app_.files());
+/// Changes the coaches and shows them as they are then.
+void Options::changeCoaches(const std::function<void(Files&)>& change) {
+    std::vector<std::string> coaches;
+    changeWhole(app_, [&] {
+        change(app_.files());
+        coaches = coachNames(app_.files());
+    });
+    content_.coaches = coaches;
     Combo1 = NotChosen;
 }
 
@@ -99,12 +134,8 @@ bool Options::acceptsNewName(const std::string& former) {
 }
 
 void Options::Command1_Click() {
-    if (acceptsNewName()) {
-        Operation operation(app_);
-        createCoach(app_.files(), NewC);
-        operation.commit();
-        refreshCoaches();
-    }
+    if (acceptsNewName())
+        changeCoaches([this](Files& files) { createCoach(files, NewC); });
     NewC.clear();
     changed();
 }
@@ -112,21 +143,27 @@ void Options::Command1_Click() {
 void Options::EditCoach_Click() {
     if (!isCoachChosen())
         return;
+    turnRenamingFor(chosenCoach());
+    changed();
+}
+
+/// Opens the input row for another name of a coach, or closes it.
+void Options::turnRenamingFor(const std::string& coach) {
     content_.Command1Visible = false;
     content_.Command2Visible = !content_.Command2Visible;
-    NewC = chosenCoach();
-    changed();
+    NewC = coach;
 }
 
 void Options::Command2_Click() {
     if (!isCoachChosen())
         return;
-    if (acceptsNewName(chosenCoach())) {
-        Operation operation(app_);
-        renameCoach(app_.files(), chosenCoach(), NewC);
-        operation.commit();
-        EditCoach_Click();
-        refreshCoaches();
+    const std::string coach = chosenCoach();
+    if (acceptsNewName(coach)) {
+        changeCoaches([&](Files& files) { renameCoach(files, coach, NewC); });
+        // His folder goes by the former name until the new one is on the disk.
+        std::ranges::replace(content_.coaches, coach, NewC);
+        std::ranges::sort(content_.coaches, nameBefore);
+        turnRenamingFor(coach);
     }
     changed();
 }
@@ -136,10 +173,7 @@ void Options::DeleteCoach_Click() {
         return;
     if (!confirms(app_, "Are you sure you want to delete coach " + chosenCoach() + "?"))
         return;
-    Operation operation(app_);
-    deleteCoach(app_.files(), chosenCoach());
-    operation.commit();
-    refreshCoaches();
+    changeCoaches([this](Files& files) { deleteCoach(files, chosenCoach()); });
     content_.Command2Visible = false;
     changed();
 }
@@ -174,8 +208,13 @@ void Options::EnterSeasonLength_Click() {
 void Options::GoToPlayoffs_Click() {
     if (!confirms(app_, "Are you sure you want to end the Regular Season and move to the Playoffs?"))
         return;
-    storeSeasonLength(app_, EndedByHand);
-    checkSeason(app_);
+    bool seasonEnds = false;
+    changeWhole(app_, [&] {
+        storeSeasonLength(app_, EndedByHand);
+        seasonEnds = seasonIsOver(app_);
+    });
+    if (seasonEnds)
+        turnToPlayoffs(app_);
     app_.platform().say("The Regular Season is now over, proceed with the Playoffs.");
 }
 
@@ -197,20 +236,22 @@ void Options::Command8_Click() {
 }
 
 void Options::clearOneTeam(TeamIndex team) {
-    Operation operation(app_);
-    clearTeam(app_.files(), team);
-    operation.commit();
+    changeWhole(app_, [&] {
+        clearTeam(app_.files(), team);
+        afterClearing();
+    });
     app_.platform().say(std::string(TeamName[team]) + " stats cleared");
-    afterClearing();
 }
 
 void Options::clearWholeLeague() {
-    Operation operation(app_);
-    clearLeague(app_.files());
-    operation.commit();
-    content_.CurrentSeasonLength = std::to_string(readNumber16(app_.files(), paths::GamesUntilPlayoffs));
+    int length = 0;
+    changeWhole(app_, [&] {
+        clearLeague(app_.files());
+        length = readNumber16(app_.files(), paths::GamesUntilPlayoffs);
+        afterClearing();
+    });
+    content_.CurrentSeasonLength = std::to_string(length);
     changed();
-    afterClearing();
     app_.platform().say("All stats have been cleared.");
 }
 

@@ -1,8 +1,10 @@
 #pragma once
 
+#include "files/Files.h"
 #include "league/TeamTable.h"
 #include "shell/Window.h"
 
+#include <functional>
 #include <optional>
 #include <string>
 #include <vector>
@@ -58,7 +60,8 @@ public:
 private:
     bool isCoachChosen();
     bool acceptsNewName(const std::string& former = "");
-    void refreshCoaches();
+    void turnRenamingFor(const std::string& coach);
+    void changeCoaches(const std::function<void(Files&)>& change);
     void clearOneTeam(TeamIndex team);
     void clearWholeLeague();
     void afterClearing();
