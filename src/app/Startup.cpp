@@ -48,7 +48,7 @@ void make(const LeagueEntry& entry, Application& app) {
         app.files().makeFolder(entry.path);
         break;
     case LeagueEntry::Kind::Site:
-        copyMissingOfTemplate(app.siteTemplate(), app.files());
+        bringSiteUpToDate(app.siteTemplate(), app.files(), RemovedFiles::ComeBack);
         break;
     case LeagueEntry::Kind::File:
         app.files().write(entry.path, entry.initialContent());
@@ -56,8 +56,9 @@ void make(const LeagueEntry& entry, Application& app) {
     }
 }
 
-/// False when the user does not want the missing files made; nothing is then touched.
-bool makeWhatIsMissing(Application& app) {
+/// Makes what is missing and brings the site up to date. False when the user does not want the missing files
+/// made; nothing is then touched.
+bool completeLeague(Application& app) {
     Operation operation(app);
     bool AskedOnce = false;
     for (const LeagueEntry& entry : leagueLayout(app.files())) {
@@ -68,6 +69,7 @@ bool makeWhatIsMissing(Application& app) {
         AskedOnce = true;
         make(entry, app);
     }
+    bringSiteUpToDate(app.siteTemplate(), app.files(), RemovedFiles::StayAway);
     operation.commit();
     return true;
 }
@@ -79,7 +81,7 @@ bool startUp(Application& app) {
     app.state.ShowWindows = true;
     recoverJournal(app);
     tellOfBrokenRun(app);
-    if (!makeWhatIsMissing(app))
+    if (!completeLeague(app))
         return false;
     app.state.SeasonLength = readNumber16(app.files(), paths::GamesUntilPlayoffs);
     checkSeason(app);

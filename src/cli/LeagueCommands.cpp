@@ -1,6 +1,7 @@
 #include "app/WelcomeWindow.h"
 #include "cli/Command.h"
 #include "site/SiteTemplate.h"
+#include "store/LeaguePaths.h"
 
 namespace iceline::cli {
 
@@ -8,8 +9,12 @@ namespace {
 
 Status init(Session& session, const NoArguments&) {
     Operation operation(session.app());
-    copyMissingOfTemplate(session.app().siteTemplate(), session.app().files());
+    const auto left =
+        bringSiteUpToDate(session.app().siteTemplate(), session.app().files(), RemovedFiles::ComeBack);
     operation.commit();
+    for (const std::string& path : left)
+        session.out() << "Left as the league has changed it, though the program has a newer one: "
+                      << paths::page(path) << '\n';
     return Status::Done;
 }
 
@@ -24,7 +29,8 @@ Status publish(Session& session, const NoArguments&) {
 
 void addLeagueCommands(CLI::App& program, Call& call) {
     addCommand(program, call, "init",
-               "Create what the league lacks, the files of the site's template included", init);
+               "Create what the league lacks, and bring the site's files up to date that it has not changed",
+               init);
     addCommand(program, call, "publish", "Rewrite the whole web site from the league's files", publish);
 }
 

@@ -48,10 +48,9 @@ private:
     ApplicationState& state_;
 };
 
-/// Makes the site out of the template when there is none, and sees to it that the template is whole.
+/// Brings what the site has of the template up to date, and sees to it that the template is whole.
 void requireSite(Application& app) {
-    if (!app.files().isFolder(paths::WebRoot))
-        copyMissingOfTemplate(app.siteTemplate(), app.files());
+    bringSiteUpToDate(app.siteTemplate(), app.files(), RemovedFiles::StayAway);
     std::string missing;
     for (const std::string folder : TemplateFolders)
         if (!app.files().isFolder(paths::page(folder)))

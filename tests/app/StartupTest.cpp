@@ -2,10 +2,13 @@
 
 #include "app/Catalogue.h"
 #include "files/FileError.h"
+#include "files/JournalFormat.h"
 #include "store/LeagueFiles.h"
 #include "support/TestLeague.h"
 
 #include <gmock/gmock.h>
+
+#include <fmt/core.h>
 
 namespace iceline {
 namespace {
@@ -55,8 +58,8 @@ TEST(FirstRun, AsksOnceAndMakesEveryFolderAndFile) {
     EXPECT_EQ(question.title, "Data files missing");
     EXPECT_EQ(question.text, Question);
     EXPECT_EQ(question.buttons, Buttons::OkCancel);
-    // Nine files a team, sixteen of the league and the template's three.
-    EXPECT_THAT(files.files, SizeIs(24 * 9 + 16 + 3));
+    // Nine files a team, sixteen of the league, the template's three and the list of them.
+    EXPECT_THAT(files.files, SizeIs(24 * 9 + 16 + 4));
     EXPECT_EQ(files.foldersIn("IcelineWebPages/Profiles").size(), 24u);
     EXPECT_EQ(files.foldersIn("IcelineWebPages/PlayoffProfiles").size(), 24u);
     for (const char* folder : {"BoxScores", "CStats", "PlayoffTStats", "TStats"})
@@ -159,7 +162,7 @@ TEST(LaterRun, MakesAMissingFileAlone) {
                    TestLeague().files.read("Tampa Bay Lightning/Players List.txt"));
 }
 
-TEST(LaterRun, ASiteThatExistsIsNotFilledFromTheTemplate) {
+TEST(LaterRun, FilesOfTheTemplateThatTheLeagueHasRemovedStayAway) {
     TestLeague league;
     league.files.remove("IcelineWebPages/styles.css");
     league.files.removeFolder("IcelineWebPages/CStats");
@@ -168,6 +171,35 @@ TEST(LaterRun, ASiteThatExistsIsNotFilledFromTheTemplate) {
     EXPECT_THAT(run.platform.said(), ElementsAre(Question));
     EXPECT_TRUE(league.files.isFolder("IcelineWebPages/CStats"));
     EXPECT_FALSE(league.files.isFile("IcelineWebPages/styles.css"));
+}
+
+TEST(LaterRun, BringsTheSiteUpToDateButForWhatTheLeagueHasChanged) {
+    MemoryFiles files;
+    ProgramRun first(files);
+    first.siteTemplate.files["base.css"] = "a {}";
+    first.siteTemplate.files["tables.js"] = "one();";
+    ASSERT_TRUE(startUp(first.app));
+    files.files["IcelineWebPages/base.css"] = "a { color: teal }";
+    // As if the site were from before it noted what it was delivered; the template knows that version.
+    files.remove("IcelineWebPages/.delivered-versions");
+
+    ProgramRun later(files);
+    later.siteTemplate.files["base.css"] = "b {}";
+    later.siteTemplate.files["tables.js"] = "two();";
+    later.siteTemplate.files["search.js"] = "find();";
+    later.siteTemplate.files[".earlier-versions"] = fmt::format("{:016x}  tables.js\n", checksum("one();"));
+    ASSERT_TRUE(startUp(later.app));
+    EXPECT_EQ(files.read("IcelineWebPages/base.css"), "a { color: teal }");
+    EXPECT_EQ(files.read("IcelineWebPages/tables.js"), "two();");
+    EXPECT_EQ(files.read("IcelineWebPages/search.js"), "find();");
+    EXPECT_FALSE(files.isFile("IcelineWebPages/.earlier-versions"));
+
+    later.siteTemplate.files["tables.js"] = "three();";
+    ASSERT_TRUE(startUp(later.app));
+    EXPECT_EQ(files.read("IcelineWebPages/tables.js"), "three();");
+    const int writes = files.writes;
+    ASSERT_TRUE(startUp(later.app));
+    EXPECT_EQ(files.writes, writes);
 }
 
 TEST(LaterRun, AnEmptiedFileCountsAsExisting) {

@@ -85,7 +85,7 @@ TEST(GenerateWebpages, WritesTheWholeSiteAndSaysSo) {
     EXPECT_TRUE(league.app.state.ShowWindows);
     EXPECT_EQ(league.platform.busyDepth, 0);
     EXPECT_THAT(league.files.filesIn("IcelineWebPages"),
-                ElementsAre("AllTimeRecords.htm", "BoxScores.htm", "CoachingStats.htm",
+                ElementsAre(".delivered-versions", "AllTimeRecords.htm", "BoxScores.htm", "CoachingStats.htm",
                             "ConferenceStandings.htm", "DivisionStandings.htm", "HomeAwayStandings.htm",
                             "index.htm", "PlayoffAllTimeRecords.htm", "Playoffs.htm", "PlayoffTree.htm",
                             "styles.css", "vsConfStandings.htm"));
