@@ -204,8 +204,8 @@ private:
 } // namespace
 
 void writeHomePage(Files& files, Platform& platform, const ApplicationState& state, PartOfYear part) {
-    writePage(files, paths::page(part == PartOfYear::Season ? "index.htm" : "Playoffs.htm"),
-              HomePage(files, platform, state).text(part));
+    writePageWithCards(files, paths::page(part == PartOfYear::Season ? "index.htm" : "Playoffs.htm"),
+                       HomePage(files, platform, state).text(part));
 }
 
 } // namespace iceline

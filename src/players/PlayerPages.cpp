@@ -127,8 +127,8 @@ void writePlayerPages(Files& files, Platform& platform, PartOfYear part, TeamInd
         readPlayerStats(files, paths::teamFile(team, part, paths::PlayerStats), roster);
     auto line = stats.begin();
     for (const RosterRow& player : listedPlayers(roster))
-        writePage(files, folder + "/" + playerFileName(player.Name) + ".htm",
-                  playerPage(part, team, player, *line++, cardOf(files, platform, part, player)));
+        writePageWithCards(files, folder + "/" + playerFileName(player.Name) + ".htm",
+                           playerPage(part, team, player, *line++, cardOf(files, platform, part, player)));
 }
 
 } // namespace iceline
