@@ -177,12 +177,16 @@ std::string allTimeRecordsPage(const AllTimeRecords::Content& content) {
     return page.text();
 }
 
+AllTimeRecords::Content readAllTimeRecords(Files& files, PartOfYear part) {
+    return {.players = readAllTimePlayerRecords(files, paths::allTimePlayerRecords(part)),
+            .goalies = readAllTimeGoalieRecords(files, paths::allTimeGoalieRecords(part)),
+            .teams = readAllTimeLeagueRecords(files, paths::allTimeLeagueRecords(part)),
+            .coaches = readCoachesLeagueRecords(files, paths::coachesLeagueRecords(part))};
+}
+
 void AllTimeRecords::Form_Load() {
     Files& files = app_.files();
-    content_.players = readAllTimePlayerRecords(files, paths::allTimePlayerRecords(part_));
-    content_.goalies = readAllTimeGoalieRecords(files, paths::allTimeGoalieRecords(part_));
-    content_.teams = readAllTimeLeagueRecords(files, paths::allTimeLeagueRecords(part_));
-    content_.coaches = readCoachesLeagueRecords(files, paths::coachesLeagueRecords(part_));
+    content_ = readAllTimeRecords(files, part_);
     writePage(files,
               paths::page(part_ == PartOfYear::Season ? "AllTimeRecords.htm" : "PlayoffAllTimeRecords.htm"),
               allTimeRecordsPage(content_));

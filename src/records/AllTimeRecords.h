@@ -34,6 +34,9 @@ private:
     Content content_;
 };
 
+/// The records of a part of the year. Throws FileError when a file cannot be read.
+AllTimeRecords::Content readAllTimeRecords(Files& files, PartOfYear part);
+
 /// A record as the window shows it. A control that the section does not have is "".
 struct ShownRecord {
     std::string_view caption;

@@ -4,6 +4,7 @@
 #include "players/PlayerPages.h"
 #include "shell/Application.h"
 #include "site/ReadCache.h"
+#include "site/SiteData.h"
 #include "site/SiteTemplate.h"
 #include "store/LeaguePaths.h"
 
@@ -64,7 +65,7 @@ class WebpageRun {
 public:
     explicit WebpageRun(Application& app)
         : app_(app), progress_(app.platform(), "Generating webpages",
-                               static_cast<int>(WindowsOfRun.size()) + TeamSteps * LeagueTeams, false) {}
+                               static_cast<int>(WindowsOfRun.size()) + TeamSteps * LeagueTeams + 1, false) {}
 
     /// False when the user stopped the run, which then ends between two pages.
     bool run() {
@@ -85,6 +86,9 @@ public:
                 writePlayerPages(app_.files(), app_.platform(), part, team);
             }
         }
+        if (!progress_.next("data/"))
+            return false;
+        writeSiteData(app_);
         return true;
     }
 
