@@ -142,6 +142,7 @@ async function showRows(table, team, order) {
       return;
     }
     rows?.forEach(nameTeam);
+    rows?.forEach((row) => linkNames(table, row, team));
     if (rows && order) {
       alignFigures(rows);
     }
@@ -151,6 +152,31 @@ async function showRows(table, team, order) {
   }
   if (state.rows || state.message) {
     await drawRows(table, state);
+  }
+}
+
+/** Leads a player's name to his page, and a team of the leaders to its own, unless the row does so. */
+function linkNames(table, row, team) {
+  const part = table.dataset.fragment.startsWith('./Playoff') || location.pathname.includes('/PlayoffPStats/') ?
+    'playoffs' : 'season';
+  if (table.matches('.players')) {
+    linkPlayer(row.cells[2], part, teamOf(row));
+  } else if (table.matches('.team-leaders') && row.cells[0].matches('td')) {
+    linkPlayer(row.cells[0], part, team);
+  } else if (table.matches('.leaders')) {
+    const logo = row.querySelector('img');
+    const link = make('a', {href: siteLink(`${part === 'playoffs' ? 'Playoff' : ''}PStats/team.htm?team=${logo.alt}`).href});
+    link.dataset.team = logo.alt;
+    delete logo.parentElement.dataset.team;
+    logo.replaceWith(link);
+    link.append(logo);
+  }
+}
+
+function linkPlayer(cell, part, team) {
+  const name = cell?.querySelector('center') ?? cell;
+  if (name && !name.firstElementChild) {
+    name.replaceChildren(make('a', {href: playerPage(part, team, name.textContent.trim())}, name.textContent.trim()));
   }
 }
 

@@ -20,6 +20,7 @@ const PAGES = {
   'index.htm': 'Last 10 Game Results',
   'BoxScores.htm': 'Game Result',
   [`BoxScores/${GAME}`]: 'Scoring Summary',
+  'Results.htm': 'Box score',
   'PlayerStats.htm': 'Patrick Division',
   'PStats/index.php?team=BOS': 'Forwards / Defensemen',
   'TeamStats.htm': 'Smythe Division',
@@ -63,7 +64,7 @@ const tableOnView = (table) => table.evaluate((element) => ({
     arrow: getComputedStyle(head.firstElementChild, '::before').content[1],
   })),
   rows: [...element.tBodies[0].rows].map((row) =>
-    [...row.cells].map((cell) => cell.textContent.trim() || cell.dataset.team || '')),
+    [...row.cells].map((cell) => cell.textContent.trim() || cell.querySelector('a')?.dataset.team || '')),
 }));
 
 const allDrawn = (page) => page.waitForFunction(() => !document.querySelector('[aria-busy]'));
@@ -223,7 +224,7 @@ function checkPages(url) {
       links: [...body.querySelectorAll('[href], [src]')].map((link) => new URL(link.href ?? link.src).host),
     }));
     assert.equal(acted, undefined);
-    assert.deepEqual([...new Set(parts)].sort(), ['a', 'b', 'img', 'img alt', 'img src', 'td', 'td data-team', 'tr']);
+    assert.deepEqual([...new Set(parts)].sort(), ['a', 'a href', 'b', 'img', 'img alt', 'img src', 'td', 'td data-team', 'tr']);
     assert.deepEqual([...new Set(links)], [new URL(url('')).host]);
     assert.equal(await page.locator('#players tbody tr').count(), NAMES.length);
     await page.close();
@@ -257,6 +258,7 @@ function checkPages(url) {
 
   test('the first rows of the leaders, all of them, and those of a team and a name', async () => {
     const page = await visit(browser, url('LeagueLeaders.htm'));
+    await allDrawn(page);
     const rows = page.locator('#players tbody tr');
     assert.equal(await rows.count(), 50);
     await showAllRows(page);
@@ -277,6 +279,51 @@ function checkPages(url) {
     assert.equal(await again.locator('#players tbody').innerText(), await page.locator('#players tbody').innerText());
     assert.deepEqual([...page.faults, ...again.faults], []);
     await Promise.all([page.close(), again.close()]);
+  });
+
+  test('a visitor finds a player, a team\'s games against a rival, and a series', async () => {
+    const page = await visit(browser, url('LeagueLeaders.htm'));
+    const player = decodeURI(PLAYER.replace('.htm', ''));
+    await page.getByLabel('Search').fill(player.slice(1, -1).toUpperCase());
+    await page.locator('#found a', {hasText: player}).waitFor();
+    await page.keyboard.press('ArrowDown');
+    await page.keyboard.press('Enter');
+    await page.waitForURL(/Profiles\/BOS/);
+
+    await page.goto(url('PStats/team.htm?team=BOS'), {waitUntil: 'networkidle'});
+    const facts = await page.locator('.facts').innerText();
+    const [won, lost, tied] = await page.locator('#record tbody td').allInnerTexts();
+    assert.ok(facts.includes([won, lost, tied].map((figure) => figure.trim()).join('-')), facts);
+    assert.equal(await page.locator('#games tbody tr').count(), 10);
+    assert.equal(await page.locator('#games-more tbody tr').count(), 23);
+    const rival = page.locator('#games-more tbody tr').first();
+    const record = await rival.locator('.figure').allInnerTexts();
+    await rival.getByRole('link', {name: 'Games'}).click();
+    await page.waitForURL(/Results\.htm\?team=BOS&against=/);
+    await page.locator('#meetings').waitFor();
+    await page.getByLabel('Games').selectOption('season');
+    const meetings = await page.locator('#meetings').innerText();
+    assert.ok(meetings.includes(`${record[2]} tied, goals ${record[3]} to ${record[4]}`), meetings);
+    assert.equal(await page.locator('#results tbody tr').count(),
+      record.slice(0, 3).reduce((sum, figure) => sum + Number(figure), 0));
+
+    await page.goto(url('PlayoffPStats/team.htm?team=BOS'), {waitUntil: 'networkidle'});
+    assert.match(await page.locator('.series').innerText(), /^First Round:\s+\D+ \d-\d/);
+    assert.deepEqual(page.faults, []);
+    await page.close();
+  });
+
+  test('the standings and the points race agree with each other', async () => {
+    const page = await visit(browser, url('Standings.htm?by=division'));
+    const points = (row) => row.locator('td').nth(7).innerText();
+    const first = page.locator('#standings tbody tr').first();
+    await page.locator('summary').click();
+    const inRace = page.locator('#race-table tbody tr').first();
+    assert.equal(await inRace.locator('td').last().innerText(), await points(first));
+    assert.equal(await page.locator('#standings h2').count(), 4);
+    assert.ok(await page.locator('#race canvas').isVisible());
+    assert.deepEqual(page.faults, []);
+    await page.close();
   });
 
   test('on a telephone the sorted column comes right after the name', async () => {
@@ -302,9 +349,10 @@ function checkPages(url) {
   });
 }
 
-/** What the page of a team shows, its addresses apart: whatever in it is on view. */
+/** What the page of a team shows, its addresses apart, and what takes scripts: whatever else in it is on view. */
 const teamOnView = (page) => page.evaluate(() => {
-  const shown = (selector) => [...document.querySelectorAll(selector)].filter((element) => element.checkVisibility());
+  const shown = (selector) => [...document.querySelectorAll(selector)].filter((element) =>
+    element.checkVisibility() && !element.closest('#games, #games-more, .team-leaders a'));
   return {
     title: document.title,
     pictures: shown('main img').map(({src}) => src),
