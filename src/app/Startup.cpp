@@ -1,5 +1,6 @@
 #include "app/Startup.h"
 
+#include "app/UnfinishedChange.h"
 #include "games/FolderRunNote.h"
 #include "playoffs/SeasonEnd.h"
 #include "shell/Application.h"
@@ -17,20 +18,6 @@ const Message MissingFilesQuestion{
     "\n"
     "(There are several files, so make sure the .EXE is in a separate folder first!)",
     Buttons::OkCancel, "Data files missing"};
-
-void recoverJournal(Application& app) {
-    switch (app.journal().recover()) {
-    case Recovery::Nothing:
-        break;
-    case Recovery::Finished:
-        app.platform().say("The last change to the league was interrupted. It has now been finished.");
-        break;
-    case Recovery::Dropped:
-        app.platform().say("The last change to the league was interrupted before it could be saved. "
-                           "The league is as it was before that change.");
-        break;
-    }
-}
 
 void tellOfBrokenRun(Application& app) {
     Operation operation(app);
@@ -79,7 +66,7 @@ bool completeLeague(Application& app) {
 bool startUp(Application& app) {
     const BusyPointer busy(app.platform());
     app.state.ShowWindows = true;
-    recoverJournal(app);
+    recoverAtStart(app);
     tellOfBrokenRun(app);
     if (!completeLeague(app))
         return false;

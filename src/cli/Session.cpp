@@ -1,10 +1,6 @@
 #include "cli/Session.h"
 
-#include "app/Catalogue.h"
-#include "app/ProgramFolder.h"
-#include "app/Startup.h"
 #include "files/FileError.h"
-#include "files/Journal.h"
 #include "store/LeaguePaths.h"
 
 namespace iceline::cli {
@@ -27,11 +23,6 @@ fs::path absolute(const std::string& given) {
 
 } // namespace
 
-Session::League::League(const fs::path& folder, Platform& platform, LeagueLock taken, Files files)
-    : lock(std::move(taken)), disk(folder), memory(disk), siteTemplate(siteTemplateFolder()),
-      app(files == Files::OnDisk ? static_cast<iceline::Files&>(disk) : memory, siteTemplate, platform,
-          windowCatalogue()) {}
-
 Session::Session(Console& console, LeagueChoice choice)
     : console_(console), choice_(std::move(choice)), platform_(console) {}
 
@@ -40,7 +31,7 @@ Session::~Session() {
 }
 
 void Session::end() {
-    tellLimits();
+    tellWarnings();
     league_.reset();
 }
 
@@ -51,13 +42,12 @@ fs::path Session::leagueFolder() const {
     return folder;
 }
 
-/// Says what the disk of the league cannot do, once.
-void Session::tellLimits() {
+void Session::tellWarnings() {
     if (!league_)
         return;
-    const std::string limit = league_->disk.takeLimit();
-    if (!limit.empty())
-        report(console_, limit);
+    const std::string warnings = league_->takeWarnings();
+    if (!warnings.empty())
+        report(console_, warnings);
 }
 
 void Session::takeLeague() {
@@ -65,15 +55,14 @@ void Session::takeLeague() {
 }
 
 void Session::takeLeague(LeagueLock lock) {
-    league_.emplace(leagueFolder(), platform_, std::move(lock), League::Files::OnDisk);
-    if (!league_->lock.warning().empty())
-        report(console_, league_->lock.warning());
+    league_.emplace(leagueFolder(), platform_, std::move(lock), OpenLeague::Writes::ToDisk);
+    tellWarnings();
     if (choice_.yes)
         platform_.respondent = ConsolePlatform::Respondent::AlwaysOk;
 }
 
 bool Session::startUpOnLeague() {
-    const bool started = startUp(league_->app);
+    const bool started = league_->start();
     platform_.respondent = ConsolePlatform::Respondent::AlwaysOk;
     return started;
 }
@@ -93,24 +82,17 @@ bool Session::startLooking() {
     try {
         return startUpOnLeague();
     } catch (const FileError& error) {
-        if (!league_->disk.isFile(Journal::FileName))
+        if (!league_->hasUnfinishedChange())
             throw;
         report(console_, error.what());
     }
-    LeagueLock kept = std::move(league_->lock);
+    LeagueLock kept = league_->giveLock();
     league_.reset();
     return startInMemory(std::move(kept));
 }
 
-/// A change that the journal holds is seen as made, where that can be.
 bool Session::startInMemory(LeagueLock lock) {
-    league_.emplace(leagueFolder(), platform_, std::move(lock), League::Files::InMemory);
-    try {
-        Journal(league_->memory).recover();
-    } catch (const FileError&) {
-        league_->memory.discard();
-        league_->memory.remove(Journal::FileName);
-    }
+    league_.emplace(leagueFolder(), platform_, std::move(lock), OpenLeague::Writes::ToMemory);
     return startUpOnLeague();
 }
 

@@ -1,10 +1,7 @@
 #pragma once
 
+#include "app/OpenLeague.h"
 #include "cli/ConsolePlatform.h"
-#include "files/DiskFiles.h"
-#include "files/LeagueLock.h"
-#include "files/StagedFiles.h"
-#include "shell/Application.h"
 
 #include <filesystem>
 #include <optional>
@@ -58,31 +55,19 @@ public:
     ConsolePlatform& platform() { return platform_; }
 
     /// The league. Only after start().
-    Application& app() { return league_->app; }
+    Application& app() { return league_->app(); }
 
 private:
     std::filesystem::path leagueFolder() const;
     void takeLeague(LeagueLock lock);
     bool startUpOnLeague();
     bool startInMemory(LeagueLock lock);
-    void tellLimits();
-
-    struct League {
-        enum class Files { OnDisk, InMemory };
-
-        League(const std::filesystem::path& folder, Platform& platform, LeagueLock taken, Files files);
-
-        LeagueLock lock;
-        DiskFiles disk;
-        StagedFiles memory;
-        DiskFiles siteTemplate;
-        Application app;
-    };
+    void tellWarnings();
 
     Console& console_;
     LeagueChoice choice_;
     ConsolePlatform platform_;
-    std::optional<League> league_;
+    std::optional<OpenLeague> league_;
 };
 
 /// A path that the user has given, relative to the current folder, as Files takes it. Throws UsageError when

@@ -1,15 +1,14 @@
 #include "desktop/Desktop.h"
 
-#include "app/Catalogue.h"
+#include "app/OpenLeague.h"
 #include "app/ProgramFolder.h"
-#include "app/Startup.h"
+#include "app/UnfinishedChange.h"
 #include "desktop/Guard.h"
 #include "desktop/QtPlatform.h"
 #include "desktop/SplashScreen.h"
 #include "desktop/Style.h"
 #include "desktop/WelcomeWindow.h"
-#include "files/DiskFiles.h"
-#include "files/LeagueLock.h"
+#include "files/FileError.h"
 #include "shell/StopSignals.h"
 #include "store/LeaguePaths.h"
 
@@ -34,11 +33,51 @@ public:
     }
 };
 
+/// Says what the disk of the league cannot do, once.
+void tellWarnings(OpenLeague& league) {
+    const std::string warnings = league.takeWarnings();
+    if (!warnings.empty())
+        league.app().platform().say(warnings);
+}
+
+/// Finishes a change that a broken run has left, or asks what to do with one that cannot be finished. False
+/// when the user wants to leave it as it is.
+bool settleJournal(Application& app) {
+    try {
+        recoverAtStart(app);
+        return true;
+    } catch (const FileError& error) {
+        showError(nullptr, error);
+    }
+    return settleUnfinishedChange(app);
+}
+
+/// Takes the league. Null when a change to it is unfinished and the user does not want even to look.
+std::unique_ptr<OpenLeague> openLeague(const std::filesystem::path& folder, Platform& platform) {
+    using Writes = OpenLeague::Writes;
+    LeagueLock lock(folder, "iceline-scorebook", LeagueLock::For::Looking);
+    if (!lock.canWrite()) {
+        platform.say("The league folder cannot be written. The league is shown, and nothing can be changed.");
+        return std::make_unique<OpenLeague>(folder, platform, std::move(lock), Writes::ToMemory);
+    }
+    auto league = std::make_unique<OpenLeague>(folder, platform, std::move(lock), Writes::ToDisk);
+    tellWarnings(*league);
+    if (settleJournal(league->app()))
+        return league;
+    const Message look{"Look at the league meanwhile? Nothing can then be changed.", Buttons::OkCancel,
+                       "Unfinished change"};
+    if (platform.ask(look) != Answer::Ok)
+        return nullptr;
+    lock = league->giveLock();
+    league.reset();
+    return std::make_unique<OpenLeague>(folder, platform, std::move(lock), Writes::ToMemory);
+}
+
 /// The start: the splash window, then the main window. Ends the program when the league does not load.
 class Start {
 public:
-    Start(Application& application, PreviewServer& preview) : app_(application), preview_(preview) {
-        splash_ = std::make_unique<SplashScreen>(app_.state, [this] { load(); });
+    Start(OpenLeague& league, PreviewServer& preview) : league_(league), preview_(preview) {
+        splash_ = std::make_unique<SplashScreen>(league.app().state, [this] { load(); });
         splash_->show();
         // Only now: show() itself handles events, at a time when there is no event loop yet that could be
         // ended.
@@ -48,16 +87,17 @@ public:
 private:
     void load() {
         guarded(splash_.get(), [this] {
-            if (!startUp(app_))
+            if (!league_.start())
                 return;
-            welcome_ = std::make_unique<WelcomeWindow>(app_, preview_);
+            tellWarnings(league_);
+            welcome_ = std::make_unique<WelcomeWindow>(league_.app(), preview_);
             welcome_->waitForSplash([this] { splash_.reset(); });
         });
         if (!welcome_)
             QApplication::exit(1);
     }
 
-    Application& app_;
+    OpenLeague& league_;
     PreviewServer& preview_;
     std::unique_ptr<SplashScreen> splash_;
     std::unique_ptr<WelcomeWindow> welcome_;
@@ -86,23 +126,22 @@ private:
     QTimer looks_;
 };
 
-int runWindows(const std::filesystem::path& folder, const std::filesystem::path& siteTemplate) {
-    const LeagueLock lock(folder, "iceline-scorebook");
-    DiskFiles disk(folder);
-    DiskFiles templateFiles(siteTemplate);
+int runWindows(const std::filesystem::path& folder) {
     QtPlatform platform;
-    Application app(disk, templateFiles, platform, windowCatalogue());
+    const std::unique_ptr<OpenLeague> league = openLeague(folder, platform);
+    if (!league)
+        return 1;
     PreviewServer preview(folder / paths::WebRoot);
     const EndFromOutside endFromOutside(platform);
-    const Start start(app, preview);
+    const Start start(*league, preview);
     return QApplication::exec();
 }
 
 } // namespace
 
-int runLeague(const std::filesystem::path& folder, const std::filesystem::path& siteTemplate) {
+int runLeague(const std::filesystem::path& folder) {
     int status = 1;
-    guarded(nullptr, [&] { status = runWindows(folder, siteTemplate); });
+    guarded(nullptr, [&] { status = runWindows(folder); });
     return status;
 }
 
@@ -112,7 +151,7 @@ int run(int argc, char** argv) {
     QApplication::setQuitOnLastWindowClosed(false);
     applyStyle(application);
     int status = 1;
-    guarded(nullptr, [&] { status = runLeague(programFolder(), siteTemplateFolder()); });
+    guarded(nullptr, [&] { status = runLeague(programFolder()); });
     return status;
 }
 

@@ -9,8 +9,8 @@ int run(int argc, char** argv);
 
 /// Runs the windows of a QApplication on the league in `folder` until the user ends the program; returns its
 /// exit status. When the league cannot be used, or the user does not want its missing files made, that is 1
-/// and no window has come up but the splash window and a message. `siteTemplate` is the site as delivered
-/// with the program.
-int runLeague(const std::filesystem::path& folder, const std::filesystem::path& siteTemplate);
+/// and no window has come up but the splash window and messages. A league that cannot be written, or whose
+/// last change cannot be finished, can be looked at.
+int runLeague(const std::filesystem::path& folder);
 
 } // namespace iceline::desktop

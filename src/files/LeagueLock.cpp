@@ -84,6 +84,7 @@ LeagueLock::LeagueLock(const std::filesystem::path& folder, const char* program,
 }
 
 LeagueLock::LeagueLock(LeagueLock&&) noexcept = default;
+LeagueLock& LeagueLock::operator=(LeagueLock&&) noexcept = default;
 
 LeagueLock::~LeagueLock() {
     if (handle_)

@@ -20,7 +20,7 @@ public:
     LeagueLock(const std::filesystem::path& folder, const char* program, For purpose = For::Changing);
     ~LeagueLock();
     LeagueLock(LeagueLock&&) noexcept;
-    LeagueLock& operator=(LeagueLock&&) = delete;
+    LeagueLock& operator=(LeagueLock&&) noexcept;
 
     /// False when the league folder cannot be written, so that nothing may be changed.
     bool canWrite() const { return canWrite_; }

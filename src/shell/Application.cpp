@@ -1,14 +1,22 @@
 #include "shell/Application.h"
 
+#include "files/FileError.h"
+
 namespace iceline {
 
 Application::Application(Files& disk, Files& siteTemplate, Platform& platform, WindowCatalogue catalogue)
     : inForce_{&disk}, siteTemplate_(siteTemplate), platform_(platform), journal_(disk),
       windows_(*this, catalogue) {}
 
+void Application::requireChangeable() const {
+    if (lookOnly_)
+        throw FileError::about("the league", "is only looked at, so nothing can be changed");
+}
+
 Operation::Operation(Application& application)
     : app_(application), outermost_(!application.operationInHand()), under_(application.files()),
       staged_(under_), inForce_(application, staged_) {
+    app_.requireChangeable();
     if (outermost_)
         app_.journal().recover();
     ++app_.operations_;

@@ -29,6 +29,12 @@ public:
     /// True while an Operation lives.
     bool operationInHand() const { return operations_ > 0; }
 
+    /// From now on the league is only looked at: every operation is refused.
+    void lookOnly() { lookOnly_ = true; }
+
+    /// Throws FileError when the league is only looked at.
+    void requireChangeable() const;
+
     ApplicationState state;
 
 private:
@@ -41,6 +47,7 @@ private:
     Journal journal_;
     Windows windows_;
     int operations_ = 0;
+    bool lookOnly_ = false;
 };
 
 /// Puts other files in force while it lives.
@@ -62,6 +69,7 @@ private:
 /// operation begun within another is staged on top of that one's files, and its commit goes into them.
 class Operation {
 public:
+    /// Throws FileError when the league is only looked at.
     explicit Operation(Application& application);
     ~Operation() { --app_.operations_; }
     Operation(const Operation&) = delete;

@@ -109,6 +109,7 @@ private:
 } // namespace
 
 void generateWebpages(Application& app) {
+    app.requireChangeable();
     requireSite(app);
     bool finished = false;
     {

@@ -2,7 +2,10 @@
 #include "desktop/Controls.h"
 #include "desktop/Desktop.h"
 #include "desktop/Guard.h"
+#include "files/DiskFiles.h"
 #include "files/FileError.h"
+#include "files/Journal.h"
+#include "files/JournalFormat.h"
 #include "files/LeagueLock.h"
 #include "support/TemporaryFolder.h"
 #include "support/TestLeague.h"
@@ -24,7 +27,7 @@ using testing::HasSubstr;
 /// The real start of the program on a league in a folder of the disk.
 class Start : public testing::Test {
 protected:
-    int run() { return runLeague(folder.path(), folder.path() / "site-template"); }
+    int run() { return runLeague(folder.path()); }
 
     void makeLeague() { test::writeToDisk(test::TestLeague().files, folder.path()); }
 
@@ -39,7 +42,7 @@ protected:
 };
 
 TEST_F(Start, CancelAtTheQuestionEndsTheProgram) {
-    Answers user(QMessageBox::Cancel);
+    Answers user({QMessageBox::Cancel});
     EXPECT_EQ(run(), 1);
     EXPECT_THAT(user.said, ElementsAre(HasSubstr("would you like the missing ones to be created?")));
     EXPECT_FALSE(std::filesystem::exists(folder.path() / "Boston Bruins"));
@@ -49,7 +52,7 @@ TEST_F(Start, CancelAtTheQuestionEndsTheProgram) {
 TEST_F(Start, ADamagedFileEndsTheProgramWithOneMessage) {
     makeLeague();
     std::ofstream(folder.path() / "Games Until Playoffs.txt") << "many";
-    Answers user(QMessageBox::Ok);
+    Answers user({QMessageBox::Ok});
     EXPECT_EQ(run(), 1);
     EXPECT_THAT(user.said, ElementsAre(HasSubstr("Games Until Playoffs.txt, line 1")));
     expectNothingLeft();
@@ -58,13 +61,64 @@ TEST_F(Start, ADamagedFileEndsTheProgramWithOneMessage) {
 TEST_F(Start, ALeagueInUseEndsTheProgramWithOneMessage) {
     makeLeague();
     const LeagueLock other(folder.path(), "the other program");
-    Answers user(QMessageBox::Ok);
+    Answers user({QMessageBox::Ok});
     EXPECT_EQ(run(), 1);
     EXPECT_THAT(user.said, ElementsAre(HasSubstr("in use by the other program")));
 }
 
+/// A league in which a change is unfinished that was worked out on another file.
+class StartWithJournal : public Start {
+protected:
+    StartWithJournal() {
+        makeLeague();
+        DiskFiles files(folder.path());
+        const Change change{Change::Kind::Write, paths::GamesUntilPlayoffs, 0, "30\r\n"};
+        files.write(Journal::FileName,
+                    std::string(JournalHeading) + journalEntry({change}, {{true, 4, checksum("50\r\n")}}),
+                    Durability::Later);
+    }
+
+    bool isThere(const char* name) const { return std::filesystem::exists(folder.path() / name); }
+};
+
+TEST_F(StartWithJournal, AsksAndShowsTheLeagueMeanwhile) {
+    Answers answers({QMessageBox::Ok, QMessageBox::Cancel, QMessageBox::Cancel, QMessageBox::Ok});
+    User user([] {
+        if (QWidget* splash = shownWindow("SplashScreen"))
+            QTest::keyClick(splash, Qt::Key_Space);
+        QWidget* main = shownWindow("WelcomeWindow");
+        if (main && !messageBox()) {
+            main->findChild<QAbstractButton*>(QStringLiteral("Command1"))->click();
+            main->close();
+        }
+    });
+    EXPECT_EQ(run(), 0);
+    EXPECT_THAT(answers.said, ElementsAre(HasSubstr(paths::GamesUntilPlayoffs),
+                                          HasSubstr("Set the unfinished"), HasSubstr("Make the unfinished"),
+                                          HasSubstr("Look at the league"), HasSubstr("is only looked at")));
+    EXPECT_TRUE(isThere(Journal::FileName));
+    EXPECT_FALSE(isThere("IcelineWebPages/index.htm"));
+}
+
+TEST_F(StartWithJournal, EndsWhenTheUserWantsNothingAndGoesOnWithoutTheChange) {
+    {
+        Answers user({QMessageBox::Ok, QMessageBox::Cancel});
+        EXPECT_EQ(run(), 1);
+        EXPECT_TRUE(isThere(Journal::FileName));
+    }
+    Answers answers({QMessageBox::Ok});
+    User user([] {
+        if (shownWindow("SplashScreen"))
+            std::raise(SIGTERM);
+    });
+    EXPECT_EQ(run(), 128 + SIGTERM);
+    EXPECT_THAT(answers.said.back(), HasSubstr("is set aside in"));
+    EXPECT_FALSE(isThere(Journal::FileName));
+    expectNothingLeft();
+}
+
 TEST(Guard, ShowsWhateverIsThrown) {
-    Answers user(QMessageBox::Ok);
+    Answers user({QMessageBox::Ok});
     EXPECT_FALSE(guarded(nullptr, [] { throw std::bad_alloc(); }));
     EXPECT_FALSE(guarded(nullptr, [] { setText(NamedLabels(), "Wins", "3"); }));
     EXPECT_THAT(user.said,

@@ -5,6 +5,7 @@
 #include <QMessageBox>
 #include <QTimer>
 
+#include <deque>
 #include <functional>
 #include <string>
 #include <vector>
@@ -41,20 +42,28 @@ inline QMessageBox* messageBox() {
     return qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
 }
 
-/// Presses that button in every message box, and keeps what they said.
+/// Presses a button in every message box, the last of these again and again, and keeps what the boxes said.
 class Answers {
 public:
-    explicit Answers(QMessageBox::StandardButton button)
-        : user_([this, button] {
+    explicit Answers(std::deque<QMessageBox::StandardButton> buttons)
+        : buttons_(std::move(buttons)), user_([this] {
               if (QMessageBox* box = messageBox()) {
                   said.push_back(box->text().toStdString());
-                  box->button(button)->click();
+                  press(*box);
               }
           }) {}
 
     std::vector<std::string> said;
 
 private:
+    void press(const QMessageBox& box) {
+        const QMessageBox::StandardButton button = buttons_.front();
+        if (buttons_.size() > 1)
+            buttons_.pop_front();
+        box.button(button)->click();
+    }
+
+    std::deque<QMessageBox::StandardButton> buttons_;
     User user_;
 };
 
