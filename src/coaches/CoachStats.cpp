@@ -28,8 +28,24 @@ void CoachStats::tmLeadersUpdate() {
     if (!app_.state.ShowWindows)
         writeCoachingStatsPage(app_.files(),
                                coachLeaders(app_.state, content_.coaches, sort(), CoachesListed::All));
-    content_.ranking = coachLeaders(app_.state, content_.coaches, sort(), CoachesListed::WithGames);
+    showRanking();
     changed();
+}
+
+void CoachStats::showRanking() {
+    content_.ranking = coachLeaders(app_.state, content_.coaches, sort(), CoachesListed::WithGames);
+}
+
+void CoachStats::readAgain() {
+    Files& files = app_.files();
+    const auto isThere = [&](const std::string& coach) { return files.isFolder(paths::coachFolder(coach)); };
+    auto& table = app_.state.CoachLeaderTable;
+    table.clear();
+    for (const std::string& coach : content_.coaches)
+        table.push_back(isThere(coach) ? readTeamLeader(files, paths::coachFolder(coach)) : TeamLeader());
+    showRanking();
+    if (TeamSelect != NotChosen && isThere(CoachName()))
+        content_.coach = readTeamView(files, paths::coachFolder(CoachName()));
 }
 
 void CoachStats::tmLeadersCol_Click(int Index) {

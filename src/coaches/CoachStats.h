@@ -39,7 +39,12 @@ public:
     int CoachSortColumn = 1;    ///< -1 to 11; points when the window opens
     bool CoachSortAscending = false;
 
+protected:
+    /// The list of coaches stays as it was loaded; one who is no more has no figures.
+    void readAgain() override;
+
 private:
+    void showRanking();
     LeaderSort sort() const { return {CoachSortColumn, CoachSortAscending}; }
 
     Content content_;

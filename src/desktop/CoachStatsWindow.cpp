@@ -89,7 +89,13 @@ QWidget* CoachStatsWindow::makeLeaders(QWidget* parent) {
     area->setFrameShape(QFrame::NoFrame);
     ranking_ = new LeaderGrid(
         rankingForm(object_.content().coaches),
-        [this](int head) { run([this, head] { object_.tmLeadersCol_Click(head); }); }, area);
+        [this](int head) {
+            run([this, head] {
+                object_.tmLeadersCol_Click(head);
+                object_.renew();
+            });
+        },
+        area);
     area->setWidget(ranking_);
     ranking_->setAutoFillBackground(false);
     area->viewport()->setAutoFillBackground(false); // the frame's white shows through

@@ -21,6 +21,10 @@ void LeagueWindow::follow(Window& object) {
     object.onChange = [this] { refresh(); };
 }
 
+void LeagueWindow::renewWindows() {
+    guarded(this, [this] { app_.windows().renewOpen(); });
+}
+
 void LeagueWindow::closeEvent(QCloseEvent* event) {
     event->accept();
     app_.windows().unload(id_);

@@ -26,10 +26,14 @@ protected:
     /// To be called at the end of a window's constructor: draws it and draws it again at every change.
     void follow(Window& object);
 
-    /// Runs a procedure of the window object and shows what goes wrong with a file as a message.
+    /// Runs a procedure of the window object and shows what goes wrong with a file as a message. When it has
+    /// changed the league, all open windows show that.
     template <class Procedure>
     void run(Procedure procedure) {
+        const int committed = app_.operationsCommitted();
         guarded(this, procedure);
+        if (app_.operationsCommitted() != committed)
+            renewWindows();
     }
 
     void closeEvent(QCloseEvent* event) override;
@@ -37,6 +41,8 @@ protected:
     Application& app_;
 
 private:
+    void renewWindows();
+
     WindowId id_;
 };
 

@@ -68,7 +68,7 @@ void showTable(LeaderGrid& grid, const Rankings::Table& table) {
 RankingsWindow::RankingsWindow(Application& application, WindowId id, Rankings& object)
     : LeagueWindow(application, id), object_(object) {
     teams_ = new LeaderGrid(
-        teamLeaderForm(), [this](int head) { run([&] { object_.tmLeadersCol_Click(head); }); }, this);
+        teamLeaderForm(), [this](int head) { sort([&] { object_.tmLeadersCol_Click(head); }); }, this);
     QTabWidget* tabs = tabStrip("SSTab1", this);
     tabs->addTab(makeLeagueLeaders(), QStringLiteral("League Leaders"));
     tabs->addTab(page("Frame3", QStringLiteral("Team League Leaders"), teams_),
@@ -83,13 +83,13 @@ RankingsWindow::RankingsWindow(Application& application, WindowId id, Rankings& 
 QWidget* RankingsWindow::makeLeagueLeaders() {
     players_ = new LeaderGrid(
         playerForm("Text1", "LeagueLeaderTeam", "LeagueLeaderName", "lColN", PlayerLeaderColumns),
-        [this](int head) { run([&] { object_.lColN_Click(head); }); }, this);
+        [this](int head) { sort([&] { object_.lColN_Click(head); }); }, this);
     goalies_ = new LeaderGrid(
         playerForm("Text2", "LeagueLeaderTeam2", "LeagueLeaderGName", "lColG", GoalieLeaderColumns),
-        [this](int head) { run([&] { object_.lColG_Click(head); }); }, this);
+        [this](int head) { sort([&] { object_.lColG_Click(head); }); }, this);
     stars_ = new LeaderGrid(
         playerForm("Text6", "LL3StarTeam", "LL3StarName", "ThreeStarSort", StarLeaderColumns),
-        [this](int) { run([&] { object_.ThreeStarSort_Click(); }); }, this);
+        [this](int) { sort([&] { object_.ThreeStarSort_Click(); }); }, this);
     players_->setMinimumWidth(TableWidth);
     stars_->setMaximumWidth(StarsWidth);
     QTabWidget* tabs = tabStrip("SSTab2", this);

@@ -21,6 +21,16 @@ protected:
 private:
     QWidget* makeLeagueLeaders();
 
+    /// Sorts by a head, on the figures as they are now: the tables that a click sorts are shared, and may be
+    /// those of the other part of the year.
+    template <class Procedure>
+    void sort(Procedure procedure) {
+        run([&] {
+            procedure();
+            object_.renew();
+        });
+    }
+
     Rankings& object_;
     LeaderGrid* players_ = nullptr;
     LeaderGrid* goalies_ = nullptr;

@@ -97,7 +97,8 @@ LeaderList teamLeaders(const ApplicationState& state, LeaderSort sort, int place
 LeaderList coachLeaders(const ApplicationState& state, const std::vector<std::string>& names, LeaderSort sort,
                         CoachesListed listed) {
     std::vector<TeamRow> rows;
-    for (const CoachIndex coach : FirstRows<CoachIndex>(static_cast<int>(names.size())))
+    const std::size_t coaches = std::min(names.size(), state.CoachLeaderTable.size());
+    for (const CoachIndex coach : FirstRows<CoachIndex>(static_cast<int>(coaches)))
         rows.push_back({BlankTeam, names[coach], state.CoachLeaderTable[coach].values});
     return listOf<TeamRecord, TeamLeaderColumns.size()>(
         TeamLeaderColumns, rows, sort, AllRows,

@@ -23,24 +23,37 @@ Rankings& Rankings::in(Application& app, PartOfYear part) {
 void Rankings::Form_Load() {
     const BusyPointer busy(app_.platform());
     content_.title = part_ == PartOfYear::Season ? "Rankings" : "Playoff Rankings";
-    tmLeadersLoad();
-    lgLeadersLoadG();
-    lgLeadersLoadN();
-    StarLoad();
+    loadTables();
     if (app_.state.ShowWindows)
         show();
     else
         writePages();
 }
 
-void Rankings::show() {
-    TeamSortColumn = 1;
-    GoalieSortColumn = 6;
-    PlayerSortColumn = 2;
+void Rankings::readAgain() {
+    loadTables();
+    updateTables();
+}
+
+void Rankings::loadTables() {
+    tmLeadersLoad();
+    lgLeadersLoadG();
+    lgLeadersLoadN();
+    StarLoad();
+}
+
+void Rankings::updateTables() {
     tmLeadersUpdate();
     lgLeadersUpdateG();
     lgLeadersUpdateN();
     StarUpdate();
+}
+
+void Rankings::show() {
+    TeamSortColumn = 1;
+    GoalieSortColumn = 6;
+    PlayerSortColumn = 2;
+    updateTables();
 }
 
 void Rankings::tmLeadersLoad() {

@@ -67,7 +67,12 @@ public:
 
     bool HomePageMode = false; ///< the home page is being assembled
 
+protected:
+    void readAgain() override;
+
 private:
+    void loadTables();
+    void updateTables();
     void show();
     void writePages();
     void showTable(Table& table, LeaderList list, LeaderSort sort);

@@ -47,17 +47,26 @@ void PlayerProfiles::PlayersTeamSelect_Click() {
 void PlayerProfiles::PlayersNameSelect_Click() {
     if (PlayersNameSelect == NotChosen)
         return;
-    Files& files = app_.files();
-    const Roster roster = readRoster(files, paths::playersList(TeamIndex(PlayersTeamSelect)));
-    const std::string path = paths::teamFile(TeamIndex(PlayersTeamSelect), part_, paths::PlayerStats);
-    const TeamPlayerStats stats = readPlayerStats(files, path, roster);
+    std::vector<Figure> figures = readFigures();
+    const RosterRow& row = content_.roster.at(RosterIndex(PlayersNameSelect));
+    const std::string card = playerCard(app_.files(), app_.platform(), row.Name, row.isGoalie());
+    content_.player = Player{row, paths::page("PlayerCards/" + card + ".gif"), std::move(figures)};
+    changed();
+}
+
+std::vector<PlayerProfiles::Figure> PlayerProfiles::readFigures() {
+    const TeamIndex team(PlayersTeamSelect);
+    const Roster roster = readRoster(app_.files(), paths::playersList(team));
+    const TeamPlayerStats stats =
+        readPlayerStats(app_.files(), paths::teamFile(team, part_, paths::PlayerStats), roster);
     const RosterIndex chosen(PlayersNameSelect);
     const RosterRow& row = content_.roster.at(chosen);
-    const std::string card = playerCard(files, app_.platform(), row.Name, row.isGoalie());
-    content_.player =
-        Player{row, paths::page("PlayerCards/" + card + ".gif"),
-               std::visit([&](const auto& line) { return shownFigures(row, line, part_); }, stats[chosen])};
-    changed();
+    return std::visit([&](const auto& line) { return shownFigures(row, line, part_); }, stats[chosen]);
+}
+
+void PlayerProfiles::readAgain() {
+    if (content_.player)
+        content_.player->figures = readFigures();
 }
 
 } // namespace iceline

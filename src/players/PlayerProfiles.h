@@ -46,7 +46,12 @@ public:
     int PlayersTeamSelect = NotChosen; ///< position in the team list, a TeamIndex
     int PlayersNameSelect = NotChosen; ///< position in the player list, a roster row
 
+protected:
+    void readAgain() override;
+
 private:
+    std::vector<Figure> readFigures();
+
     PartOfYear part_;
     Content content_;
 };

@@ -17,13 +17,17 @@ void PlayerStats::PlayersTeamSelect_Click() {
     players_ = {};
     content_ = {};
     changed();
+    readAgain();
+    changed();
+}
+
+void PlayerStats::readAgain() {
     if (PlayersTeamSelect == NotChosen)
         return;
     players_ = readTeamPlayers(app_.files(), TeamIndex(PlayersTeamSelect), part_);
     SkaterUpdate();
     GoalieUpdate();
     content_.leaders = players_.leaders;
-    changed();
 }
 
 void PlayerStats::SkaterUpdate() {

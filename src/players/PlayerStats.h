@@ -44,6 +44,9 @@ public:
     bool SkaterSortAscending = false;
     bool TeamGoalieSortAscending = false;
 
+protected:
+    void readAgain() override;
+
 private:
     PartOfYear part_;
     TeamPlayers players_;

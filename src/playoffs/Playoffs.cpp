@@ -19,14 +19,23 @@ void Playoffs::Form_Load() {
     PlayoffTreeUpdate();
 }
 
+void Playoffs::readAgain() {
+    readPlayoffRecords(app_.files(), app_.state.PlayoffSeries);
+    showBracket();
+}
+
 void Playoffs::PlayoffTreeUpdate() {
+    showBracket();
+    writePlayoffTree(app_.files(), content_);
+    changed();
+}
+
+void Playoffs::showBracket() {
     const ApplicationState& state = app_.state;
     if (!state.PlayoffMode)
         Standings::in(app_).DivisionStandingsUpdate();
     content_ = {state.PlayoffMode ? state.PlayoffSeries : PlayoffSeriesTable(), state.PlayoffMode};
     seedFirstRound(content_.series, state);
-    writePlayoffTree(app_.files(), content_);
-    changed();
 }
 
 } // namespace iceline

@@ -36,7 +36,12 @@ public:
 
     const Content& content() const { return content_; }
 
+protected:
+    void readAgain() override;
+
 private:
+    void showBracket();
+
     Content content_;
 };
 

@@ -20,8 +20,7 @@ bool allTeamsAreDone(Application& app) {
 void redrawGameWindow(Windows& windows) {
     if (!windows.isLoaded(WindowId::StatExtractor))
         return;
-    if (const auto& redraw = windows.use(WindowId::StatExtractor).onChange)
-        redraw();
+    windows.use(WindowId::StatExtractor).renew();
 }
 
 } // namespace

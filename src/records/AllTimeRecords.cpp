@@ -184,10 +184,13 @@ AllTimeRecords::Content readAllTimeRecords(Files& files, PartOfYear part) {
             .coaches = readCoachesLeagueRecords(files, paths::coachesLeagueRecords(part))};
 }
 
+void AllTimeRecords::readAgain() {
+    content_ = readAllTimeRecords(app_.files(), part_);
+}
+
 void AllTimeRecords::Form_Load() {
-    Files& files = app_.files();
-    content_ = readAllTimeRecords(files, part_);
-    writePage(files,
+    readAgain();
+    writePage(app_.files(),
               paths::page(part_ == PartOfYear::Season ? "AllTimeRecords.htm" : "PlayoffAllTimeRecords.htm"),
               allTimeRecordsPage(content_));
     changed();

@@ -29,6 +29,9 @@ public:
 
     const Content& content() const { return content_; }
 
+protected:
+    void readAgain() override;
+
 private:
     PartOfYear part_;
     Content content_;

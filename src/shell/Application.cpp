@@ -24,9 +24,10 @@ Operation::Operation(Application& application)
 
 void Operation::commit() {
     const std::vector<Change> changes = staged_.changes();
-    if (outermost_)
+    if (outermost_) {
         app_.journal().commit(changes);
-    else
+        app_.committed_ += changes.empty() ? 0 : 1;
+    } else
         for (const Change& change : changes)
             makeChange(change, under_);
     staged_.discard();

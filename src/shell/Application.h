@@ -29,6 +29,9 @@ public:
     /// True while an Operation lives.
     bool operationInHand() const { return operations_ > 0; }
 
+    /// How many operations of this run have changed the league.
+    int operationsCommitted() const { return committed_; }
+
     /// From now on the league is only looked at: every operation is refused.
     void lookOnly() { lookOnly_ = true; }
 
@@ -47,6 +50,7 @@ private:
     Journal journal_;
     Windows windows_;
     int operations_ = 0;
+    int committed_ = 0;
     bool lookOnly_ = false;
 };
 

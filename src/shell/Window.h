@@ -18,10 +18,17 @@ public:
     /// Runs when the window is loaded, before anything else of it is used.
     virtual void Form_Load() = 0;
 
+    /// Shows the league's files as they are now; what the user has chosen stays. Writes nothing and leaves
+    /// what the windows share as it was. Throws FileError.
+    void renew();
+
     /// Called whenever what the window shows has changed; set by whoever shows it.
     std::function<void()> onChange;
 
 protected:
+    /// Reads again what the window shows. What it does to the shared state does not last.
+    virtual void readAgain() {}
+
     void changed() const {
         if (onChange)
             onChange();

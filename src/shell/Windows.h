@@ -84,10 +84,16 @@ public:
     void unload(WindowId id);
     void unloadAll();
 
-    /// Called before a window is unloaded; set by whoever shows windows.
+    /// Has every open window show the league's files as they are now. Throws the first FileError, when all
+    /// have tried.
+    void renewOpen();
+
+    /// Called before an open window is unloaded; set by whoever shows windows.
     std::function<void(WindowId)> onUnload;
 
 private:
+    friend class OpenWindowsAside;
+
     std::unique_ptr<Window>& slot(WindowId id) { return windows_[static_cast<std::size_t>(id)]; }
     const std::unique_ptr<Window>& slot(WindowId id) const { return windows_[static_cast<std::size_t>(id)]; }
 
@@ -95,6 +101,20 @@ private:
     WindowCatalogue catalogue_;
     std::array<std::unique_ptr<Window>, WindowCount> windows_;
     std::array<bool, WindowCount> open_{};
+};
+
+/// While it lives, the open windows of a list are out of the way: they are not loaded, so that using them
+/// makes others, which nobody sees and which go at its end.
+class OpenWindowsAside {
+public:
+    OpenWindowsAside(Windows& windows, std::span<const WindowId> ids);
+    ~OpenWindowsAside();
+    OpenWindowsAside(const OpenWindowsAside&) = delete;
+    OpenWindowsAside& operator=(const OpenWindowsAside&) = delete;
+
+private:
+    Windows& windows_;
+    std::array<std::unique_ptr<Window>, WindowCount> aside_;
 };
 
 } // namespace iceline

@@ -117,11 +117,13 @@ void generateWebpages(Application& app) {
         const WritingMode writing(app.state);
         ReadCache files(app.files());
         const FilesInForce inForce(app, files);
+        const OpenWindowsAside aside(app.windows(), WindowsOfRun);
         finished = WebpageRun(app).run();
     }
     app.platform().say(
         finished ? "All Webpages have been generated and are located in the IcelineWebpages directory."
                  : "The run was stopped before all Webpages were generated.");
+    app.windows().renewOpen();
 }
 
 } // namespace iceline

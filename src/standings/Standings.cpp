@@ -71,6 +71,14 @@ void Standings::vsConfLoad() {
                readVersusRows(app_.files(), Conference::Campbell)};
 }
 
+void Standings::readAgain() {
+    DivisionStandingsUpdate();
+    HomeAwayStandingsUpdate();
+    vsConfLoad();
+    for (const Conference conference : {Conference::Wales, Conference::Campbell})
+        rank(conference, content_.versusRankedBy[static_cast<std::size_t>(conference)]);
+}
+
 void Standings::EvE_Click() {
     rank(Conference::Wales, Conference::Wales);
 }

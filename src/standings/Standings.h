@@ -53,6 +53,9 @@ public:
 
     const Content& content() const { return content_; }
 
+protected:
+    void readAgain() override;
+
 private:
     bool writesPages() const;
     void rank(Conference conference, Conference opponents);

@@ -65,8 +65,13 @@ void TeamStats::Form_Load() {
 void TeamStats::TeamSelect_Click() {
     if (TeamSelect < 0)
         return;
-    content_ = readTeamView(app_.files(), paths::teamFolder(TeamIndex(TeamSelect)) + seasonFolder(part_));
+    readAgain();
     changed();
+}
+
+void TeamStats::readAgain() {
+    if (TeamSelect >= 0)
+        content_ = readTeamView(app_.files(), paths::teamFolder(TeamIndex(TeamSelect)) + seasonFolder(part_));
 }
 
 } // namespace iceline

@@ -26,6 +26,9 @@ public:
 
     int TeamSelect = -1; ///< position in the team list, a TeamIndex; -1 while it shows its prompt
 
+protected:
+    void readAgain() override;
+
 private:
     PartOfYear part_;
     std::optional<TeamView> content_;

@@ -1,3 +1,4 @@
+#include "app/Catalogue.h"
 #include "desktop/DesktopTest.h"
 #include "games/StatExtractor.h"
 #include "samples/SaveStateWriter.h"
@@ -64,6 +65,67 @@ TEST_F(GameWindowTest, ImportsByTheOptionAndKeepsTheCoachesApart) {
     EXPECT_EQ(league.said().back(), "The game has been imported and stats have been saved.");
     EXPECT_EQ(league.record(Boston).Wins, 1);
     EXPECT_EQ(league.coachRecord("Ann").Losses, 1);
+}
+
+/// All that a window says.
+QString textsOf(const QWidget& window) {
+    QString texts = window.windowTitle();
+    for (const QLabel* label : window.findChildren<QLabel*>())
+        texts += label->objectName() + u'=' + label->text() + label->accessibleName() + u'\n';
+    return texts;
+}
+
+TEST_F(GameWindowTest, WhatItChangesShowsInEveryOpenWindowAsInANewOne) {
+    league.addCoach("Ann");
+    league.app.state.SeasonLength = 1;
+    choose(game());
+    const auto chooseFrom = [](LeagueWindow& window, const char* list, int index) {
+        Q_EMIT control<QComboBox>(window, QLatin1String(list)).activated(index);
+    };
+    const auto openWithChoices = [&](WindowId id) -> LeagueWindow& {
+        LeagueWindow& window = open(id);
+        const auto has = [&](const char* list) { return window.findChild<QComboBox*>(QLatin1String(list)); };
+        if (has("PlayersTeamSelect"))
+            chooseFrom(window, "PlayersTeamSelect", Boston.number());
+        if (has("PlayersNameSelect"))
+            chooseFrom(window, "PlayersNameSelect", 4);
+        if (has("TeamSelect"))
+            chooseFrom(window, "TeamSelect", 0);
+        return window;
+    };
+    for (const CatalogueRow& row : windowCatalogue())
+        openWithChoices(row.id);
+    LeagueWindow& import = *windows.window(WindowId::StatExtractor);
+    click(import, "LoadStats");
+    click(import, "Season");
+    chooseFrom(import, "T1Coach", 1);
+    click(import, "ImportStats");
+
+    const auto files = league.files.files;
+    const auto teams = league.app.state.TeamLeaderTable;
+    league.app.windows().renewOpen();
+    EXPECT_EQ(league.files.files, files);
+    for (const TeamIndex team : AllLeagueTeams)
+        EXPECT_EQ(league.app.state.TeamLeaderTable[team].values, teams[team].values) << "what an import asks";
+    for (const CatalogueRow& row : windowCatalogue()) {
+        if (row.id == WindowId::StatExtractor)
+            continue;
+        const QString shown = textsOf(*windows.window(row.id));
+        windows.window(row.id)->close();
+        EXPECT_EQ(shown.toStdString(), textsOf(openWithChoices(row.id)).toStdString());
+    }
+    EXPECT_EQ(text(*windows.window(WindowId::TeamStats), "Losses"), "0");
+    EXPECT_EQ(text(*windows.window(WindowId::TeamStats), "Wins"), "1");
+}
+
+TEST_F(GameWindowTest, LosesItsMarkWhenTheSeasonIsCleared) {
+    league.app.state.PlayoffMode = true;
+    LeagueWindow& window = open(WindowId::StatExtractor);
+    EXPECT_TRUE(window.windowTitle().endsWith(QStringLiteral("PLAYOFF MODE *****")));
+    LeagueWindow& options = open(WindowId::Options);
+    Q_EMIT control<QComboBox>(options, QStringLiteral("ClearTeamSelect")).activated(Boston.number());
+    click(options, "Command8");
+    EXPECT_EQ(window.windowTitle(), QStringLiteral("Stat Extractor"));
 }
 
 } // namespace

@@ -1,6 +1,7 @@
 #include "app/Catalogue.h"
 #include "app/WelcomeWindow.h"
 #include "files/FileError.h"
+#include "players/PlayerStats.h"
 #include "support/TestLeague.h"
 
 #include <gmock/gmock.h>
@@ -141,22 +142,24 @@ TEST(GenerateWebpages, StandingsBearTheMarksOfTheirFirstTurn) {
     EXPECT_THAT(league.page("ConferenceStandings.htm"), HasSubstr("<b>z</b>"));
 }
 
-TEST(GenerateWebpages, ClosesTheWindowsThatTakePartAndLeavesTheOthersOpen) {
+TEST(GenerateWebpages, WritesEveryPageAndLeavesOpenWindowsAsTheyWere) {
     TestLeague league;
     Windows& windows = league.app.windows();
     for (const WindowId id : {WindowId::StatExtractor, WindowId::Rankings, WindowId::PlayerStats,
                               WindowId::Standings, WindowId::PlayerProfiles})
         windows.open(id);
-    std::vector<WindowId> closed;
-    windows.onUnload = [&closed](WindowId id) { closed.push_back(id); };
+    auto& players = static_cast<PlayerStats&>(windows.use(WindowId::PlayerStats));
+    players.PlayersTeamSelect = BOS;
+    players.PlayersTeamSelect_Click();
+    windows.onUnload = [](WindowId id) { ADD_FAILURE() << static_cast<int>(id) << " closed"; };
 
     publish(league.app);
 
-    EXPECT_THAT(closed, testing::AllOf(Contains(WindowId::Rankings), Contains(WindowId::PlayerStats),
-                                       Contains(WindowId::Standings)));
-    EXPECT_FALSE(windows.isOpen(WindowId::Rankings));
-    EXPECT_TRUE(windows.isOpen(WindowId::StatExtractor));
-    EXPECT_TRUE(windows.isOpen(WindowId::PlayerProfiles));
+    windows.onUnload = nullptr;
+    EXPECT_EQ(&windows.use(WindowId::PlayerStats), &players);
+    EXPECT_TRUE(windows.isOpen(WindowId::PlayerStats));
+    EXPECT_FALSE(players.content().skaters.empty());
+    EXPECT_FALSE(windows.isLoaded(WindowId::TeamStats)) << "a window of the run is gone";
     EXPECT_GT(filesIn(league, "PStats"), 24u);
 }
 
