@@ -82,14 +82,20 @@ public:
         // Only now: show() itself handles events, at a time when there is no event loop yet that could be
         // ended.
         splash_->startTimers();
+        QObject::connect(&looksAtDisk_, &QTimer::timeout, &looksAtDisk_, [this] {
+            if (!QApplication::activeModalWidget())
+                tellWarnings(league_);
+        });
+        looksAtDisk_.start(MillisecondsBetweenLooks);
     }
 
 private:
+    static constexpr int MillisecondsBetweenLooks = 500;
+
     void load() {
         guarded(splash_.get(), [this] {
             if (!league_.start())
                 return;
-            tellWarnings(league_);
             welcome_ = std::make_unique<WelcomeWindow>(league_.app(), preview_);
             welcome_->waitForSplash([this] { splash_.reset(); });
         });
@@ -101,6 +107,7 @@ private:
     PreviewServer& preview_;
     std::unique_ptr<SplashScreen> splash_;
     std::unique_ptr<WelcomeWindow> welcome_;
+    QTimer looksAtDisk_; ///< what a disk cannot do comes to light when it is written
 };
 
 /// While it lives, a signal or the end of the desktop session stops a run after the item in hand; the signal
