@@ -129,13 +129,6 @@ void setText(const NamedLabels& labels, std::string_view name, std::string_view 
     labels[name].setText(toQt(text));
 }
 
-void setText(QWidget* window, const char* objectName, std::string_view text) {
-    auto* label = window->findChild<QLabel*>(QLatin1String(objectName));
-    if (!label)
-        throw noLabel(objectName);
-    label->setText(toQt(text));
-}
-
 void centreOnScreen(QWidget& window) {
     const QRect screen = QGuiApplication::primaryScreen()->availableGeometry();
     window.resize(window.size().boundedTo(screen.size()));

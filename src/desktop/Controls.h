@@ -84,9 +84,6 @@ private:
 /// Shows text in the label of that name among `labels`. Throws as NamedLabels does.
 void setText(const NamedLabels& labels, std::string_view name, std::string_view text);
 
-/// Shows text in a label found by its object name within `window`. Throws as NamedLabels does.
-void setText(QWidget* window, const char* objectName, std::string_view text);
-
 /// Moves a window to the middle of the screen, and makes it no larger than that.
 void centreOnScreen(QWidget& window);
 

@@ -1,11 +1,9 @@
 #include "desktop/LeagueWindow.h"
 
 #include "app/Catalogue.h"
-#include "desktop/Pictures.h"
 #include "desktop/QtPlatform.h"
 
 #include <QCloseEvent>
-#include <QIcon>
 
 namespace iceline::desktop {
 
@@ -13,7 +11,6 @@ LeagueWindow::LeagueWindow(Application& application, WindowId id) : app_(applica
     const CatalogueRow& row = catalogueRow(id);
     setObjectName(toQt(row.name));
     setWindowTitle(toQt(row.entry));
-    setWindowIcon(QIcon(pictures::named("iceline")));
 }
 
 void LeagueWindow::follow(Window& object) {

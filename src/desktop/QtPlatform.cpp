@@ -86,18 +86,20 @@ std::string fromQt(const QString& text) {
     return text.toStdString();
 }
 
-QWidget* windowInFront() {
+QtPlatform::QtPlatform() = default;
+QtPlatform::~QtPlatform() = default;
+
+QWidget* QtPlatform::windowInFront() const {
     if (QWidget* modal = QApplication::activeModalWidget())
         return modal;
     if (QWidget* active = QApplication::activeWindow())
         return active;
+    if (runsFrom_ && runsFrom_->isVisible())
+        return runsFrom_;
     const QWidgetList windows = QApplication::topLevelWidgets();
     const auto visible = std::ranges::find_if(windows, &QWidget::isVisible);
     return visible == windows.end() ? nullptr : *visible;
 }
-
-QtPlatform::QtPlatform() = default;
-QtPlatform::~QtPlatform() = default;
 
 Answer QtPlatform::ask(const Message& message) {
     if (programEnds_) {
@@ -138,7 +140,8 @@ double QtPlatform::random() {
 
 bool QtPlatform::showProgress(const Progress& progress) {
     if (!progress_) {
-        progress_ = std::make_unique<ProgressWindow>(progress, windowInFront());
+        runsFrom_ = windowInFront();
+        progress_ = std::make_unique<ProgressWindow>(progress, runsFrom_);
         sinceBegin_.start();
     }
     progress_->setProgress(progress);

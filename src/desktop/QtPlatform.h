@@ -3,6 +3,7 @@
 #include "shell/Platform.h"
 
 #include <QElapsedTimer>
+#include <QPointer>
 
 #include <memory>
 
@@ -16,9 +17,6 @@ QString toQt(std::string_view text);
 std::string fromQt(const QString& text);
 
 class ProgressWindow;
-
-/// The window that a message belongs to, so that it shows above it; null when none shows.
-QWidget* windowInFront();
 
 /// The platform of the desktop: message boxes, dialogs and pointer of Qt. A run shows its progress once it
 /// has taken a moment. Until then it handles no event, and from then on only its progress window answers.
@@ -44,8 +42,12 @@ public:
     void endProgram(int status);
 
 private:
+    /// The window that a message belongs to, so that it shows above it; null when none shows.
+    QWidget* windowInFront() const;
+
     std::unique_ptr<ProgressWindow> progress_;
-    QElapsedTimer sinceBegin_; ///< of the run
+    QPointer<QWidget> runsFrom_; ///< the window in which the last run began
+    QElapsedTimer sinceBegin_;   ///< of the run
     bool runStopped_ = false;
     bool programEnds_ = false;
 };

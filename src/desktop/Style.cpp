@@ -1,7 +1,10 @@
 #include "desktop/Style.h"
 
+#include "desktop/Pictures.h"
+
 #include <QApplication>
 #include <QFile>
+#include <QIcon>
 #include <QPalette>
 #include <QStyleFactory>
 
@@ -30,6 +33,7 @@ QPalette lightPalette() {
 void applyStyle(QApplication& application) {
     QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
     QApplication::setPalette(lightPalette());
+    QApplication::setWindowIcon(QIcon(pictures::named("iceline")));
     QFile sheet(QStringLiteral(":/desktop/style.qss"));
     if (sheet.open(QIODevice::ReadOnly))
         application.setStyleSheet(QString::fromUtf8(sheet.readAll()));

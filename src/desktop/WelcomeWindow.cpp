@@ -10,7 +10,6 @@
 #include <QApplication>
 #include <QCloseEvent>
 #include <QDesktopServices>
-#include <QIcon>
 #include <QLabel>
 #include <QListWidget>
 #include <QPushButton>
@@ -24,7 +23,6 @@ WelcomeWindow::WelcomeWindow(Application& application, PreviewServer& preview)
     : app_(application), preview_(preview), windows_(application) {
     setObjectName(QStringLiteral("WelcomeWindow"));
     setWindowTitle(QStringLiteral("Welcome to the Iceline Scorebook 3.0 - Rinkstar Version"));
-    setWindowIcon(QIcon(pictures::named("iceline")));
     layOut();
     timer1_.setObjectName(QStringLiteral("Timer1"));
     timer1_.setInterval(1);
