@@ -70,9 +70,9 @@ TEST(GenerateWebpages, NoNameBecomesMarkupOrCodeOnAnyPage) {
     publish(league.app);
 
     std::map<std::string, std::string> site = siteOf(league.files);
+    std::erase_if(site, [](const auto& file) { return file.first.starts_with("data/"); }); // no markup
     for (const auto& [path, content] : site)
-        if (!path.starts_with("data/")) // which is no markup
-            EXPECT_THAT(content, Not(HasSubstr("<?="))) << path;
+        EXPECT_THAT(content, Not(HasSubstr("<?="))) << path;
     for (const char* page : {"index.htm", "AllTimeRecords.htm", "Rankings/Normal0.php", "Rankings/Star1.php",
                              "PStats/BOS_N0.php", "PStats/BOS_leaders.php", "Profiles/BOS/index.htm"})
         EXPECT_THAT(site[page], HasSubstr("&lt;?=`id`?&gt; &amp; #1")) << page;
