@@ -27,10 +27,9 @@ bool needsOwnJournal(const std::vector<Change>& changes) {
     });
 }
 
-FileError notFinished(const std::string& reason) {
+FileError notFinished(const std::string& reason, const std::string& wayOut) {
     return FileError::about(Journal::FileName, "the change noted here cannot be finished. " + reason +
-                                                   ". Nothing was done; \"iceline recover\" asks whether to "
-                                                   "make the change all the same or to set it aside");
+                                                   ". Nothing was done; \"iceline recover\" " + wayOut);
 }
 
 } // namespace
@@ -76,11 +75,12 @@ Recovery Journal::recover(Doubts doubts) {
     }
     const std::string journal = files_.read(FileName);
     if (isOfLaterVersion(journal))
-        throw notFinished("A later version of the program has written the journal");
+        throw notFinished("A later version of the program has noted it, which alone can finish it",
+                          "sets it aside");
     const std::vector<NotedChange> changes = wholeCommits(journal);
     if (doubts == Doubts::Refuse)
         if (const auto doubt = doubtAbout(changes, files_))
-            throw notFinished(*doubt);
+            throw notFinished(*doubt, "asks whether to make the change all the same or to set it aside");
     finish([&] {
         for (const auto& [change, before] : changes) {
             if (change.kind == Kind::Write || change.kind == Kind::Extend)
