@@ -11,7 +11,7 @@ namespace iceline {
 
 namespace {
 
-/// The counts of a file end at 32,767, and no figure worked out from them is more than the sum of two.
+/// A season has at most 32,767 games, and no figure worked out from them is more than twice that.
 constexpr double LargestFigure = 65535;
 
 } // namespace

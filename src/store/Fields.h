@@ -18,7 +18,7 @@ namespace iceline {
 template <class Record>
 struct Field {
     /// Kinds of whole numbers are told apart by the width that the file holds.
-    enum class Width { None, Bits16, Bits32 };
+    enum class Width { None, Bits16, Counter, Bits32 };
 
     using Member = std::variant<int Record::*, double Record::*, std::string Record::*, RawItem Record::*,
                                 TeamIndex Record::*, std::optional<double> Record::*,
@@ -33,6 +33,12 @@ struct Field {
 template <class Record>
 constexpr Field<Record> i16(std::string_view name, int Record::*member) {
     return {name, Field<Record>::Width::Bits16, member};
+}
+
+/// What is counted from game to game, as LargestCounter says.
+template <class Record>
+constexpr Field<Record> counter(std::string_view name, int Record::*member) {
+    return {name, Field<Record>::Width::Counter, member};
 }
 
 /// A 32-bit whole number.
@@ -61,8 +67,10 @@ struct FieldReader {
     Record& record;
 
     void operator()(int Record::*member) const {
-        record.*member = field.width == Field<Record>::Width::Bits16 ? reader.integer16(field.name)
-                                                                     : reader.integer32(field.name);
+        using Width = typename Field<Record>::Width;
+        record.*member = field.width == Width::Bits16    ? reader.integer16(field.name)
+                         : field.width == Width::Counter ? reader.counter(field.name)
+                                                         : reader.integer32(field.name);
     }
     void operator()(TeamIndex Record::*member) const { record.*member = reader.team(field.name); }
     void operator()(double Record::*member) const { record.*member = reader.number(field.name); }
@@ -83,8 +91,11 @@ struct FieldWriter {
     const Record& record;
 
     void operator()(int Record::*member) const {
-        field.width == Field<Record>::Width::Bits16 ? writer.integer16(field.name, record.*member)
-                                                    : writer.integer32(field.name, record.*member);
+        using Width = typename Field<Record>::Width;
+        const int value = record.*member;
+        field.width == Width::Bits16    ? writer.integer16(field.name, value)
+        : field.width == Width::Counter ? writer.counter(field.name, value)
+                                        : writer.integer32(field.name, value);
     }
     void operator()(TeamIndex Record::*member) const { writer.team(record.*member); }
     void operator()(double Record::*member) const { writer.number(record.*member); }

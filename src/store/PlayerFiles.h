@@ -55,14 +55,14 @@ template <>
 inline std::span<const Field<SkaterStats>> fieldsOf<SkaterStats>() {
     using R = SkaterStats;
     static constexpr std::array Fields{
-        i16("GP", &R::GP),          i16("G", &R::G),
-        item("GPG", &R::GPG),       i16("A", &R::A),
-        item("APG", &R::APG),       i16("Pts", &R::Pts),
-        item("PtsPG", &R::PtsPG),   i16("SOG", &R::SOG),
+        counter("GP", &R::GP),      counter("G", &R::G),
+        item("GPG", &R::GPG),       counter("A", &R::A),
+        item("APG", &R::APG),       counter("Pts", &R::Pts),
+        item("PtsPG", &R::PtsPG),   counter("SOG", &R::SOG),
         item("SOGPG", &R::SOGPG),   item("ShotPct", &R::ShotPct),
-        i16("PIM", &R::PIM),        i16("PPG", &R::PPG),
-        i16("SHG", &R::SHG),        item("PIMPG", &R::PIMPG),
-        item("Rating", &R::Rating), i16("StarPoints", &R::StarPoints),
+        counter("PIM", &R::PIM),    counter("PPG", &R::PPG),
+        counter("SHG", &R::SHG),    item("PIMPG", &R::PIMPG),
+        item("Rating", &R::Rating), counter("StarPoints", &R::StarPoints),
     };
     return Fields;
 }
@@ -93,22 +93,14 @@ template <>
 inline std::span<const Field<GoalieStats>> fieldsOf<GoalieStats>() {
     using R = GoalieStats;
     static constexpr std::array Fields{
-        i16("GP", &R::GP),
-        i16("GA", &R::GA),
-        i16("SO", &R::SO),
-        i16("A", &R::A),
-        i16("GW", &R::GW),
-        i16("GL", &R::GL),
-        i16("GT", &R::GT),
-        i16("SA", &R::SA),
-        item("GAA", &R::GAA),
-        item("SvPct", &R::SvPct),
-        item("Unused11", &R::Unused11),
-        i16("PPG", &R::PPG),
-        i16("SHG", &R::SHG),
-        item("Unused14", &R::Unused14),
-        item("Rating", &R::Rating),
-        i16("StarPoints", &R::StarPoints),
+        counter("GP", &R::GP),          counter("GA", &R::GA),
+        counter("SO", &R::SO),          counter("A", &R::A),
+        counter("GW", &R::GW),          counter("GL", &R::GL),
+        counter("GT", &R::GT),          counter("SA", &R::SA),
+        item("GAA", &R::GAA),           item("SvPct", &R::SvPct),
+        item("Unused11", &R::Unused11), counter("PPG", &R::PPG),
+        counter("SHG", &R::SHG),        item("Unused14", &R::Unused14),
+        item("Rating", &R::Rating),     counter("StarPoints", &R::StarPoints),
     };
     return Fields;
 }

@@ -111,6 +111,10 @@ int ItemReader::integer32(std::string_view field) {
     return integer(field, std::numeric_limits<std::int32_t>::min(), std::numeric_limits<std::int32_t>::max());
 }
 
+int ItemReader::counter(std::string_view field) {
+    return integer(field, -LargestCounter, LargestCounter);
+}
+
 TeamIndex ItemReader::team(std::string_view field) {
     const TeamIndex team(integer16(field));
     if (!isLeagueTeam(team))
@@ -170,6 +174,11 @@ LineWriter& LineWriter::integer16(std::string_view field, int value) {
 
 LineWriter& LineWriter::integer32(std::string_view field, int value) {
     requireFits(field, value, std::numeric_limits<int>::min(), std::numeric_limits<int>::max() - 1);
+    return integer(value);
+}
+
+LineWriter& LineWriter::counter(std::string_view field, int value) {
+    requireFits(field, value, -LargestCounter, LargestCounter);
     return integer(value);
 }
 

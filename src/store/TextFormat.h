@@ -21,6 +21,10 @@ struct RawItem {
     friend bool operator==(const RawItem&, const RawItem&) = default;
 };
 
+/// The largest size of a counter: more than any season gives, and so small that a few of them add up within
+/// an int.
+inline constexpr int LargestCounter = 500'000'000;
+
 /// Whether the last line of a file may lack its line end. A file that only the program writes must have it:
 /// without, the file was cut and its last item may have lost digits.
 enum class LastLine { MustEnd, MayLackEnd };
@@ -44,6 +48,9 @@ public:
     /// A whole number of 16 or 32 bits; a fraction is rounded to it, a tie to the even number.
     int integer16(std::string_view field);
     int integer32(std::string_view field);
+
+    /// The same up to LargestCounter.
+    int counter(std::string_view field);
 
     /// A team of the league, by its number.
     TeamIndex team(std::string_view field);
@@ -88,6 +95,7 @@ public:
     /// A whole number of 16 bits, or of 32 bits below the highest one, at which addTo() stops counting.
     LineWriter& integer16(std::string_view field, int value);
     LineWriter& integer32(std::string_view field, int value);
+    LineWriter& counter(std::string_view field, int value);
 
     /// A text in double quotes, which holds neither a double quote nor a line end.
     LineWriter& text(std::string_view field, std::string_view value);

@@ -378,10 +378,27 @@ TEST_F(GameImport, ADamagedGameNumberStopsTheImportBeforeItBegins) {
     }
 }
 
+TEST_F(GameImport, CountsPointsAndGoalsOfTheLongestSeason) {
+    choose(GameKind::Season);
+    TeamRecord record;
+    record.GP = record.Wins = 32766;
+    record.Points = 2 * record.Wins;
+    record.GF = 9 * record.GP;
+    league.setRecord(Boston, PartOfYear::Season, record);
+    SkaterStats skater;
+    skater.SOG = skater.GP = 32767;
+    league.setPlayerStats(Boston, PartOfYear::Season, 6, skater);
+    state().SeasonLength = 32767;
+    import(lovelyGame());
+    EXPECT_EQ(league.record(Boston).Points, 65534);
+    EXPECT_EQ(league.record(Boston).GF, 9 * 32766 + 3);
+    EXPECT_EQ(std::get<SkaterStats>(league.playerStats(Boston, PartOfYear::Season, 6)).SOG, 32768);
+}
+
 TEST_F(GameImport, AFullCounterIsAnErrorThatNamesItsField) {
     choose(GameKind::Season);
     TeamRecord full;
-    full.Wins = 32767;
+    full.Wins = LargestCounter;
     league.setRecord(Boston, PartOfYear::Season, full);
     try {
         import(lovelyGame());
