@@ -18,7 +18,6 @@
 #include <fcntl.h>
 #include <fstream>
 #include <functional>
-#include <random>
 #include <sys/resource.h>
 #include <sys/stat.h>
 #include <sys/wait.h>
@@ -361,38 +360,6 @@ TEST_F(DiskFaultsTest, ALockGoesWithItsProcess) {
     kill(child, SIGKILL);
     waitpid(child, nullptr, 0);
     EXPECT_EQ(errorMessage([&] { LeagueLock(folder.path(), "iceline"); }), "no error");
-}
-
-/// A program that is killed in the midst of commits has made each of them whole or not at all.
-TEST_F(DiskFaultsTest, AKilledProgramLeavesWholeCommits) {
-    std::mt19937 random(24);
-    files.write("list.txt", "");
-    for (int round = 0; round < 12; ++round) {
-        const pid_t child = fork();
-        ASSERT_GE(child, 0);
-        if (child == 0) {
-            alarm(30);
-            Journal journal(files);
-            if (round % 2 == 0)
-                journal.beginRun();
-            for (;;) {
-                journal.recover();
-                const std::uintmax_t length = files.size("list.txt");
-                const std::string commits = std::to_string(length + 1);
-                journal.commit({{Change::Kind::Extend, "list.txt", length, "x"},
-                                {Change::Kind::Write, "a.txt", 0, commits},
-                                {Change::Kind::Write, "b.txt", 0, commits}});
-            }
-        }
-        std::this_thread::sleep_for(std::chrono::microseconds(random() % 20'000));
-        kill(child, SIGKILL);
-        waitpid(child, nullptr, 0);
-        Journal(files).recover();
-        const std::uintmax_t commits = files.size("list.txt");
-        EXPECT_EQ(files.isFile("a.txt") ? files.read("a.txt") : "0", std::to_string(commits));
-        EXPECT_EQ(files.isFile("b.txt") ? files.read("b.txt") : "0", std::to_string(commits));
-    }
-    EXPECT_GT(files.size("list.txt"), 0u);
 }
 
 } // namespace iceline::test

@@ -206,21 +206,6 @@ TEST(JournalTest, ACrashAnywhereLeavesTheFilesBeforeOrAfter) {
     }
 }
 
-TEST(JournalTest, ACrashInRecoveryIsRecoveredFrom) {
-    const std::string journal = journalOfRun();
-    bool crashed = true;
-    for (int n = 1; crashed; ++n) {
-        MemoryFiles disk = league();
-        disk.files[Journal::FileName] = journal;
-        FailingFiles files(disk);
-        files.failAt(n, Failure::Crash);
-        attempt([&] { Journal(files).recover(); });
-        crashed = files.hasFailed();
-        Journal(disk).recover();
-        ASSERT_EQ(stateOf(disk), afterGames(Games)) << "crash at use " << n;
-    }
-}
-
 /// After any single failure the user repeats what was refused, and every game is in the books once.
 TEST(JournalTest, AFailureHarmsNoLaterChange) {
     for (const bool run : {false, true}) {
