@@ -9,9 +9,15 @@
 
 namespace iceline::desktop {
 
+namespace {
+
+constexpr int NameWidth = 180;
+
+} // namespace
+
 AllTimeRecordsWindow::AllTimeRecordsWindow(Application& application, WindowId id, AllTimeRecords& object)
     : LeagueWindow(application, id), object_(object) {
-    auto* grid = new QGridLayout(this);
+    auto* grid = new QGridLayout(page());
     int place = 0;
     for (const RecordSection& section : recordSections(object_.content())) {
         grid->addWidget(makeSection(section), place / 2, place % 2);
@@ -33,13 +39,11 @@ QGroupBox* AllTimeRecordsWindow::makeSection(const RecordSection& section) {
             team->setFixedSize(120, 26);
             grid->addWidget(team, row, 1);
         }
-        if (!record.nameControl.empty()) {
-            QLabel* name = labels_.add(textLabel(toQt(record.nameControl), box));
-            name->setMinimumWidth(180);
-            grid->addWidget(name, row, 2);
-        }
+        if (!record.nameControl.empty())
+            grid->addWidget(labels_.add(textLabel(toQt(record.nameControl), box)), row, 2);
         grid->addWidget(labels_.add(figureLabel(toQt(record.valueControl), box)), row++, 3);
     }
+    grid->setColumnMinimumWidth(2, NameWidth);
     grid->setColumnStretch(2, 1);
     grid->setRowStretch(row, 1);
     return box;

@@ -128,7 +128,7 @@ void BracketPanel::addSeries(SeriesIndex series, Conference conference, int roun
 void BracketPanel::addMiddle() {
     auto* top = new QVBoxLayout;
     QLabel* picture = pictureLabel(QStringLiteral("Picture2"), this);
-    picture->setPixmap(pictures::named("league-logo").scaledToWidth(150, Qt::SmoothTransformation));
+    picture->setPixmap(pictures::atMost(100, pictures::named("league-logo")));
     top->addWidget(picture);
     top->addStretch();
     top->addWidget(headLabel(QStringLiteral("Stanley Cup Champions"), this, Qt::AlignCenter));

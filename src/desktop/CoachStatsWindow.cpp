@@ -34,7 +34,7 @@ LeaderGridForm rankingForm(const std::vector<std::string>& coaches) {
 
 CoachStatsWindow::CoachStatsWindow(Application& application, WindowId id, CoachStats& object)
     : LeagueWindow(application, id), object_(object) {
-    auto* rows = new QVBoxLayout(this);
+    auto* rows = new QVBoxLayout(page());
     auto* tabs = new QTabWidget(this);
     tabs->setObjectName(QStringLiteral("SSTab1"));
     tabs->addTab(makeStats(), QStringLiteral("Coaching Stats"));
@@ -47,10 +47,7 @@ QWidget* CoachStatsWindow::makeStats() {
     QGroupBox* box = frame("Frame1", QStringLiteral("Coaching Stats"), this);
     auto* rows = new QVBoxLayout(box);
     auto* head = new QHBoxLayout;
-    coaches_ = new QComboBox(box);
-    coaches_->setObjectName(QStringLiteral("TeamSelect"));
-    coaches_->setPlaceholderText(QStringLiteral("Select Your Coach Here"));
-    coaches_->setMinimumWidth(220);
+    coaches_ = choiceList("TeamSelect", QStringLiteral("Select Your Coach Here"), box);
     for (const std::string& coach : object_.content().coaches)
         coaches_->addItem(toQt(coach));
     connect(coaches_, &QComboBox::activated, this, [this](int index) {

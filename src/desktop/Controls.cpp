@@ -5,8 +5,6 @@
 
 #include <QComboBox>
 #include <QGroupBox>
-#include <QGuiApplication>
-#include <QScreen>
 #include <QStyle>
 
 #include <stdexcept>
@@ -61,10 +59,7 @@ void setStyleProperty(QWidget* widget, const char* name, const QVariant& value) 
 }
 
 void showTeamBanner(QLabel* label, TeamIndex team, int height) {
-    const QPixmap banner = pictures::teamNameMini(team);
-    const int pixels = qRound(height * banner.devicePixelRatio());
-    label->setPixmap(banner.height() > pixels ? banner.scaledToHeight(pixels, Qt::SmoothTransformation)
-                                              : banner);
+    label->setPixmap(pictures::atMost(height, pictures::teamNameMini(team)));
     const QString name = team == BlankTeam ? QString() : toQt(TeamName[team]);
     label->setToolTip(name);
     label->setAccessibleName(name);
@@ -76,14 +71,20 @@ QGroupBox* frame(const char* objectName, const QString& caption, QWidget* parent
     return made;
 }
 
-QComboBox* teamList(const char* objectName, const QString& prompt, QWidget* parent) {
+QComboBox* choiceList(const char* objectName, const QString& prompt, QWidget* parent) {
     auto* list = new QComboBox(parent);
     list->setObjectName(QLatin1String(objectName));
     list->setPlaceholderText(prompt);
+    list->setSizeAdjustPolicy(QComboBox::AdjustToContents);
+    list->setMinimumContentsLength(static_cast<int>(prompt.size()));
+    return list;
+}
+
+QComboBox* teamList(const char* objectName, const QString& prompt, QWidget* parent) {
+    QComboBox* list = choiceList(objectName, prompt, parent);
     for (const TeamIndex team : AllLeagueTeams)
         list->addItem(toQt(TeamName[team]));
     list->setCurrentIndex(-1);
-    list->setMinimumWidth(210);
     return list;
 }
 
@@ -127,12 +128,6 @@ QLabel& NamedLabels::operator[](std::string_view name) const {
 
 void setText(const NamedLabels& labels, std::string_view name, std::string_view text) {
     labels[name].setText(toQt(text));
-}
-
-void centreOnScreen(QWidget& window) {
-    const QRect screen = QGuiApplication::primaryScreen()->availableGeometry();
-    window.resize(window.size().boundedTo(screen.size()));
-    window.move(screen.center() - window.rect().center());
 }
 
 } // namespace iceline::desktop

@@ -41,6 +41,9 @@ void showTeamBanner(QLabel* label, TeamIndex team, int height = 24);
 
 QGroupBox* frame(const char* objectName, const QString& caption, QWidget* parent);
 
+/// A list to choose from, as wide as its entries, which shows `prompt` until one is chosen.
+QComboBox* choiceList(const char* objectName, const QString& prompt, QWidget* parent);
+
 /// A list of the league's teams by full name, which shows `prompt` until one is chosen.
 QComboBox* teamList(const char* objectName, const QString& prompt, QWidget* parent);
 
@@ -83,8 +86,5 @@ private:
 
 /// Shows text in the label of that name among `labels`. Throws as NamedLabels does.
 void setText(const NamedLabels& labels, std::string_view name, std::string_view text);
-
-/// Moves a window to the middle of the screen, and makes it no larger than that.
-void centreOnScreen(QWidget& window);
 
 } // namespace iceline::desktop

@@ -13,10 +13,11 @@ namespace iceline::desktop {
 
 namespace {
 
-constexpr int RowHeight = 17;
 constexpr int FigureRowHeight = 19;
 constexpr int NameWidth = 168;
 constexpr int FigureWidth = 34;
+constexpr int FiguresWidth = 84;
+constexpr int BannerHeight = 48;
 
 QGridLayout* compactGrid(QWidget* owner) {
     auto* grid = new QGridLayout(owner);
@@ -31,7 +32,7 @@ QGridLayout* compactGrid(QWidget* owner) {
 GameRosterPanel::GameRosterPanel(const QString& team, const char* bannerName, QGroupBox* frame)
     : QWidget(frame), frame_(frame), banner_(pictureLabel(QLatin1String(bannerName), this)) {
     QGridLayout* grid = compactGrid(this);
-    banner_->setFixedHeight(48);
+    banner_->setFixedHeight(BannerHeight);
     grid->addWidget(banner_, 0, 0, 1, static_cast<int>(1 + PlayerFigures.size()));
     addColumn(*grid, 0, QStringLiteral("Names"));
     for (std::size_t figure = 0; figure < PlayerFigures.size(); ++figure)
@@ -50,13 +51,13 @@ void GameRosterPanel::addColumn(QGridLayout& grid, int column, const QString& ca
 void GameRosterPanel::addRow(QGridLayout& grid, RosterIndex row, const QString& team) {
     int column = 0;
     const auto add = [&](QLabel* label) {
-        label->setFixedHeight(RowHeight);
         grid.addWidget(label, row.number() + 2, column++);
         return label;
     };
     const auto name = [&](std::string_view control) {
         return element((team + toQt(control)).toLatin1(), row.number());
     };
+    grid.setRowMinimumHeight(row.number() + 2, fontMetrics().height());
     Row& labels = rows_[row];
     labels.name = add(textLabel(name("Names"), this));
     for (std::size_t figure = 0; figure < PlayerFigures.size(); ++figure)
@@ -65,8 +66,7 @@ void GameRosterPanel::addRow(QGridLayout& grid, RosterIndex row, const QString& 
 
 void GameRosterPanel::show(const GameSide& side) {
     frame_->setTitle(toQt(TeamAbbr[side.team]));
-    banner_->setPixmap(pictures::teamNameBig(side.team).scaledToHeight(
-        static_cast<int>(48 * devicePixelRatioF()), Qt::SmoothTransformation));
+    banner_->setPixmap(pictures::atMost(BannerHeight, pictures::teamNameBig(side.team)));
     for (const RosterIndex row : AllRosterRows) {
         const GamePlayerRow& player = side.players[row];
         rows_[row].name->setText(player.isEmpty() ? QString() : toQt(player.Name));
@@ -93,7 +93,7 @@ GameFiguresPanel::GameFiguresPanel(const QString& team, QGroupBox* frame) : QWid
         grid->setRowMinimumHeight(row++, FigureRowHeight);
     }
     grid->setRowStretch(row, 1);
-    setMinimumWidth(84);
+    grid->setColumnMinimumWidth(0, FiguresWidth);
 }
 
 QLabel* GameFiguresPanel::add(const GameFigure& figure, const QString& team) {

@@ -10,6 +10,7 @@ namespace iceline::desktop {
 namespace {
 
 constexpr int RowHeight = 24;
+constexpr int NameWidth = 220;
 
 // Places in the grid, from the left.
 constexpr int NumberPlace = 0;
@@ -49,6 +50,7 @@ LeaderGrid::LeaderGrid(const LeaderGridForm& form, std::function<void(int)> clic
     }
     for (int row = 0; row < form_.rows; ++row)
         rows_.push_back(makeRow(row));
+    grid->setColumnMinimumWidth(namePlace(), NameWidth);
     grid->setColumnStretch(namePlace(), 1);
     grid->setRowStretch(form_.rows + 1, 1);
 }

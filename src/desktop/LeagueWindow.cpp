@@ -7,10 +7,16 @@
 
 namespace iceline::desktop {
 
-LeagueWindow::LeagueWindow(Application& application, WindowId id) : app_(application), id_(id) {
+LeagueWindow::LeagueWindow(Application& application, WindowId id)
+    : app_(application), id_(id), page_(new ScrolledPage(this)) {
     const CatalogueRow& row = catalogueRow(id);
     setObjectName(toQt(row.name));
     setWindowTitle(toQt(row.entry));
+}
+
+void LeagueWindow::showFirst() {
+    page_->fitWindow();
+    show();
 }
 
 void LeagueWindow::follow(Window& object) {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "desktop/Guard.h"
+#include "desktop/ScrolledPage.h"
 #include "shell/Application.h"
 #include "shell/Windows.h"
 
@@ -19,7 +20,13 @@ public:
 
     WindowId id() const { return id_; }
 
+    /// Opens in the middle of the screen, and no larger than that.
+    void showFirst();
+
 protected:
+    /// What the controls are laid out in.
+    QWidget* page() const { return page_->widget(); }
+
     /// Shows the window object's content as it is now.
     virtual void refresh() = 0;
 
@@ -34,6 +41,7 @@ protected:
         guarded(this, procedure);
         if (app_.operationsCommitted() != committed)
             renewWindows();
+        page_->growWindow();
     }
 
     void closeEvent(QCloseEvent* event) override;
@@ -44,6 +52,7 @@ private:
     void renewWindows();
 
     WindowId id_;
+    ScrolledPage* page_;
 };
 
 } // namespace iceline::desktop

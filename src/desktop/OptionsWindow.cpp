@@ -17,7 +17,7 @@ namespace iceline::desktop {
 
 OptionsWindow::OptionsWindow(Application& application, WindowId id, Options& object)
     : LeagueWindow(application, id), object_(object) {
-    auto* grid = new QGridLayout(this);
+    auto* grid = new QGridLayout(page());
     grid->addWidget(makeCoaches(), 0, 0, 2, 1);
     grid->addWidget(makeSeason(), 0, 1);
     grid->addWidget(makeClearing(), 1, 1);
@@ -38,10 +38,8 @@ QGroupBox* OptionsWindow::makeCoaches() {
     QGroupBox* box = frame("Frame3", QStringLiteral("Create - A - Coach"), this);
     auto* columns = new QHBoxLayout(box);
     auto* commands = new QVBoxLayout;
-    coaches_ = new QComboBox(box);
-    coaches_->setObjectName(QStringLiteral("Combo1"));
-    coaches_->setPlaceholderText(QStringLiteral("Select Coach"));
-    coaches_->setMinimumWidth(180);
+    coaches_ = choiceList("Combo1", QStringLiteral("Select Coach"), box);
+    coaches_->setMinimumContentsLength(CoachNameLimit);
     connect(coaches_, &QComboBox::activated, this, [this](int index) { object_.Combo1 = index; });
     commands->addWidget(coaches_);
     commands->addWidget(makeButton("NewCoach", QStringLiteral("Add New Coach"), &Options::NewCoach_Click));
@@ -132,8 +130,10 @@ QGroupBox* OptionsWindow::makeClearing() {
     clearedLogo2_ = pictureLabel(QStringLiteral("ClearSelectedLogo2"), box);
     for (QLabel* picture : {clearedLogo_, clearedName_, clearedLogo2_})
         team->addWidget(picture);
+    for (QLabel* logo : {clearedLogo_, clearedLogo2_})
+        logo->setMinimumSize(pictures::teamLogo(AllTeams).deviceIndependentSize().toSize());
+    clearedName_->setMinimumSize(pictures::teamNameBig(AllTeams).deviceIndependentSize().toSize());
     rows->addLayout(team);
-    box->setMinimumSize(600, 190);
     rows->addStretch();
     return box;
 }

@@ -34,4 +34,9 @@ QPixmap named(const char* name) {
     return load(QLatin1String(name));
 }
 
+QPixmap atMost(int height, const QPixmap& picture) {
+    const int pixels = qRound(height * picture.devicePixelRatio());
+    return picture.height() > pixels ? picture.scaledToHeight(pixels, Qt::SmoothTransformation) : picture;
+}
+
 } // namespace iceline::desktop::pictures

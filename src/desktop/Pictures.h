@@ -15,4 +15,7 @@ QPixmap teamLogo(TeamIndex team);     ///< AllTeams has one, too
 /// The picture of that name under the store's root, for instance "league-logo".
 QPixmap named(const char* name);
 
+/// The picture, at most `height` high on the screen, in its pixels before scaling.
+QPixmap atMost(int height, const QPixmap& picture);
+
 } // namespace iceline::desktop::pictures

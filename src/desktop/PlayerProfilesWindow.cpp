@@ -18,7 +18,7 @@ constexpr int PortraitSize = 200;
 
 PlayerProfilesWindow::PlayerProfilesWindow(Application& application, WindowId id, PlayerProfiles& object)
     : LeagueWindow(application, id), object_(object) {
-    auto* outer = new QVBoxLayout(this);
+    auto* outer = new QVBoxLayout(page());
     QGroupBox* box = frame("Frame8", QStringLiteral("Player Profiles"), this);
     outer->addWidget(box);
     auto* rows = new QVBoxLayout(box);
@@ -98,10 +98,7 @@ QLayout* PlayerProfilesWindow::makeChoices() {
         });
     });
     row->addWidget(teams_);
-    players_ = new QComboBox(this);
-    players_->setObjectName(QStringLiteral("PlayersNameSelect"));
-    players_->setPlaceholderText(QStringLiteral("Select Player Here"));
-    players_->setMinimumWidth(210);
+    players_ = choiceList("PlayersNameSelect", QStringLiteral("Select Player Here"), this);
     connect(players_, &QComboBox::activated, this, [this](int index) {
         run([this, index] {
             object_.PlayersNameSelect = index;

@@ -15,6 +15,7 @@ namespace {
 /// Room for the team's pictures, so that the window keeps its size when they come.
 constexpr QSize LogoSize(64, 64);
 constexpr QSize BannerSize(360, 64);
+constexpr int NameWidth = 170;
 
 /// The column of the layout for a column of figures: after that of the row numbers, and leaving one for the
 /// name.
@@ -27,7 +28,7 @@ constexpr int NameLayoutColumn = static_cast<int>(ColumnsBeforeName) + 1;
 
 PlayerStatsWindow::PlayerStatsWindow(Application& application, WindowId id, PlayerStats& object)
     : LeagueWindow(application, id), object_(object) {
-    auto* outer = new QVBoxLayout(this);
+    auto* outer = new QVBoxLayout(page());
     QGroupBox* box = frame("Frame8", QStringLiteral("Player Stats"), this);
     outer->addWidget(box);
     auto* rows = new QVBoxLayout(box);
@@ -95,7 +96,7 @@ QGroupBox* PlayerStatsWindow::makeTable(Table& table, const TableForm& form,
     for (QLabel* name : table.columns.back())
         name->setAlignment(Qt::AlignLeft | Qt::AlignVCenter);
     addNumbers(grid, form);
-    grid->setColumnMinimumWidth(NameLayoutColumn, 170);
+    grid->setColumnMinimumWidth(NameLayoutColumn, NameWidth);
     grid->setColumnStretch(NameLayoutColumn, 1);
     return box;
 }
@@ -134,20 +135,19 @@ void PlayerStatsWindow::addColumn(Table& table, QGridLayout* grid, const TableFo
 
 QGroupBox* PlayerStatsWindow::makeLeaders() {
     QGroupBox* box = frame("Frame3", QStringLiteral("Team Leaders"), this);
-    auto* column = new QVBoxLayout(box);
+    auto* grid = new QGridLayout(box);
+    int row = 0;
     for (const LeaderCategory& category : LeaderCategories) {
         QLabel* caption = headLabel(toQt(category.caption), box, Qt::AlignLeft);
         caption->setObjectName(toQt(category.captionControl));
-        column->addWidget(caption);
-        auto* line = new QHBoxLayout;
+        grid->addWidget(caption, row++, 0, 1, 2);
         const QString control = toQt(category.control);
-        QLabel* name = leaders_.add(textLabel(control + QStringLiteral("Name"), box));
-        name->setMinimumWidth(150);
-        line->addWidget(name, 1);
-        line->addWidget(leaders_.add(figureLabel(control, box)));
-        column->addLayout(line);
+        grid->addWidget(leaders_.add(textLabel(control + QStringLiteral("Name"), box)), row, 0);
+        grid->addWidget(leaders_.add(figureLabel(control, box)), row++, 1);
+        grid->setRowMinimumHeight(row - 1, fontMetrics().height());
     }
-    column->addStretch();
+    grid->setColumnMinimumWidth(0, NameWidth);
+    grid->setRowStretch(row, 1);
     return box;
 }
 
@@ -156,8 +156,7 @@ void PlayerStatsWindow::refresh() {
     if (object_.PlayersTeamSelect != PlayerStats::NotChosen) {
         const TeamIndex team(object_.PlayersTeamSelect);
         name_->setPixmap(pictures::teamNameBig(team));
-        logo_->setPixmap(
-            pictures::teamLogo(team).scaledToHeight(LogoSize.height(), Qt::SmoothTransformation));
+        logo_->setPixmap(pictures::atMost(LogoSize.height(), pictures::teamLogo(team)));
         logo2_->setPixmap(logo_->pixmap());
     }
     markHeads(skaters_, object_.SkaterSortColumn, object_.SkaterSortAscending);

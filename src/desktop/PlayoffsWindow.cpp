@@ -10,7 +10,7 @@ namespace iceline::desktop {
 
 PlayoffsWindow::PlayoffsWindow(Application& application, WindowId id, Playoffs& object)
     : LeagueWindow(application, id), object_(object) {
-    auto* rows = new QVBoxLayout(this);
+    auto* rows = new QVBoxLayout(page());
     QGroupBox* box = frame("Frame5", QStringLiteral("Playoff Tree"), this);
     auto* column = new QVBoxLayout(box);
     column->setContentsMargins(0, 4, 0, 0);

@@ -12,8 +12,6 @@ namespace iceline::desktop {
 namespace {
 
 constexpr int PlayerRows = 20;
-constexpr int TableWidth = 900; ///< room for the names
-constexpr int StarsWidth = 480;
 
 template <class Columns>
 LeaderGridForm playerForm(const char* numbers, const char* pictures, const char* names, const char* heads,
@@ -29,8 +27,8 @@ LeaderGridForm playerForm(const char* numbers, const char* pictures, const char*
 }
 
 /// A page of the tabs: the frame with its title, which is a label of its own, and the table.
-QGroupBox* page(const char* frameName, const QString& caption, LeaderGrid* grid, const char* title = nullptr,
-                const char* prompt = nullptr) {
+QGroupBox* tabPage(const char* frameName, const QString& caption, LeaderGrid* grid,
+                   const char* title = nullptr, const char* prompt = nullptr) {
     QGroupBox* box = frame(frameName, caption, nullptr);
     auto* rows = new QVBoxLayout(box);
     rows->setContentsMargins(8, 4, 8, 4);
@@ -71,9 +69,9 @@ RankingsWindow::RankingsWindow(Application& application, WindowId id, Rankings& 
         teamLeaderForm(), [this](int head) { sort([&] { object_.tmLeadersCol_Click(head); }); }, this);
     QTabWidget* tabs = tabStrip("SSTab1", this);
     tabs->addTab(makeLeagueLeaders(), QStringLiteral("League Leaders"));
-    tabs->addTab(page("Frame3", QStringLiteral("Team League Leaders"), teams_),
+    tabs->addTab(tabPage("Frame3", QStringLiteral("Team League Leaders"), teams_),
                  QStringLiteral("Team Leaders"));
-    auto* rows = new QVBoxLayout(this);
+    auto* rows = new QVBoxLayout(page());
     rows->setContentsMargins(10, 8, 10, 8);
     rows->addWidget(tabs);
     rows->addWidget(exitButton("Command2", this), 0, Qt::AlignRight);
@@ -90,14 +88,13 @@ QWidget* RankingsWindow::makeLeagueLeaders() {
     stars_ = new LeaderGrid(
         playerForm("Text6", "LL3StarTeam", "LL3StarName", "ThreeStarSort", StarLeaderColumns),
         [this](int) { sort([&] { object_.ThreeStarSort_Click(); }); }, this);
-    players_->setMinimumWidth(TableWidth);
-    stars_->setMaximumWidth(StarsWidth);
+    stars_->setSizePolicy(QSizePolicy::Maximum, QSizePolicy::Preferred);
     QTabWidget* tabs = tabStrip("SSTab2", this);
-    tabs->addTab(page("Frame1", QStringLiteral("Player League Leaders"), players_, "Text9", "Text4"),
+    tabs->addTab(tabPage("Frame1", QStringLiteral("Player League Leaders"), players_, "Text9", "Text4"),
                  QStringLiteral("Player League Leaders"));
-    tabs->addTab(page("Frame2", QStringLiteral("Goalie League Leaders"), goalies_, "Text8", "Text5"),
+    tabs->addTab(tabPage("Frame2", QStringLiteral("Goalie League Leaders"), goalies_, "Text8", "Text5"),
                  QStringLiteral("Goalie League Leaders"));
-    tabs->addTab(page("ThreeStarRankings", QStringLiteral("Three Star Award Leaders"), stars_, "Text7"),
+    tabs->addTab(tabPage("ThreeStarRankings", QStringLiteral("Three Star Award Leaders"), stars_, "Text7"),
                  QStringLiteral("Three Star Award Rankings"));
     return tabs;
 }

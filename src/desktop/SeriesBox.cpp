@@ -32,7 +32,6 @@ SeriesBox::SeriesBox(const Names& names, QWidget* parent) : QFrame(parent) {
     }
     dash_ = headLabel(QStringLiteral("-"), this, Qt::AlignCenter);
     dash_->setObjectName(names.dash);
-    dash_->setFixedHeight(10);
     grid->addWidget(dash_, 1, 2);
     grid->setRowMinimumHeight(1, 10);
     setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);

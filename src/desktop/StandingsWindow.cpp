@@ -90,7 +90,7 @@ void addTab(QTabWidget* tabs, QWidget* content, const QString& caption) {
 
 StandingsWindow::StandingsWindow(Application& application, WindowId id, Standings& object)
     : LeagueWindow(application, id), object_(object) {
-    auto* rows = new QVBoxLayout(this);
+    auto* rows = new QVBoxLayout(page());
     auto* tabs = new QTabWidget(this);
     tabs->setObjectName(QStringLiteral("SSTab1"));
     addTab(tabs, makeDivisionTab(), QStringLiteral("Division Standings"));

@@ -28,7 +28,7 @@ QString shortened(const QLabel& label, const QString& path) {
 
 StatExtractorWindow::StatExtractorWindow(Application& application, WindowId id, StatExtractor& object)
     : LeagueWindow(application, id), object_(object) {
-    auto* rows = new QVBoxLayout(this);
+    auto* rows = new QVBoxLayout(page());
     rows->setContentsMargins(10, 8, 10, 8);
     rows->setSpacing(4);
     rows->addLayout(makeCommands());
@@ -48,7 +48,6 @@ StatExtractorWindow::StatExtractorWindow(Application& application, WindowId id, 
     summaries->addWidget(
         makeSummary("Frame12", QStringLiteral("Penalty Summary"), "PenaltySummary", penalties_));
     rows->addLayout(summaries, 1);
-    resize(1240, 770);
     follow(object_);
 }
 
@@ -67,7 +66,7 @@ QLayout* StatExtractorWindow::makeCommands() {
         ->setProperty("role", QStringLiteral("main"));
     add("ImportFolder", QStringLiteral("Import Folder"), &StatExtractor::ImportFolder_Click);
     fileName_ = textLabel(QStringLiteral("FileName"), this);
-    fileName_->setMaximumWidth(700);
+    fileName_->setMaximumWidth(60 * fontMetrics().averageCharWidth());
     row->addWidget(fileName_, 1);
     row->addWidget(exitButton("Command2", this));
     return row;
@@ -97,10 +96,7 @@ QLayout* StatExtractorWindow::makeChoices() {
 }
 
 QComboBox* StatExtractorWindow::makeCoachList(const char* name, void (StatExtractor::*choose)(int)) {
-    auto* list = new QComboBox(this);
-    list->setObjectName(QLatin1String(name));
-    list->setPlaceholderText(QStringLiteral("Select Coach"));
-    list->setMinimumWidth(180);
+    QComboBox* list = choiceList(name, QStringLiteral("Select Coach"), this);
     for (const std::string& coach : object_.content().coaches)
         list->addItem(toQt(coach));
     connect(list, &QComboBox::activated, this, [this, choose](int index) { (object_.*choose)(index); });
@@ -140,11 +136,11 @@ QLayout* StatExtractorWindow::makeScore() {
         QLabel* label = figureLabel(QLatin1String(name), this);
         label->setProperty("role", QLatin1String(role));
         label->setAlignment(Qt::AlignCenter);
-        label->setMinimumWidth(64);
         row->addWidget(label);
         return label;
     };
     row->addStretch();
+    row->setSpacing(24);
     awayScore_ = add("DisplayAwayScore", "score");
     finalMark_ = add("FOTBox", "head");
     homeScore_ = add("DisplayHomeScore", "score");

@@ -79,9 +79,12 @@ QGroupBox* TeamFiguresPanel::makeBox(const char* name, const QString& caption, c
 
 QWidget* TeamFiguresPanel::makeFigures(const TeamColumn& column, QWidget* parent) {
     auto* holder = new QWidget(parent);
-    auto* row = new QHBoxLayout(holder);
-    row->setContentsMargins(0, 0, 0, 0);
+    auto* room = new QGridLayout(holder);
+    room->setContentsMargins(0, 0, 0, 0);
+    room->setColumnMinimumWidth(0, FigureWidth);
+    auto* row = new QHBoxLayout;
     row->setSpacing(0);
+    room->addLayout(row, 0, 0);
     row->addStretch();
     for (const TeamFigure& figure : column.shown()) {
         if (row->count() > 1)
@@ -90,7 +93,6 @@ QWidget* TeamFiguresPanel::makeFigures(const TeamColumn& column, QWidget* parent
         row->addWidget(figures_.back().first);
     }
     row->addStretch();
-    holder->setMinimumWidth(FigureWidth);
     return holder;
 }
 

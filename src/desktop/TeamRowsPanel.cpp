@@ -12,7 +12,6 @@ namespace {
 constexpr int BannerHeight = 22;
 constexpr int BannerWidth = 116;
 constexpr int FigureWidth = 40;
-constexpr int MarkWidth = 18;
 
 /// Lines and columns of the grid before the first row and the first figure.
 constexpr int HeadLines = 2;
@@ -50,8 +49,10 @@ void TeamRowsPanel::addRow(const Arrays& arrays, int number, int height) {
     if (!arrays.marks.isEmpty()) {
         row.mark = textLabel(element(arrays.marks.toLatin1(), number), this);
         row.mark->setProperty("role", QStringLiteral("mark"));
+        row.mark->ensurePolished();
         row.mark->setAlignment(Qt::AlignCenter);
-        row.mark->setFixedSize(MarkWidth, MarkWidth);
+        const int side = row.mark->fontMetrics().height() + 2;
+        row.mark->setFixedSize(side, side);
         grid_->addWidget(row.mark, line, 0, Qt::AlignCenter);
     }
     row.banner = pictureLabel(element(arrays.banners.toLatin1(), number), this);

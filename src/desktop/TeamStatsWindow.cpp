@@ -11,7 +11,7 @@ namespace iceline::desktop {
 
 TeamStatsWindow::TeamStatsWindow(Application& application, WindowId id, TeamStats& object)
     : LeagueWindow(application, id), object_(object) {
-    auto* rows = new QVBoxLayout(this);
+    auto* rows = new QVBoxLayout(page());
     auto* head = new QHBoxLayout;
     teams_ = teamList("TeamSelect", QStringLiteral("Select Your Team Here"), this);
     connect(teams_, &QComboBox::activated, this, [this](int index) {

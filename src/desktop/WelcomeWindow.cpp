@@ -29,7 +29,7 @@ WelcomeWindow::WelcomeWindow(Application& application, PreviewServer& preview)
 }
 
 void WelcomeWindow::layOut() {
-    auto* columns = new QHBoxLayout(this);
+    auto* columns = new QHBoxLayout(page_.widget());
     columns->setContentsMargins(24, 24, 24, 24);
     columns->setSpacing(24);
     columns->addWidget(makeCatalogue(), 1);
@@ -63,12 +63,13 @@ QPushButton* WelcomeWindow::addButton(QLayout& layout, const QString& name, cons
 QListWidget* WelcomeWindow::makeCatalogue() {
     auto* list = new QListWidget(this);
     list->setObjectName(QStringLiteral("List1"));
-    list->setMinimumWidth(260);
     for (const CatalogueRow& row : windowCatalogue()) {
         auto* entry = new QListWidgetItem(toQt(row.entry), list);
         entry->setData(Qt::UserRole, static_cast<int>(row.id));
     }
-    list->setMinimumHeight(list->sizeHintForRow(0) * list->count() + 2 * list->frameWidth());
+    list->ensurePolished();
+    list->setMinimumSize(std::max(260, list->sizeHintForColumn(0) + 4 * list->frameWidth()),
+                         list->sizeHintForRow(0) * list->count() + 4 * list->frameWidth());
     connect(list, &QListWidget::itemClicked, this, &WelcomeWindow::openRow);
     connect(list, &QListWidget::itemActivated, this, &WelcomeWindow::openRow);
     return list;
@@ -111,8 +112,7 @@ void WelcomeWindow::waitForSplash(std::function<void()> shown) {
         if (!app_.state.SplashDone)
             return;
         timer1_.stop();
-        adjustSize();
-        centreOnScreen(*this);
+        page_.fitWindow();
         show();
         shown();
     });

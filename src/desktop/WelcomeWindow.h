@@ -1,6 +1,7 @@
 #pragma once
 
 #include "desktop/PreviewServer.h"
+#include "desktop/ScrolledPage.h"
 #include "desktop/WindowManager.h"
 
 #include <QTimer>
@@ -41,6 +42,7 @@ private:
     Application& app_;
     PreviewServer& preview_;
     WindowManager windows_;
+    ScrolledPage page_{this};
     QTimer timer1_{this};
 };
 

@@ -1,7 +1,6 @@
 #include "desktop/WindowManager.h"
 
 #include "app/WelcomeWindow.h"
-#include "desktop/Controls.h"
 #include "desktop/WindowMakers.h"
 
 namespace iceline::desktop {
@@ -21,9 +20,7 @@ void WindowManager::open(WindowId id) {
     QPointer<LeagueWindow>& window = windows_[static_cast<std::size_t>(id)];
     if (!window) {
         window = windowMaker(id)(app_, id, object);
-        if (!window->testAttribute(Qt::WA_Resized))
-            window->adjustSize();
-        centreOnScreen(*window);
+        window->showFirst();
     }
     window->setWindowState(window->windowState() & ~Qt::WindowMinimized);
     window->show();

@@ -4,6 +4,7 @@
 #include "support/TestLeague.h"
 
 #include <QAbstractButton>
+#include <QComboBox>
 #include <QLabel>
 
 #include <gmock/gmock.h>
@@ -36,6 +37,21 @@ protected:
         const auto& label = control<QLabel>(window, QLatin1String(name));
         EXPECT_FALSE(label.pixmap(Qt::ReturnByValue).isNull()) << name;
         return label.accessibleName().toStdString();
+    }
+
+    /// The user chooses an entry of a list.
+    static void choose(QWidget& window, const char* list, int index) {
+        Q_EMIT control<QComboBox>(window, QLatin1String(list)).activated(index);
+    }
+
+    /// Opens a window and chooses the first team or coach, and a player, where there is such a choice.
+    LeagueWindow& openWithChoices(WindowId id) {
+        LeagueWindow& window = open(id);
+        for (const auto& [list, index] :
+             {std::pair{"PlayersTeamSelect", 0}, {"PlayersNameSelect", 4}, {"TeamSelect", 0}})
+            if (window.findChild<QComboBox*>(QLatin1String(list)))
+                choose(window, list, index);
+        return window;
     }
 
     static void click(QWidget& window, const char* name) {

@@ -16,6 +16,8 @@ constexpr TeamIndex Montreal{10};
 
 class GameWindowTest : public DesktopTest {
 protected:
+    using DesktopTest::choose;
+
     void choose(const GameSheet& game) {
         league.files.files["game.gs0"] = saveStateBytes(game);
         league.platform.chosen.push_back("game.gs0");
@@ -79,26 +81,12 @@ TEST_F(GameWindowTest, WhatItChangesShowsInEveryOpenWindowAsInANewOne) {
     league.addCoach("Ann");
     league.app.state.SeasonLength = 1;
     choose(game());
-    const auto chooseFrom = [](LeagueWindow& window, const char* list, int index) {
-        Q_EMIT control<QComboBox>(window, QLatin1String(list)).activated(index);
-    };
-    const auto openWithChoices = [&](WindowId id) -> LeagueWindow& {
-        LeagueWindow& window = open(id);
-        const auto has = [&](const char* list) { return window.findChild<QComboBox*>(QLatin1String(list)); };
-        if (has("PlayersTeamSelect"))
-            chooseFrom(window, "PlayersTeamSelect", Boston.number());
-        if (has("PlayersNameSelect"))
-            chooseFrom(window, "PlayersNameSelect", 4);
-        if (has("TeamSelect"))
-            chooseFrom(window, "TeamSelect", 0);
-        return window;
-    };
     for (const CatalogueRow& row : windowCatalogue())
         openWithChoices(row.id);
     LeagueWindow& import = *windows.window(WindowId::StatExtractor);
     click(import, "LoadStats");
     click(import, "Season");
-    chooseFrom(import, "T1Coach", 1);
+    choose(import, "T1Coach", 1);
     click(import, "ImportStats");
 
     const auto files = league.files.files;

@@ -17,12 +17,6 @@ constexpr TeamIndex Boston{0};
 
 class LeagueWindowsTest : public DesktopTest {
 protected:
-    static void choose(QWidget& window, const char* list, int index) {
-        auto& box = control<QComboBox>(window, QLatin1String(list));
-        box.setCurrentIndex(index);
-        Q_EMIT box.activated(index);
-    }
-
     static void type(QWidget& window, const char* field, const char* text) {
         auto& edit = control<QLineEdit>(window, QLatin1String(field));
         edit.setText(QLatin1String(text));
