@@ -4,6 +4,7 @@
 #include "desktop/QtPlatform.h"
 
 #include <QCloseEvent>
+#include <QShortcut>
 
 namespace iceline::desktop {
 
@@ -12,6 +13,8 @@ LeagueWindow::LeagueWindow(Application& application, WindowId id)
     const CatalogueRow& row = catalogueRow(id);
     setObjectName(toQt(row.name));
     setWindowTitle(toQt(row.entry));
+    for (const auto& key : {QStringLiteral("Esc"), QStringLiteral("Ctrl+W")})
+        connect(new QShortcut(key, this), &QShortcut::activated, this, &QWidget::close);
 }
 
 void LeagueWindow::showFirst() {

@@ -74,6 +74,8 @@ QLayout* OptionsWindow::makeInputRow(QGroupBox* box) {
     newName_->setMaxLength(CoachNameLimit);
     connect(newName_, &QLineEdit::textEdited, this,
             [this](const QString& text) { object_.NewC = fromQt(text); });
+    connect(newName_, &QLineEdit::returnPressed, this,
+            [this] { (object_.content().Command1Visible ? create_ : rename_)->click(); });
     label4_ = headLabel(QStringLiteral("(Max 20 characters, no spaces)"), box, Qt::AlignLeft);
     label4_->setObjectName(QStringLiteral("Label4"));
     create_ = makeButton("Command1", QStringLiteral("Create"), &Options::Command1_Click);
@@ -148,8 +150,11 @@ void OptionsWindow::refresh() {
     coaches_->setCurrentIndex(object_.Combo1);
     coachList_->setPlainText(names.join(QLatin1Char('\n')));
     newName_->setText(toQt(object_.NewC));
+    const bool opens = content.inputRowVisible() && newName_->isHidden();
     for (QWidget* widget : std::initializer_list<QWidget*>{label3_, newName_, label4_})
         widget->setVisible(content.inputRowVisible());
+    if (opens)
+        newName_->setFocus();
     create_->setVisible(content.Command1Visible);
     rename_->setVisible(content.Command2Visible);
     currentLength_->setText(toQt(content.CurrentSeasonLength));

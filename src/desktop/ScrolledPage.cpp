@@ -42,7 +42,7 @@ void ScrolledPage::fitWindow() {
     for (QWidget* control : window()->findChildren<QWidget*>())
         control->ensurePolished(); // the style sheet has a say in their sizes
     widget()->layout()->activate();
-    window()->resize(sizeFor(sizeHint()));
+    window()->resize(sizeFor(window()->sizeHint()));
     window()->move(room().center() - window()->rect().center() -
                    QPoint(WindowFrame.left(), WindowFrame.top()));
 }

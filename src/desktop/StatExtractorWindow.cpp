@@ -53,23 +53,34 @@ StatExtractorWindow::StatExtractorWindow(Application& application, WindowId id, 
 
 QLayout* StatExtractorWindow::makeCommands() {
     auto* row = new QHBoxLayout;
-    const auto add = [&](const char* name, const QString& caption, void (StatExtractor::*procedure)()) {
+    const auto add = [&](const char* name, const QString& caption, void (StatExtractorWindow::*click)()) {
         auto* button = new QPushButton(caption, this);
         button->setObjectName(QLatin1String(name));
-        connect(button, &QPushButton::clicked, this,
-                [this, procedure] { run([this, procedure] { (object_.*procedure)(); }); });
+        connect(button, &QPushButton::clicked, this, click);
         row->addWidget(button);
         return button;
     };
-    add("LoadStats", QStringLiteral("Select Game"), &StatExtractor::LoadStats_Click);
-    add("ImportStats", QStringLiteral("Import Game"), &StatExtractor::ImportStats_Click)
+    add("LoadStats", QStringLiteral("Select Game"), &StatExtractorWindow::selectGame);
+    add("ImportStats", QStringLiteral("Import Game"), &StatExtractorWindow::importGame)
         ->setProperty("role", QStringLiteral("main"));
-    add("ImportFolder", QStringLiteral("Import Folder"), &StatExtractor::ImportFolder_Click);
+    add("ImportFolder", QStringLiteral("Import Folder"), &StatExtractorWindow::importFolder);
     fileName_ = textLabel(QStringLiteral("FileName"), this);
     fileName_->setMaximumWidth(60 * fontMetrics().averageCharWidth());
     row->addWidget(fileName_, 1);
     row->addWidget(exitButton("Command2", this));
     return row;
+}
+
+void StatExtractorWindow::selectGame() {
+    run([this] { object_.LoadStats_Click(); });
+}
+
+void StatExtractorWindow::importGame() {
+    run([this] { object_.ImportStats_Click(); });
+}
+
+void StatExtractorWindow::importFolder() {
+    run([this] { object_.ImportFolder_Click(); });
 }
 
 QLayout* StatExtractorWindow::makeChoices() {

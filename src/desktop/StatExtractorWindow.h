@@ -22,6 +22,11 @@ class StatExtractorWindow : public LeagueWindow {
 public:
     StatExtractorWindow(Application& application, WindowId id, StatExtractor& object);
 
+    /// What the buttons do.
+    void selectGame();
+    void importGame();
+    void importFolder();
+
 protected:
     void refresh() override;
 

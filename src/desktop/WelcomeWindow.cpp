@@ -6,6 +6,7 @@
 #include "desktop/Guard.h"
 #include "desktop/Pictures.h"
 #include "desktop/QtPlatform.h"
+#include "desktop/StatExtractorWindow.h"
 
 #include <QApplication>
 #include <QCloseEvent>
@@ -20,10 +21,11 @@
 namespace iceline::desktop {
 
 WelcomeWindow::WelcomeWindow(Application& application, PreviewServer& preview)
-    : app_(application), preview_(preview), windows_(application) {
+    : app_(application), preview_(preview), windows_(application), menus_(new MainMenu(this)) {
     setObjectName(QStringLiteral("WelcomeWindow"));
     setWindowTitle(QStringLiteral("Welcome to the Iceline Scorebook 3.0 - Rinkstar Version"));
     layOut();
+    makeMenus();
     timer1_.setObjectName(QStringLiteral("Timer1"));
     timer1_.setInterval(1);
 }
@@ -44,13 +46,58 @@ void WelcomeWindow::layOut() {
     side->addWidget(makeTrophies());
     side->addStretch();
     connect(addButton(*side, QStringLiteral("Command1"), QStringLiteral("Generate Webpages")),
-            &QPushButton::clicked, this,
-            [this] { guarded(this, [this] { iceline::WelcomeWindow(app_).Command1_Click(); }); });
+            &QPushButton::clicked, this, &WelcomeWindow::generateWebpages);
     connect(addButton(*side, QStringLiteral("PreviewSite"), QStringLiteral("Preview Site")),
             &QPushButton::clicked, this, &WelcomeWindow::previewSite);
     connect(addButton(*side, QStringLiteral("Command7"), QStringLiteral("E&xit")), &QPushButton::clicked,
             this, &QWidget::close);
     columns->addLayout(side);
+}
+
+void WelcomeWindow::makeMenus() {
+    layout()->setMenuBar(menus_);
+    QMenu& file = *menus_->addMenu(QStringLiteral("&File"));
+    menus_->add(file, QStringLiteral("&Select Game..."), QStringLiteral("Ctrl+O"),
+                [this] { gameWindow().selectGame(); });
+    menus_->add(file, QStringLiteral("&Import Game"), QStringLiteral("Ctrl+I"),
+                [this] { gameWindow().importGame(); });
+    menus_->add(file, QStringLiteral("Import &Folder..."), QStringLiteral("Ctrl+Shift+O"),
+                [this] { gameWindow().importFolder(); });
+    file.addSeparator();
+    menus_->add(file, QStringLiteral("&Quit"), QStringLiteral("Ctrl+Q"), [this] { close(); });
+    QMenu& league = *menus_->addMenu(QStringLiteral("&League"));
+    menus_->add(league, QStringLiteral("&Generate Webpages"), QStringLiteral("Ctrl+G"),
+                [this] { generateWebpages(); });
+    menus_->add(league, QStringLiteral("&Preview Site"), {}, [this] { previewSite(); });
+    QMenu& view = *menus_->addMenu(QStringLiteral("&View"));
+    addWindowsTo(view);
+    view.addSeparator();
+    menus_->add(view, QStringLiteral("Read &Again"), QStringLiteral("F5"),
+                [this] { app_.windows().renewOpen(); });
+    QMenu& help = *menus_->addMenu(QStringLiteral("&Help"));
+    menus_->add(help, QStringLiteral("&About Iceline Scorebook"), {}, [this] {
+        app_.platform().say("Iceline Scorebook " ICELINE_VERSION "\n\nKeeps the books of a hockey league.");
+    });
+}
+
+/// The first nine windows have a digit's key.
+void WelcomeWindow::addWindowsTo(QMenu& menu) {
+    constexpr int Digits = 9;
+    int number = 0;
+    for (const CatalogueRow& row : windowCatalogue()) {
+        ++number;
+        const QString key = number <= Digits ? QStringLiteral("Ctrl+%1").arg(number) : QString();
+        menus_->add(menu, toQt(row.entry), key, [this, id = row.id] { windows_.open(id); });
+    }
+}
+
+StatExtractorWindow& WelcomeWindow::gameWindow() {
+    windows_.open(WindowId::StatExtractor);
+    return static_cast<StatExtractorWindow&>(*windows_.window(WindowId::StatExtractor));
+}
+
+void WelcomeWindow::generateWebpages() {
+    guarded(this, [this] { iceline::WelcomeWindow(app_).Command1_Click(); });
 }
 
 QPushButton* WelcomeWindow::addButton(QLayout& layout, const QString& name, const QString& caption) {

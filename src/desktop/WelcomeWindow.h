@@ -1,5 +1,6 @@
 #pragma once
 
+#include "desktop/MainMenu.h"
 #include "desktop/PreviewServer.h"
 #include "desktop/ScrolledPage.h"
 #include "desktop/WindowManager.h"
@@ -14,8 +15,10 @@ class QPushButton;
 
 namespace iceline::desktop {
 
-/// The main window: the catalogue of the other windows, "Generate Webpages", "Preview Site" and "E&xit". It
-/// waits hidden until the splash window has rolled its credits.
+class StatExtractorWindow;
+
+/// The main window: menus, the catalogue of the other windows, "Generate Webpages", "Preview Site" and
+/// "E&xit". It waits hidden until the splash window has rolled its credits.
 class WelcomeWindow : public QWidget {
     Q_OBJECT
 
@@ -31,10 +34,17 @@ protected:
 
 private:
     void layOut();
+    void makeMenus();
+    void addWindowsTo(QMenu& menu);
     QListWidget* makeCatalogue();
     QFrame* makeTrophies();
     QPushButton* addButton(QLayout& layout, const QString& name, const QString& caption);
     void openRow(QListWidgetItem* row);
+
+    /// The game window, opened or brought to the front.
+    StatExtractorWindow& gameWindow();
+
+    void generateWebpages();
 
     /// Shows the site in the browser.
     void previewSite();
@@ -43,6 +53,7 @@ private:
     PreviewServer& preview_;
     WindowManager windows_;
     ScrolledPage page_{this};
+    MainMenu* menus_;
     QTimer timer1_{this};
 };
 

@@ -1,9 +1,12 @@
 #include "desktop/WelcomeWindow.h"
 
 #include "DesktopTest.h"
+#include "User.h"
+#include "samples/SaveStateWriter.h"
 #include "support/TemporaryFolder.h"
 
 #include <QDesktopServices>
+#include <QTest>
 
 namespace iceline::desktop {
 namespace {
@@ -34,6 +37,31 @@ TEST_F(WelcomeWindowTest, GeneratesTheWebpages) {
     EXPECT_THAT(league.said(), testing::ElementsAre("All Webpages have been generated and are located in the "
                                                     "IcelineWebpages directory."));
     EXPECT_TRUE(league.files.isFile("IcelineWebPages/index.htm"));
+}
+
+TEST_F(WelcomeWindowTest, IsWorkedByKeysFromAnyWindow) {
+    const auto inFront = [](const char* name) -> QWidget& {
+        QWidget* shown = shownWindow(name);
+        if (!shown || !QTest::qWaitForWindowActive(shown))
+            throw std::logic_error(std::string("not in front: ") + name);
+        return *shown;
+    };
+    window.show();
+    QTest::keyClick(&inFront("WelcomeWindow"), Qt::Key_3, Qt::ControlModifier);
+    QWidget& team = inFront("TeamStats");
+    choose(team, "TeamSelect", 0);
+    TeamRecord record;
+    record.Wins = 7;
+    league.setRecord(TeamIndex(0), PartOfYear::Season, record);
+    QTest::keyClick(&team, Qt::Key_F5);
+    EXPECT_EQ(text(team, "Wins"), "7");
+    league.files.files["game.gs0"] = saveStateBytes(GameSheet(TeamIndex(0), TeamIndex(10)));
+    league.platform.chosen.push_back("game.gs0");
+    QTest::keyClick(&team, Qt::Key_O, Qt::ControlModifier);
+    QWidget& game = inFront("StatExtractor");
+    EXPECT_EQ(text(game, "FileName"), "game.gs0");
+    QTest::keyClick(&game, Qt::Key_Escape);
+    EXPECT_FALSE(league.app.windows().isLoaded(WindowId::StatExtractor));
 }
 
 TEST_F(WelcomeWindowTest, ShowsTheSiteInABrowser) {
