@@ -20,6 +20,7 @@ from canvas import write_gif, write_ico, write_png
 
 RESOURCES = Path(__file__).resolve().parent.parent
 FAVICON_SIZES = (16, 32, 48)
+TOUCH_ICON = 180
 ICON_SIZES = (16, 22, 24, 32, 48, 64, 128, 256)
 LOGO, BIG_LOGO = 96, 160
 
@@ -45,6 +46,19 @@ HEADERS = {
 }
 
 
+def names_of_pictures(teams):
+    """The style sheet that gives the teams' pictures their names, which the pages' own markup does not."""
+    rules = ["/* What the pictures of the teams show, for who cannot see them; draw.py writes this file. */"]
+    for team in teams:
+        full = f'{team["city"]} {team["name"]}'
+        for folder, name in (("LogoMinis", team.get("short", team["city"])),
+                             ("BannerMinis", team.get("short", team["city"])), ("BigBanners", full)):
+            if team["abbr"] != "ALL":
+                file = f'{folder}/{team["abbr"]}.gif'
+                rules.append(f'img[src$="{file}"]:not([alt]) {{\n  content: url("{file}") / "{name}";\n}}')
+    return "\n\n".join(rules) + "\n"
+
+
 def draw_site(teams, site):
     for name, title in HEADERS.items():
         write_gif(pictures.header(title), site / "Headers" / f"{name}.gif")
@@ -61,6 +75,9 @@ def draw_site(teams, site):
         write_gif(figures.card(name), site / "PlayerCards" / f"{name}.gif")
     write_ico([icon.png(size) for size in FAVICON_SIZES], site / "favicon.ico")
     (site / "favicon.svg").write_text(icon.svg())
+    write_png(icon.png(TOUCH_ICON), site / "apple-touch-icon.png")
+    write_png(pictures.preview(), site / "preview.png")
+    (site / "crests.css").write_text(names_of_pictures(teams))
 
 
 def window_pictures(teams):

@@ -122,3 +122,19 @@ def league_logo(density=1):
     pen.poly(RED, (55, 143), (247, 143), (245, 149), (53, 149))
     write(pen, "HOCKEY LEAGUE", ICE, (60, 160, 180, 14), 14, gap=1.8)
     return canvas.image()
+
+
+def preview():
+    """What a message that links to the site shows: the league's logo on the ground of its section headers."""
+    width, height = 1200, 630
+    canvas = Canvas(width, height)
+    pen = Pen(canvas.context)
+    pen.rect(DEEP, 0, 0, width, height)
+    for x in (40, width - 250):
+        for offset, colour in ((0, ICE), (45, RED), (90, ICE)):
+            _slash(pen, colour, x + offset - 120, 24, height)
+    logo_width, logo_height = 900, 600
+    picture = league_logo(density=3).resize((logo_width, logo_height))
+    ground = canvas.image()
+    ground.alpha_composite(picture, ((width - logo_width) // 2, (height - logo_height) // 2))
+    return ground

@@ -1,7 +1,12 @@
 #include "app/WelcomeWindow.h"
 #include "cli/Command.h"
+#include "site/SiteSettings.h"
 #include "site/SiteTemplate.h"
 #include "store/LeaguePaths.h"
+
+#include <algorithm>
+#include <fmt/core.h>
+#include <optional>
 
 namespace iceline::cli {
 
@@ -25,6 +30,33 @@ Status publish(Session& session, const NoArguments&) {
     });
 }
 
+struct SettingArguments {
+    std::optional<std::string> key;
+    std::optional<std::string> value;
+};
+
+Status siteSettings(Session& session, const SettingArguments& arguments) {
+    SiteSettings settings = readSiteSettings(session.app().files());
+    if (!arguments.key) {
+        for (const SiteSetting& setting : AllSiteSettings)
+            session.out() << fmt::format("{:<12} {}\n", setting.key, settings.*setting.value);
+        return Status::Done;
+    }
+    const auto setting = std::ranges::find(AllSiteSettings, *arguments.key, &SiteSetting::key);
+    if (setting == AllSiteSettings.end())
+        throw UsageError("there is no setting '" + *arguments.key +
+                         "'; there are name, address and description");
+    if (!arguments.value) {
+        session.out() << settings.*setting->value << '\n';
+        return Status::Done;
+    }
+    if (const auto problem = settingProblem(setting->key, *arguments.value))
+        throw UsageError(*problem);
+    settings.*setting->value = *arguments.value;
+    changeSiteSettings(session.app(), settings);
+    return Status::Done;
+}
+
 } // namespace
 
 void addLeagueCommands(CLI::App& program, Call& call) {
@@ -32,6 +64,10 @@ void addLeagueCommands(CLI::App& program, Call& call) {
                "Create what the league lacks, and bring the site's files up to date that it has not changed",
                init);
     addCommand(program, call, "publish", "Rewrite the whole web site from the league's files", publish);
+    const auto [command, arguments] = addCommand<SettingArguments>(
+        program, call, "site-settings", "Show what the site tells of the league, or set it", siteSettings);
+    command->add_option("KEY", arguments->key, "name, address or description")->type_name("");
+    command->add_option("VALUE", arguments->value, "the new value; \"\" for none")->type_name("");
 }
 
 } // namespace iceline::cli

@@ -3,6 +3,7 @@
 #include "text/Names.h"
 
 #include <algorithm>
+#include <fmt/core.h>
 #include <initializer_list>
 #include <utility>
 
@@ -39,6 +40,16 @@ std::string playerFileName(std::string_view name) {
     std::string fileName(name);
     std::ranges::replace_if(fileName, isForbiddenInFileNames, '_');
     return fileName;
+}
+
+std::string linkText(std::string_view path) {
+    std::string link;
+    for (const char c : path) {
+        const bool plain = (c >= '0' && c <= '9') || (c >= 'A' && c <= 'Z') || (c >= 'a' && c <= 'z') ||
+                           std::string_view("-._~/").find(c) != std::string_view::npos;
+        link += plain ? std::string(1, c) : fmt::format("%{:02X}", static_cast<unsigned char>(c));
+    }
+    return link;
 }
 
 } // namespace iceline

@@ -17,4 +17,8 @@ std::string linked(std::string_view fileName);
 /// file system refuses becomes "_".
 std::string playerFileName(std::string_view name);
 
+/// A path within the site as part of a link: bytes other than letters, digits and -._~/ as percent signs and
+/// two digits.
+std::string linkText(std::string_view path);
+
 } // namespace iceline

@@ -5,6 +5,7 @@
 #include "shell/Application.h"
 #include "site/ReadCache.h"
 #include "site/SiteData.h"
+#include "site/SiteFeed.h"
 #include "site/SiteTemplate.h"
 #include "store/LeaguePaths.h"
 
@@ -89,6 +90,8 @@ public:
         if (!progress_.next("data/"))
             return false;
         writeSiteData(app_);
+        writeFeedAndMap(app_.files(), readSiteSettings(app_.files()),
+                        std::chrono::floor<std::chrono::seconds>(std::chrono::system_clock::now()));
         return true;
     }
 

@@ -42,6 +42,15 @@ int seasonGames(const ApplicationState& state) {
     return teamGames / 2;
 }
 
+/// A link as markup holds it, without its entities.
+std::string plainLink(std::string_view link) {
+    constexpr std::string_view Ampersand = "&amp;";
+    std::string plain(link);
+    for (std::size_t at = plain.find(Ampersand); at != std::string::npos; at = plain.find(Ampersand, at + 1))
+        plain.replace(at, Ampersand.size(), "&");
+    return plain;
+}
+
 /// The part of the year is not in the list, and neither does the kind tell it: the season's games come first.
 void writeGames(Files& files, const ApplicationState& state) {
     const std::string list = paths::page("BoxScores.htm");
@@ -55,7 +64,7 @@ void writeGames(Files& files, const ApplicationState& state) {
         table.text(season ? "season" : counts ? "playoffs" : "");
         table.text(game.away).number(numberOf(game.awayGoals));
         table.text(game.home).number(numberOf(game.homeGoals));
-        table.text(markup("BoxScores/{}", game.page)).blank().endRow();
+        table.text("BoxScores/" + plainLink(game.page)).blank().endRow();
     }
     writeData(files, "games", table);
 }
@@ -159,17 +168,6 @@ void writeRecords(Files& files, PartOfYear part) {
         }
     }
     writeData(files, ofPart(part, "records"), table);
-}
-
-/// A name as part of a link: bytes other than letters, digits and -._~ as percent signs and two digits.
-std::string linkText(std::string_view name) {
-    std::string link;
-    for (const char c : name) {
-        const bool plain = (c >= '0' && c <= '9') || (c >= 'A' && c <= 'Z') || (c >= 'a' && c <= 'z') ||
-                           std::string_view("-._~").find(c) != std::string_view::npos;
-        link += plain ? std::string(1, c) : fmt::format("%{:02X}", static_cast<unsigned char>(c));
-    }
-    return link;
 }
 
 /// A player's page as a link from the site's root.

@@ -1,6 +1,7 @@
 #include "site/SiteTemplate.h"
 
 #include "files/JournalFormat.h"
+#include "site/SiteSettings.h"
 #include "store/LeaguePaths.h"
 
 #include <algorithm>
@@ -65,6 +66,7 @@ public:
             return {};
         for (const auto& [path, sum] : readVersions(league_, DeliveredVersions))
             delivered_[path] = sum;
+        settings_ = readSiteSettings(league_);
         const auto before = delivered_;
         updateFolder("");
         if (delivered_ != before)
@@ -85,7 +87,7 @@ private:
     }
 
     void updateFile(const std::string& path) {
-        const std::string content = template_.read(path);
+        const std::string content = withPreview(settings_, path, template_.read(path));
         const std::uint64_t sum = checksum(content);
         const auto known = delivered_.find(path);
         const bool wasDelivered = known != delivered_.end();
@@ -120,6 +122,7 @@ private:
 
     Files& template_;
     Files& league_;
+    SiteSettings settings_;
     RemovedFiles removed_;
     bool makesFolders_;                              ///< those that hold no file, too
     std::map<std::string, std::uint64_t> delivered_; ///< by path within the site

@@ -83,6 +83,23 @@ TEST_F(CliLeagueTest, InitCopiesWhatIsMissingOfTheTemplateAndKeepsTheRest) {
     EXPECT_TRUE(fs::exists(league() / "IcelineWebPages/BigLogos/WPG.gif"));
 }
 
+TEST_F(CliLeagueTest, SiteSettingsAreToldByThePages) {
+    EXPECT_EQ(iceline({"init"}).status, 0);
+    const std::string page = read("IcelineWebPages/index.html");
+    EXPECT_EQ(iceline({"site-settings", "name", "Ice & \"Line\""}).status, 0);
+    EXPECT_EQ(read("IcelineWebPages/index.html"), page);
+    const Outcome refused = iceline({"site-settings", "address", "example.org"});
+    EXPECT_NE(refused.status, 0);
+    EXPECT_THAT(refused.err, HasSubstr("must begin with https://"));
+    EXPECT_EQ(iceline({"site-settings", "address", "https://example.org/ice/"}).status, 0);
+    EXPECT_THAT(read("IcelineWebPages/index.html"),
+                AllOf(HasSubstr("og:title\" content=\"Ice &amp; &quot;Line&quot;\""),
+                      HasSubstr("og:url\" content=\"https://example.org/ice/\"")));
+    EXPECT_EQ(iceline({"site-settings", "name"}).out, "Ice & \"Line\"\n");
+    write("Site Settings.json", "{\"nmae\": \"x\"}");
+    EXPECT_THAT(iceline({"site-settings"}).err, HasSubstr("Site Settings.json: there is no setting 'nmae'"));
+}
+
 TEST_F(CliLeagueTest, AMalformedSeasonLengthEndsTheRun) {
     write("Games Until Playoffs.txt", "");
     const Outcome emptied = iceline({"coach", "list"});

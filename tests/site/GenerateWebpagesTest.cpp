@@ -178,9 +178,13 @@ TEST(GenerateWebpages, LeavesPlayoffGamesInTheTeamTable) {
 
 TEST(GenerateWebpages, LeavesEveryPageAloneWhenNothingHasChanged) {
     TestLeague league;
+    league.files.files["Site Settings.json"] = R"({"name": "A", "address": "http://a.example/b/"})";
     publish(league.app);
     const auto before = siteOf(league.files);
     const int writes = league.files.writes;
+    EXPECT_EQ(before.count("feed.xml"), 0u); // no games to tell of
+    EXPECT_THAT(before.at("sitemap.xml"),
+                HasSubstr("<url><loc>http://a.example/b/TStats/BOS.htm</loc></url>"));
 
     publish(league.app);
     EXPECT_EQ(league.files.writes, writes);
@@ -231,6 +235,10 @@ TEST(GenerateWebpages, WritesTheGamesAndWhereNamesLeadAsData) {
             number, kind);
     };
     league.files.append(paths::page("BoxScores.htm"), row(7, 'S') + "<tr><td><b>by hand\r\n" + row(9, 'E'));
+    league.files.files["Site Settings.json"] = R"({"name": "A & B", "address": "http://a.example/"})";
+    league.files.files[paths::page("feed.xml")] =
+        "<id>http://a.example/</id><entry>\n<id>http://a.example/BoxScores/a%2C b.htm#7</id>\n"
+        "<updated>2020-01-02T03:04:05Z</updated>";
     TeamRecord record;
     record.GP = 1;
     league.setRecord(BOS, PartOfYear::Season, record);
@@ -248,6 +256,10 @@ TEST(GenerateWebpages, WritesTheGamesAndWhereNamesLeadAsData) {
         "[7, \"S\", \"season\", \"BOS\", 3, \"ASW\", 12, \"BoxScores/a%2C b.htm\", null],\n"
         "[9, \"E\", \"\", \"BOS\", 3, \"ASW\", 12, \"BoxScores/a%2C b.htm\", null]\n]}\n");
     EXPECT_THAT(league.page("data/games.csv"), HasSubstr("\r\n9,E,,BOS,3,ASW,12,BoxScores/a%2C b.htm,\r\n"));
+    EXPECT_THAT(
+        league.page("feed.xml"),
+        HasSubstr(
+            "#7</id>\n<updated>2020-01-02T03:04:05Z</updated>\n<title>Boston Bruins 3, All-Stars West 12<"));
     EXPECT_THAT(league.page("data/search.json"),
                 HasSubstr("[\"Jean \\\\ de \xc3\xa9t\xc3\xa9\", \"player\", \"BOS\", "
                           "\"Profiles/BOS/Jean%20_%20de%20%C3%A9t%C3%A9.htm\"]"));

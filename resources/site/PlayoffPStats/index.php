@@ -9,6 +9,7 @@
 <link rel="stylesheet" href="../styles.css">
 <link rel="stylesheet" href="../landing.css">
 <link rel="icon" href="../favicon.svg" type="image/svg+xml">
+<link rel="apple-touch-icon" href="../apple-touch-icon.png">
 <!-- A host without PHP sends this page, and a browser takes the line of PHP for a comment. -->
 <script src="../to-team.js"></script>
 </head>

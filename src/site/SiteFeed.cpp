@@ -1,0 +1,115 @@
+#include "site/SiteFeed.h"
+
+#include "league/TeamTable.h"
+#include "page/BoxScoreList.h"
+#include "page/PageFrame.h"
+#include "page/PageNames.h"
+#include "store/LeaguePaths.h"
+
+#include <algorithm>
+#include <cstddef>
+#include <map>
+
+namespace iceline {
+
+namespace {
+
+constexpr std::ptrdiff_t GamesInFeed = 20;
+
+std::string timeText(std::chrono::sys_seconds time) {
+    const auto days = std::chrono::floor<std::chrono::days>(time);
+    const std::chrono::year_month_day date(days);
+    const std::chrono::hh_mm_ss clock(time - days);
+    return fmt::format("{:04}-{:02}-{:02}T{:02}:{:02}:{:02}Z", static_cast<int>(date.year()),
+                       static_cast<unsigned>(date.month()), static_cast<unsigned>(date.day()),
+                       clock.hours().count(), clock.minutes().count(), clock.seconds().count());
+}
+
+/// The times of the games in a feed, by their entries' ids.
+std::map<std::string, std::string> timesIn(std::string_view feed) {
+    constexpr std::string_view Id = "<entry>\n<id>";
+    constexpr std::string_view Updated = "</id>\n<updated>";
+    std::map<std::string, std::string> times;
+    for (std::size_t at = feed.find(Id); at != std::string_view::npos; at = feed.find(Id, at)) {
+        at += Id.size();
+        const std::size_t idEnd = feed.find(Updated, at);
+        const std::size_t end = feed.find("</updated>", at);
+        if (idEnd < end && end != std::string_view::npos)
+            times.emplace(feed.substr(at, idEnd - at),
+                          feed.substr(idEnd + Updated.size(), end - idEnd - Updated.size()));
+    }
+    return times;
+}
+
+std::string_view fullName(std::string_view abbr) {
+    const auto team = std::ranges::find(TeamAbbr, abbr);
+    const auto index = static_cast<std::size_t>(team - TeamAbbr.begin());
+    return index < TeamName.size() ? TeamName[TeamIndex(static_cast<int>(index))] : abbr;
+}
+
+/// There is a game at least.
+std::string feedText(const SiteSettings& settings, const std::vector<ListedGame>& games,
+                     const std::map<std::string, std::string>& known, const std::string& now) {
+    const std::string address = xmlText(settings.address);
+    PageText entries;
+    std::string latest;
+    for (auto game = games.rbegin(); game != games.rend() && game - games.rbegin() < GamesInFeed; ++game) {
+        const std::string page = markup("{}BoxScores/{}", address, game->page);
+        const std::string id = markup("{}#{}", page, game->number);
+        const auto told = known.find(id);
+        const std::string& time = told != known.end() ? told->second : now;
+        latest = std::max(latest, time);
+        entries.add("<entry>\n<id>{}</id>\n<updated>{}</updated>\n", id, time);
+        entries.add("<title>{} {}, {} {}</title>\n", fullName(game->away), game->awayGoals,
+                    fullName(game->home), game->homeGoals);
+        entries.add("<link href=\"{}\"/>\n</entry>\n", page);
+    }
+    PageText feed;
+    feed.add("<?xml version=\"1.0\" encoding=\"utf-8\"?>\n<feed xmlns=\"http://www.w3.org/2005/Atom\">\n");
+    feed.add("<id>{}</id>\n<title>{}</title>\n<updated>{}</updated>\n", address, xmlText(settings.name),
+             latest);
+    feed.add("<author><name>{}</name></author>\n<link href=\"{}\"/>\n", xmlText(settings.name), address);
+    feed.add("<link rel=\"self\" href=\"{}feed.xml\"/>\n{}</feed>\n", address, entries.text());
+    return feed.text();
+}
+
+void addPages(PageText& map, Files& files, const std::string& address, const std::string& folder) {
+    const std::string path = folder.empty() ? paths::WebRoot : paths::page(folder);
+    const std::string prefix = folder.empty() ? "" : folder + "/";
+    for (const std::string& name : files.filesIn(path))
+        if (name.ends_with(".htm"))
+            map.add("<url><loc>{}{}</loc></url>\n", address, linkText(prefix + name));
+    for (const std::string& name : files.foldersIn(path))
+        addPages(map, files, address, prefix + name);
+}
+
+void writeFeed(Files& files, const SiteSettings& settings, std::chrono::sys_seconds now) {
+    const std::string feed = paths::page("feed.xml");
+    const std::string list = paths::page("BoxScores.htm");
+    const std::string listText = files.isFile(list) ? files.read(list) : "";
+    const std::vector<ListedGame> games = listedGames(listText);
+    if (games.empty())
+        return;
+    const std::string before = files.isFile(feed) ? files.read(feed) : "";
+    writePage(files, feed, feedText(settings, games, timesIn(before), timeText(now)));
+}
+
+void writeMap(Files& files, const SiteSettings& settings) {
+    PageText map;
+    map.add("<?xml version=\"1.0\" encoding=\"utf-8\"?>\n"
+            "<urlset xmlns=\"http://www.sitemaps.org/schemas/sitemap/0.9\">\n");
+    addPages(map, files, xmlText(settings.address), "");
+    map.add("</urlset>\n");
+    writePage(files, paths::page("sitemap.xml"), map.text());
+}
+
+} // namespace
+
+void writeFeedAndMap(Files& files, const SiteSettings& settings, std::chrono::sys_seconds now) {
+    if (settings.name.empty() || settings.address.empty())
+        return;
+    writeFeed(files, settings, now);
+    writeMap(files, settings);
+}
+
+} // namespace iceline
