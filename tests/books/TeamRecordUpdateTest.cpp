@@ -1,11 +1,11 @@
 #include "books/TeamRecordUpdate.h"
 
 #include "support/ErrorMessage.h"
+#include "support/NumberedRecord.h"
 
 #include <gmock/gmock.h>
 
 #include <limits>
-#include <vector>
 
 namespace iceline {
 namespace {
@@ -21,74 +21,87 @@ GameSheet game(TeamIndex home, int homeGoals, TeamIndex away, int awayGoals) {
     return sheet;
 }
 
+/// A game whose figures all differ.
+GameSheet busyGame(TeamIndex home, int homeGoals, TeamIndex away) {
+    GameSheet sheet = game(home, homeGoals, away, 1);
+    const auto set = [](TeamSheet& team, const TeamFigures& figures, const std::array<int, 8>& secondBlock) {
+        const int goals = team.Goals;
+        static_cast<TeamFigures&>(team) = figures;
+        team.Goals = goals;
+        constexpr std::array Fields{&TeamSheet::PPAux,     &TeamSheet::AuxFor,   &TeamSheet::PairAAtt,
+                                    &TeamSheet::PairAMade, &TeamSheet::PairBAtt, &TeamSheet::PairBMade,
+                                    &TeamSheet::PairCAtt,  &TeamSheet::PairCMade};
+        for (std::size_t field = 0; field < Fields.size(); ++field)
+            team.*Fields[field] = secondBlock[field];
+    };
+    set(sheet.home,
+        {.Shots = 31,
+         .PPG = 2,
+         .PPA = 5,
+         .Penalties = 3,
+         .PenM = 9,
+         .AttackZone = 605,
+         .FaceoffsWon = 20,
+         .BodyChecks = 11,
+         .PassAtt = 90,
+         .PassComp = 61},
+        {4, 6, 8, 7, 12, 10, 14, 13});
+    set(sheet.away,
+        {.Shots = 25,
+         .PPG = 1,
+         .PPA = 16,
+         .Penalties = 17,
+         .PenM = 18,
+         .AttackZone = 300,
+         .FaceoffsWon = 21,
+         .BodyChecks = 22,
+         .PassAtt = 88,
+         .PassComp = 23},
+        {24, 26, 28, 27, 31, 29, 33, 32});
+    sheet.awayPPTime = 131;
+    sheet.crowdMeter = 97;
+    return sheet;
+}
+
 TeamRecord after(const GameSheet& sheet, Side side, TeamRecord record = {}, bool overtime = false,
                  RecordHolder holder = RecordHolder::Team) {
     updateTeamRecord(record, sheet, side, overtime, holder);
     return record;
 }
 
-TEST(TeamRecordUpdate, AHomeWinMovesTheHomeFieldsOfTheOneAndTheAwayFieldsOfTheOther) {
-    const GameSheet sheet = game(Boston, 3, Montreal, 2);
-    const TeamRecord home = after(sheet, Side::Home);
-    EXPECT_EQ(home.Wins, 1);
-    EXPECT_EQ(home.HW, 1);
-    EXPECT_EQ(home.Points, 2);
-    EXPECT_EQ(home.GP, 1);
-    EXPECT_EQ(home.HGP, 1);
-    EXPECT_EQ(home.GameCount, 1);
-    EXPECT_EQ(home.GF, 3);
-    EXPECT_EQ(home.HGF, 3);
-    EXPECT_EQ(home.HGA, 2);
-    EXPECT_EQ(home.AGP, 0);
-    EXPECT_EQ(home.AGF, 0);
-    EXPECT_EQ(home.SameConfW, 1);
-    EXPECT_EQ(home.OTGP, 0);
-    EXPECT_EQ(home.HWinPercent, 1);
-    EXPECT_EQ(home.PowerRanking, 2);     // 1 + 2/2 x 1
-    EXPECT_EQ(home.HomePowerRanking, 2); // the same at home
-    EXPECT_EQ(home.AwayPowerRanking, 0);
-
-    const TeamRecord away = after(sheet, Side::Away);
-    EXPECT_EQ(away.Losses, 1);
-    EXPECT_EQ(away.AL, 1);
-    EXPECT_EQ(away.HL, 0);
-    EXPECT_EQ(away.Points, 0);
-    EXPECT_EQ(away.GA, 3);
-    EXPECT_EQ(away.AGA, 3);
-    EXPECT_EQ(away.AGP, 1);
-    EXPECT_EQ(away.HGP, 0);
-    EXPECT_EQ(away.SameConfL, 1);
-    EXPECT_EQ(away.AwayDiff, -1);
-    EXPECT_EQ(away.HomeDiff, 0);
-    EXPECT_EQ(away.PowerRanking, 0);
-}
-
-TEST(TeamRecordUpdate, AnOvertimeTieCountsInPointsAndInOvertime) {
-    TeamRecord before;
-    before.GP = before.Wins = before.OTGP = before.OTW = 1;
-    before.Points = 2;
-    before.OTWPct = 1;
-    const GameSheet sheet = game(Boston, 2, Calgary, 2);
-    for (const Side side : {Side::Home, Side::Away}) {
-        const TeamRecord record = after(sheet, side, before, true);
-        EXPECT_EQ(record.Ties, 1);
-        EXPECT_EQ(record.Points, 3);
-        EXPECT_EQ(record.OTGP, 2);
-        EXPECT_EQ(record.OTT, 1);
-        EXPECT_EQ(record.OTWPct, 0.5);
-        EXPECT_EQ(record.WinPercent, 0.5);
-        EXPECT_EQ(record.OtherConfT, 1);
-        EXPECT_EQ(record.SameConfT, 0);
-    }
-    EXPECT_EQ(after(sheet, Side::Home, before).OTGP, 1) << "a game without overtime moves no overtime field";
-}
-
-TEST(TeamRecordUpdate, AnOvertimeLossBringsNoPoint) {
-    const TeamRecord record = after(game(Boston, 1, Calgary, 2), Side::Home, {}, true);
-    EXPECT_EQ(record.OTL, 1);
-    EXPECT_EQ(record.Losses, 1);
-    EXPECT_EQ(record.Points, 0);
-    EXPECT_EQ(record.OtherConfL, 1);
+/// A game on top of a line in which every field holds its own place, 1 to 113, and a real number a half more.
+/// All that the game does not move stays, and hardly a quotient is even.
+TEST(TeamRecordUpdate, AGameMovesTheseFieldsOfTheLine) {
+    auto before = test::numberedRecord<TeamRecord>();
+    before.ArenaMeter = CrowdMeterAtStart;
+    EXPECT_EQ(lineOf("", after(busyGame(Boston, 3, Montreal), Side::Home, before)),
+              R"(2,2,3,6,0.286,7,10,9,1.43,1.29,0.14,2.06,14,"",16,16,17,19,0.842,23,22,1.21,1.16,)"
+              R"(0.05,16.06,26,27,28,29,30.5,31,32,33.5,34.5,-1,24.62,37,38,39,40,41,42,43.5,44,76,)"
+              R"(10.9,72,10.3,13.2,52,7.4,57,8.1,91.2,55,56.5,0,62,8.9,63,9,71.5,10.2,81.5,11.6,84.5,)"
+              R"(12.1,69,9.9,86,12.3,19.8,79,11.3,101.5,14.5,84,12,87,12.4,96.6,92,13.1,96,13.7,95.8,)"
+              R"(100,14.3,103,14.7,97.1,697,99.5714285714286,"1:40",115,16.4,138,19.7,83.3,111,15.9,)"
+              R"(163,23.3,194,27.7,84,97,109.5,109.5,110.5,111.5,112.5,113.5)"
+              "\r\n")
+        << "a team wins at home within its conference";
+    EXPECT_EQ(
+        lineOf("", after(busyGame(Calgary, 3, Montreal), Side::Away, before, true, RecordHolder::Coach)),
+        R"(1,3,3,4,0.143,7,8,11,1.14,1.57,-0.43,0.88,14,"L",15,16,17,18,19.5,20,21,22.5,23.5,)"
+        R"(-1,13.69,26,28,28,30,0.867,32,35,1.07,1.17,-0.1,25.87,37,38,39,40,42,42,0.889,45,70,)"
+        R"(10,78,11.1,11.4,51,7.3,68,9.7,75,186,26.6,"0:27",82,11.7,77,11,80.5,11.5,67.5,9.6,)"
+        R"(75.5,10.8,70,10,75,10.7,6.7,99,14.1,75.5,76.5,104,14.9,107,15.3,97.2,111,15.9,115,)"
+        R"(16.4,96.5,119,17,122,17.4,97.5,392,56,"0:56",116,16.6,138,19.7,84.1,122,17.4,125,)"
+        R"(17.9,192,27.4,65.1,80,108.5,109.5,110.5,111.5,113.5,113.5)"
+        "\r\n")
+        << "a coach loses away, in overtime, against the other conference";
+    EXPECT_EQ(lineOf("", after(busyGame(Boston, 1, Calgary), Side::Home, before, true)),
+              R"(1,2,4,5,0.143,7,8,9,1.14,1.29,-0.15,0.95,14,"",15,16,18,19,0.789,21,22,1.11,1.16,)"
+              R"(-0.05,14.94,26,27,28,29,30.5,31,32,33.5,34.5,-1,24.62,37,38,39,40,41,43,0.889,45,76,)"
+              R"(10.9,72,10.3,10.5,52,7.4,57,8.1,91.2,55,56.5,0,62,8.9,63,9,71.5,10.2,81.5,11.6,84.5,)"
+              R"(12.1,69,9.9,86,12.3,19.8,79,11.3,101.5,14.5,84,12,87,12.4,96.6,92,13.1,96,13.7,95.8,)"
+              R"(100,14.3,103,14.7,97.1,697,99.5714285714286,"1:40",115,16.4,138,19.7,83.3,111,15.9,)"
+              R"(163,23.3,194,27.7,84,97,108.5,109.5,110.5,111.5,112.5,114.5)"
+              "\r\n")
+        << "a team ties at home, in overtime, against the other conference";
 }
 
 TEST(TeamRecordUpdate, APowerRankingRoundsATieToTheEvenDigit) {
@@ -105,178 +118,33 @@ TEST(TeamRecordUpdate, APowerRankingRoundsATieToTheEvenDigit) {
     EXPECT_EQ(record.WinPercent, 0.25);
 }
 
-TEST(TeamRecordUpdate, TheFieldsOfTheOtherLocationAreRenewedFromTheirOwnGames) {
-    TeamRecord before;
-    before.GP = before.AGP = 2;
-    before.AW = before.AT = 1;
-    before.AGFA = 4.5;
-    before.AGAA = 2.25;
-    const TeamRecord record = after(game(Boston, 1, Montreal, 1), Side::Home, before);
-    EXPECT_EQ(record.AwayDiff, 2.25);
-    EXPECT_EQ(record.AwayPowerRanking, 2.69); // 1 + 3 / 4 x 2.25 = 2.6875
-    EXPECT_EQ(record.AGP, 2);
-}
-
-GameSheet busyGame() {
-    GameSheet sheet = game(Boston, 3, Montreal, 1);
-    sheet.home.Shots = 30;
-    sheet.home.PPG = 1;
-    sheet.home.PPA = 3;
-    sheet.home.Penalties = 3;
-    sheet.home.PenM = 9;
-    sheet.home.AttackZone = 605;
-    sheet.home.FaceoffsWon = 20;
-    sheet.home.BodyChecks = 11;
-    sheet.home.PassAtt = 90;
-    sheet.home.PassComp = 61;
-    sheet.home.PPAux = 4;
-    sheet.home.AuxFor = 5;
-    sheet.home.PairAAtt = 3;
-    sheet.home.PairAMade = 2;
-    sheet.away.Shots = 25;
-    sheet.away.PPG = 1;
-    sheet.away.PPA = 6;
-    sheet.away.Penalties = 4;
-    sheet.away.PenM = 8;
-    sheet.away.FaceoffsWon = 21;
-    sheet.away.AuxFor = 7;
-    sheet.awayPPTime = 131;
-    return sheet;
-}
-
-TEST(TeamRecordUpdate, EveryFigureOfTheGameIsSummedAndAveraged) {
-    TeamRecord before;
-    before.GP = 1;
-    before.GF = 1;
-    before.SOG = 21;
-    before.Pen = 2;
-    before.AttZone = 95;
-    const TeamRecord record = after(busyGame(), Side::Home, before);
-    EXPECT_EQ(record.SOG, 51);
-    EXPECT_EQ(record.SOGPG, 25.5);
-    EXPECT_EQ(record.SOGA, 25);
-    EXPECT_EQ(record.SOGAPG, 12.5);
-    EXPECT_EQ(record.SOGPct, 7.8); // 4 of 51
-    EXPECT_EQ(record.PPGPG, 0.5);
-    EXPECT_NEAR(record.PPPct, 33.3, 1e-9);
-    EXPECT_EQ(record.PPAux, 4);
-    EXPECT_EQ(record.Pen, 5);
-    EXPECT_EQ(record.PenPG, 2) << "2.5, held as a whole number";
-    EXPECT_EQ(record.PIM, 9);
-    EXPECT_EQ(record.PIMPG, 4.5);
-    EXPECT_EQ(record.PenA, 4);
-    EXPECT_EQ(record.PIMA, 8);
-    EXPECT_EQ(record.PKG, 1);
-    EXPECT_EQ(record.PKO, 6);
-    EXPECT_EQ(record.PKOPG, 3);
-    EXPECT_NEAR(record.PKPct, 83.3, 1e-9);
-    EXPECT_EQ(record.AuxFor, 5);
-    EXPECT_EQ(record.AuxAgainst, 7);
-    EXPECT_EQ(record.AuxAgainstPG, 3.5);
-    EXPECT_NEAR(record.PairAPct, 66.7, 1e-9);
-    EXPECT_EQ(record.PairBPct, 0);
-    EXPECT_EQ(record.AttZone, 700);
-    EXPECT_EQ(record.AttZoneSecPG, 350);
-    EXPECT_EQ(record.AttZonePG, "5:50");
-    EXPECT_EQ(record.FOW, 20);
-    EXPECT_EQ(record.FOT, 41);
-    EXPECT_NEAR(record.FOWPct, 48.8, 1e-9);
-    EXPECT_EQ(record.ByCksPG, 5.5);
-    EXPECT_NEAR(record.PassAcc, 67.8, 1e-9);
-    EXPECT_EQ(record.LastResult, "");
-    EXPECT_EQ(record.ArenaMeter, 80);
-}
-
-TEST(TeamRecordUpdate, UnevenAveragesAreRoundedEachToItsOwnDecimals) {
-    TeamRecord before;
-    before.GP = before.AGP = 2;
-    before.Wins = before.AW = 1;
-    before.GF = before.AGF = 4;
-    GameSheet sheet = busyGame();
-    sheet.away.Goals = 4;
-    sheet.away.AttackZone = 200;
-    const TeamRecord away = after(sheet, Side::Away, before, true);
-    EXPECT_EQ(away.GFA, 2.67);
-    EXPECT_EQ(away.AGFA, 2.67);
-    EXPECT_EQ(away.GAA, 1);
-    EXPECT_EQ(away.Diff, 1.67);
-    EXPECT_EQ(away.WinPercent, 0.667);
-    EXPECT_EQ(away.AWinPercent, 0.667);
-    EXPECT_EQ(away.SOGPG, 8.3);
-    EXPECT_EQ(away.SOGAPG, 10);
-    EXPECT_EQ(away.PPTimePG, 43.7);
-    EXPECT_EQ(away.PPTimePGText, RawItem::text("0:44"));
-    EXPECT_NEAR(away.AttZoneSecPG, 66.6667, 1e-4) << "not rounded";
-    EXPECT_EQ(away.AttZonePG, "1:07");
-    EXPECT_EQ(away.PenPG, 1) << "1.3, held as a whole number";
-    EXPECT_NEAR(away.PKPct, 66.7, 1e-9);
-    EXPECT_EQ(away.FOWPG, 7);
-    EXPECT_EQ(away.FOTPG, 13.7);
-}
-
-TEST(TeamRecordUpdate, EachPairOfTheSecondBlockGoesToItsOwnFields) {
-    GameSheet sheet = game(Boston, 3, Montreal, 1);
-    sheet.home.PairAMade = 1;
-    sheet.home.PairAAtt = 2;
-    sheet.home.PairBMade = 3;
-    sheet.home.PairBAtt = 7;
-    sheet.home.PairCMade = 4;
-    sheet.home.PairCAtt = 9;
-    TeamRecord before;
-    before.GP = 2;
-    const TeamRecord record = after(sheet, Side::Home, before);
-    EXPECT_THAT((std::vector{record.PairAMade, record.PairAAtt, record.PairBMade, record.PairBAtt,
-                             record.PairCMade, record.PairCAtt}),
-                testing::ElementsAre(1, 2, 3, 7, 4, 9));
-    EXPECT_THAT((std::vector{record.PairAMadePG, record.PairAAttPG, record.PairBMadePG, record.PairBAttPG,
-                             record.PairCMadePG, record.PairCAttPG}),
-                testing::ElementsAre(0.3, 0.7, 1, 2.3, 1.3, 3));
-    EXPECT_NEAR(record.PairBPct, 42.9, 1e-9);
-    EXPECT_NEAR(record.PairCPct, 44.4, 1e-9);
-}
-
-TEST(TeamRecordUpdate, OnlyTheAwaySideHasPowerPlayTime) {
-    const TeamRecord away = after(busyGame(), Side::Away);
-    EXPECT_EQ(away.PPTime, 131);
-    EXPECT_EQ(away.PPTimePG, 131);
-    EXPECT_EQ(away.PPTimePGText, RawItem::text("2:11"));
-    EXPECT_EQ(after(busyGame(), Side::Home).PPTimePGText, RawItem());
-}
-
-TEST(TeamRecordUpdate, ACoachsLineDiffersInFourFields) {
-    const TeamRecord team = after(busyGame(), Side::Home);
-    TeamRecord coach = after(busyGame(), Side::Home, {}, false, RecordHolder::Coach);
-    EXPECT_EQ(coach.LastResult, "W");
-    EXPECT_EQ(coach.SOGPct, 10);
-    EXPECT_EQ(coach.PenPG, 3);
-    EXPECT_EQ(coach.AuxAgainst, 0);
-    EXPECT_EQ(coach.AuxAgainstPG, 0);
-
-    TeamRecord before;
-    before.GP = 1;
-    EXPECT_EQ(after(busyGame(), Side::Home, before, false, RecordHolder::Coach).PenPG, 1.5);
-
-    coach.LastResult = "";
-    coach.AuxAgainst = team.AuxAgainst;
-    coach.AuxAgainstPG = team.AuxAgainstPG;
-    EXPECT_EQ(coach, team) << "every other field follows the rules of a team";
-}
-
 TEST(TeamRecordUpdate, NothingTriedGivesZeroPercent) {
-    const TeamRecord record = after(game(Boston, 0, Montreal, 0), Side::Home);
+    TeamRecord before;
+    before.AGFA = 4.5; // without an away game
+    before.ArenaMeter = 104;
+    GameSheet sheet = game(Boston, 0, Montreal, 0);
+    sheet.home.PPG = 1; // though no goal is counted
+    sheet.crowdMeter = 97;
+    const TeamRecord record = after(sheet, Side::Home, before);
     EXPECT_EQ(record.SOGPct, 0);
     EXPECT_EQ(record.PPGPG, 0);
     EXPECT_EQ(record.PPPct, 0);
     EXPECT_EQ(record.PKPct, 0);
     EXPECT_EQ(record.FOWPct, 0);
     EXPECT_EQ(record.PassAcc, 0);
+    EXPECT_EQ(record.AwayDiff, 0);
+    EXPECT_EQ(record.AwayPowerRanking, 0);
     EXPECT_EQ(record.AttZonePG, "0:00");
+    EXPECT_EQ(record.PPTimePGText, RawItem()) << "only the away side has power-play time";
+    EXPECT_EQ(record.OTGP, 0);
+    EXPECT_EQ(record.ArenaMeter, 104);
+    EXPECT_EQ(after(sheet, Side::Home, before, false, RecordHolder::Coach).SOGPct, 0);
 }
 
 TEST(TeamRecordUpdate, ASumThatTheFileCannotHoldIsAnError) {
     TeamRecord full;
-    full.SOG = std::numeric_limits<int>::max() - 29;
-    updateTeamRecord(full, busyGame(), Side::Home, false, RecordHolder::Team);
+    full.SOG = std::numeric_limits<int>::max() - 30;
+    updateTeamRecord(full, busyGame(Boston, 3, Montreal), Side::Home, false, RecordHolder::Team);
     EXPECT_EQ(
         test::errorMessage([&] { lineOf("Boston Bruins/Records.txt", full); }),
         "Boston Bruins/Records.txt, line 1, item 45 (SOG): 2147483647 is more than the league's files can "

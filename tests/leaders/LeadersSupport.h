@@ -2,8 +2,8 @@
 
 #include "leaders/Rankings.h"
 #include "support/TestLeague.h"
+#include "support/Text.h"
 
-#include <sstream>
 #include <string>
 #include <vector>
 
@@ -58,19 +58,6 @@ inline std::string abbrsOf(const Rankings::Table& table) {
     for (const LeaderLine& row : table.rows)
         abbrs.append(abbrs.empty() ? "" : " ").append(TeamAbbr[row.team]);
     return abbrs;
-}
-
-/// A fragment or page as its lines, each of which must end in CR LF.
-inline std::vector<std::string> linesOf(const std::string& page) {
-    std::vector<std::string> lines;
-    std::istringstream stream(page);
-    for (std::string line; std::getline(stream, line);) {
-        if (!line.ends_with('\r'))
-            return {"a line without CR LF: " + line};
-        line.pop_back();
-        lines.push_back(line);
-    }
-    return lines;
 }
 
 } // namespace iceline::test

@@ -1,8 +1,8 @@
 #pragma once
 
 #include "league/TeamTable.h"
+#include "support/Text.h"
 
-#include <sstream>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -29,18 +29,6 @@ std::string teamsOfRows(const Rows& rows) {
     for (const auto& row : rows)
         teams.push_back(row.team);
     return abbrs(teams);
-}
-
-/// The lines of a page; each must end in CR LF.
-inline std::vector<std::string> linesOf(const std::string& page) {
-    std::vector<std::string> lines;
-    std::istringstream stream(page);
-    for (std::string line; std::getline(stream, line);) {
-        if (line.empty() || line.back() != '\r')
-            line += " [no CR]";
-        lines.push_back(line.substr(0, line.size() - 1));
-    }
-    return lines;
 }
 
 } // namespace iceline::test
