@@ -1,5 +1,7 @@
 #include "books/PlayerStatsUpdate.h"
 
+#include "support/NumberedRecord.h"
+
 #include <gmock/gmock.h>
 
 namespace iceline {
@@ -33,125 +35,68 @@ TEST(SpecialGoals, CountsPowerPlayAndShorthandedGoalsByScorer) {
     EXPECT_EQ(away.powerPlay[4], 0);
 }
 
-TEST(PlayerStatsUpdate, ASkatersTotalsAveragesAndRatingGrowWithTheGame) {
-    SkaterStats line;
-    line.GP = 3;
-    line.G = 1;
-    line.StarPoints = 20;
-    updateSkater(line, {.goals = 2, .assists = 1, .shots = 8, .penaltyMinutes = 2, .powerPlayGoals = 1}, 40);
-    EXPECT_EQ(line.GP, 4);
-    EXPECT_EQ(line.G, 3);
-    EXPECT_EQ(line.A, 1);
-    EXPECT_EQ(line.Pts, 4);
-    EXPECT_EQ(line.SOG, 8);
-    EXPECT_EQ(line.ShotPct, 37.5);
-    EXPECT_EQ(line.PPG, 1);
-    EXPECT_EQ(line.SHG, 0);
-    EXPECT_EQ(line.GPG, 0.75);
-    EXPECT_EQ(line.APG, 0.25);
-    EXPECT_EQ(line.PtsPG, 1);
-    EXPECT_EQ(line.SOGPG, 2);
-    EXPECT_EQ(line.PIMPG, 0.5);
-    // Totals 0.4 + 0.9 + 0.2 + 2.4 - 1 + 1.2 = 4.1; averages 0.3 + 0.075 + 0.8 - 0.225 + 1.125 - 0.035
-    // = 2.04.
-    EXPECT_EQ(line.Rating, 1.226);
-    EXPECT_EQ(line.StarPoints, 20);
+/// A line in which every field holds its own place, and a real number a half more, but for six games played.
+template <class Stats>
+Stats sixGames() {
+    auto line = test::numberedRecord<Stats>();
+    line.GP = 6;
+    return line;
 }
 
-TEST(PlayerStatsUpdate, UnevenAveragesAreRoundedToTwoDecimalsAndPercentagesToOne) {
-    SkaterStats skater;
-    skater.GP = 2;
-    updateSkater(skater, {.goals = 2, .assists = 5, .shots = 11, .penaltyMinutes = 8, .shorthandedGoals = 1},
-                 41);
-    EXPECT_EQ(skater.ShotPct, 18.2);
-    EXPECT_EQ(skater.GPG, 0.67);
-    EXPECT_EQ(skater.APG, 1.67);
-    EXPECT_EQ(skater.PtsPG, 2.33);
-    EXPECT_EQ(skater.SOGPG, 3.67);
-    EXPECT_EQ(skater.PIMPG, 2.67);
-    EXPECT_EQ(skater.SHG, 1);
-    EXPECT_EQ(skater.PPG, 0);
-    // Totals 0.3 + 0.6 + 1 + 4.2 - 4 + 1.65 + 0.15 = 3.9; averages 0.268 + 0.501 + 1.864 - 1.2015 + 0.546
-    // - 0.0256 = 1.9519.
-    EXPECT_EQ(skater.Rating, 1.171);
-
-    GoalieStats goalie;
-    goalie.GP = 6;
-    goalie.SvPct = 0.911;
-    updateGoalie(goalie,
-                 {.goals = 16, .assists = 1, .shots = 147, .powerPlayGoals = 2, .shorthandedGoals = 3}, 2, 5,
-                 41);
-    EXPECT_EQ(goalie.GAA, 2.29);
-    EXPECT_EQ(goalie.SvPct, 0.891);
-    EXPECT_EQ(goalie.GL, 1);
-    EXPECT_EQ(goalie.PPG, 2);
-    EXPECT_EQ(goalie.SHG, 3);
-    // 63.77 + 2.1 - 4.58 + 0 + 0.0171 + 0 = 61.3071
-    EXPECT_EQ(goalie.Rating, 6.131);
+TEST(PlayerStatsUpdate, AGameMovesTheseFieldsOfASkatersLine) {
+    const auto after = [](const PlayerGame& game, int seasonLength) {
+        auto line = sixGames<SkaterStats>();
+        updateSkater(line, game, seasonLength);
+        return lineOf("", line);
+    };
+    const PlayerGame game{.goals = 3,
+                          .assists = 7,
+                          .shots = 5,
+                          .penaltyMinutes = 9,
+                          .powerPlayGoals = 1,
+                          .shorthandedGoals = 2};
+    EXPECT_EQ(after(game, 41), "7,5,0.71,11,1.57,16,2.29,13,1.86,38.5,20,13,15,2.86,1.778,16\r\n");
+    EXPECT_EQ(after(game, 0), "7,5,0.71,11,1.57,16,2.29,13,1.86,38.5,20,13,15,2.86,1.802,16\r\n")
+        << "without a season length its term is left out of the rating";
+    SkaterStats nothing;
+    updateSkater(nothing, {}, 41);
+    EXPECT_EQ(nothing, SkaterStats());
 }
 
-TEST(PlayerStatsUpdate, ASeasonLengthOfZeroLeavesItsTermOutOfASkatersRating) {
-    SkaterStats line;
-    updateSkater(line, {.assists = 1}, 0);
-    // Totals 0.1 + 0.2 + 0.6 = 0.9; averages 0.3 + 0.8 = 1.1.
-    EXPECT_EQ(line.Rating, 0.53);
-    EXPECT_EQ(line.GP, 1);
-}
-
-TEST(PlayerStatsUpdate, ABlankLineInTheGameIsNoGamePlayed) {
-    SkaterStats skater;
-    updateSkater(skater, {}, FullSeason);
-    EXPECT_EQ(skater, SkaterStats());
-
-    GoalieStats goalie;
-    goalie.GP = 2;
-    goalie.GA = 5;
-    goalie.SvPct = 0.9;
-    const GoalieStats before = goalie;
-    updateGoalie(goalie, {}, 3, 1, FullSeason);
-    EXPECT_EQ(goalie.GP, before.GP);
-    EXPECT_EQ(goalie.GW, 0);
-    EXPECT_EQ(goalie.GAA, 2.5) << "the average is worked out again all the same";
-    EXPECT_EQ(goalie.SvPct, 0.9) << "without a shot faced the stored figure stays";
-}
-
-TEST(PlayerStatsUpdate, AGoaliesRatingGoesByHisSavesBeforeTheGame) {
-    GoalieStats line;
-    line.GP = 1;
-    line.GA = 3;
-    line.SA = 20;
-    line.SvPct = 0.85;
-    line.GL = 1;
-    updateGoalie(line, {.shots = 30, .penaltyMinutes = 2}, 4, 0, 40);
-    EXPECT_EQ(line.GP, 2);
-    EXPECT_EQ(line.SO, 1);
-    EXPECT_EQ(line.GW, 1);
-    EXPECT_EQ(line.SA, 50);
-    EXPECT_EQ(line.GAA, 1.5);
-    EXPECT_EQ(line.SvPct, 0.94);
-    // 59.5 + 2.5 - 3 + 5 + 0.005 + 0.15 = 64.155; of the tenth the tie 6.4155 is no tie in binary.
-    EXPECT_NEAR(line.Rating, 6.416, 0.0011);
-    EXPECT_EQ(line.Unused11, 0);
-}
-
-TEST(PlayerStatsUpdate, AGoaliesShutoutAsksForAShotOrAPenalty) {
-    GoalieStats assistOnly;
-    updateGoalie(assistOnly, {.assists = 1}, 2, 0, FullSeason);
-    EXPECT_EQ(assistOnly.GP, 1);
-    EXPECT_EQ(assistOnly.GW, 1);
-    EXPECT_EQ(assistOnly.SO, 0);
-    EXPECT_EQ(assistOnly.SvPct, 0);
-
-    GoalieStats beaten;
-    updateGoalie(beaten, {.goals = 1, .shots = 1}, 1, 1, FullSeason);
-    EXPECT_EQ(beaten.SO, 0);
-    EXPECT_EQ(beaten.GT, 1);
-}
-
-TEST(PlayerStatsUpdate, ASeasonLengthOfZeroLeavesAGoalieWithoutRating) {
-    GoalieStats line;
-    updateGoalie(line, {.shots = 20}, 1, 0, 0);
-    EXPECT_EQ(line.Rating, 0);
+TEST(PlayerStatsUpdate, AGameMovesTheseFieldsOfAGoaliesLine) {
+    struct Case {
+        PlayerGame game;
+        int ownGoals;
+        int otherGoals;
+        int seasonLength;
+        const char* line;
+    };
+    const PlayerGame busy{.goals = 4,
+                          .assists = 5,
+                          .shots = 47,
+                          .penaltyMinutes = 3,
+                          .powerPlayGoals = 1,
+                          .shorthandedGoals = 2};
+    for (const Case& each : {
+             Case{busy, 3, 2, 41, "7,6,3,9,6,6,7,55,0.86,0.891,0,13,15,0,7.687,16"},
+             Case{busy, 2, 3, 41, "7,6,3,9,5,7,7,55,0.86,0.891,0,13,15,0,7.545,16"},
+             Case{{.shots = 28}, 0, 0, 41, "7,2,4,4,5,6,8,36,0.29,0.944,0,12,13,0,7.718,16"}, // a shutout
+             Case{{.penaltyMinutes = 2}, 1, 0, 0, "7,2,4,4,6,6,7,8,0.29,0.75,0,12,13,0,0,16"},
+             Case{{}, 1, 0, 41, "6,2,3,4,5,6,7,8,0.33,0.75,0,12,13,0,7.787,16"}, // no game, yet worked out
+         }) {
+        auto line = sixGames<GoalieStats>();
+        line.SvPct = 0.911; // the rating goes by the figure before the game
+        updateGoalie(line, each.game, each.ownGoals, each.otherGoals, each.seasonLength);
+        EXPECT_EQ(lineOf("", line), std::string(each.line) + "\r\n");
+    }
+    GoalieStats first;
+    first.SvPct = 0.9;
+    updateGoalie(first, {}, 3, 1, 41);
+    EXPECT_EQ(first.SvPct, 0.9) << "without a shot faced the stored figure stays";
+    EXPECT_EQ(first.Rating, 0);
+    updateGoalie(first, {.assists = 1}, 2, 0, 41);
+    EXPECT_EQ(first.GP, 1);
+    EXPECT_EQ(first.SO, 0) << "a shutout asks for a shot or a penalty";
 }
 
 TEST(PlayerStatsUpdate, BothGoaliesWhoPlayedGetTheDecision) {
