@@ -1,7 +1,7 @@
 #!/usr/bin/env python3
 """Kills the companion program, fails its system calls and cuts the power under it, and looks at every league that is left.
 
-    campaign.py FOLDER [--long] [--seed N] [--kills N] [--faults N] [--cuts N]
+    campaign.py FOLDER [--long] [--write PAGE] [--seed N] [--kills N] [--faults N] [--cuts N]
 
 FOLDER holds `iceline` and the shim. After each trial the program is started once more; then the league must be exactly
 as before the operation or as after it (a run over a folder: as after a whole number of games), and what was said must
@@ -24,6 +24,7 @@ from powercut import Disk
 KINDS = ["kills", "kills in recovery", "faults", "power cuts"]
 SHORT = {"kills": 240, "faults": 900, "cuts": 400}
 LONG = {"kills": 5500, "faults": 21000, "cuts": 5500}
+BEGIN, END = "<!-- campaign -->\n", "<!-- /campaign -->"
 NOTED, UNSURE = "The change is noted in", "may still make it"
 
 
@@ -138,10 +139,12 @@ class Campaign:
 
     def run(self, trial, kinds: list[str], wanted: int) -> None:
         """Tries one operation after the other, until the counts of these kinds come to `wanted`."""
-        begin = time.monotonic()
+        begin, rounds = time.monotonic(), 0
         while sum(counts[kind] for counts in self.tried.values() for kind in kinds) < wanted:
+            rounds += 1
             for operation in self.operations:
-                trial(operation)
+                if rounds % operation.every == 0:
+                    trial(operation)
         print(f"{kinds[0]}: {time.monotonic() - begin:.0f} s", flush=True)
 
 
@@ -160,6 +163,7 @@ def arguments() -> argparse.Namespace:
     parser.add_argument("binaries", type=Path)
     parser.add_argument("--long", action="store_true")
     parser.add_argument("--jobs", type=int, default=2, help="how many trials at a time")
+    parser.add_argument("--write", type=Path, metavar="PAGE", help="puts the table into this page")
     parser.add_argument("--seed", type=int, default=random.randrange(10**6))
     for kind in SHORT:
         parser.add_argument(f"--{kind}", type=int)
@@ -205,7 +209,11 @@ def main() -> int:
             for name, of_operation in counts.items():
                 tried.setdefault(name, Counter()).update(of_operation)
             found += findings
-    print(f"\n{table(tried)}\n\n{len(found)} findings")
+    counts = f"{table(tried)}\n\n{len(found)} findings."
+    print(f"\n{counts}")
+    if given.write:
+        before, _, rest = given.write.read_text().partition(BEGIN)
+        given.write.write_text(f"{before}{BEGIN}\n{counts}\n\n{END}{rest.partition(END)[2]}")
     return 1 if found else 0
 
 

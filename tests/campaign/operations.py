@@ -15,6 +15,7 @@ class Operation:
     after: list[State] = field(default_factory=list)   # settled, after 0, 1, ... of its steps and the next start
     success: str = ""               # what it prints only when it has worked
     pages: bool = True              # whether pages belong to what is whole or not at all
+    every: int = 1                  # tried in every n-th round alone, as it takes long
     microseconds: int = 0           # how long it takes
     calls: dict[str, int] = field(default_factory=dict)  # that suit each kind of fault
     log: list[str] = field(default_factory=list)         # its changes and syncs
@@ -122,7 +123,7 @@ class Workshop:
             self.operation("coach clear", light, ["coach", "clear", "Ann"], success="have been cleared"),
             self.operation("season-length", light, ["season-length", "30"], success="has been updated"),
             self.operation("go-to-playoffs", light, ["go-to-playoffs"], success="is now over"),
-            self.operation("publish", light, ["publish"], pages=False),
+            self.operation("publish", light, ["publish"], pages=False, every=10),
             self.operation("init", {}, ["--yes", "init"], [[], [["init"]]]),
             self.operation("recover", left, ["recover"], [[], []]),
             self.operation("start on a journal", left, ["season-length"], [[], []]),

@@ -34,6 +34,7 @@ class Disk:
     names: dict[str, History]
     handles: dict[str, History] = field(default_factory=dict)
     contents: list[History] = field(default_factory=list)
+    renamed: dict[str, str] = field(default_factory=dict)  # folders, to their new names
     time: int = 0
 
     @staticmethod
@@ -67,7 +68,13 @@ class Disk:
         self.name(path, NOTHING)
 
     def rename(self, source: str, target: str) -> None:
-        self.name(target, self.names[source].versions[-1])
+        """A folder takes along what is in it, and is never found under both names or none."""
+        what = self.names[source].versions[-1]
+        if what is None:
+            self.renamed[source] = target
+            for path in [path for path in self.names if path.startswith(source + "/")]:
+                self.names[target + path[len(source):]] = History([0], [self.names[path].versions[-1]])
+        self.name(target, what)
         self.name(source, NOTHING)
 
     def open(self, handle: str, path: str) -> None:
@@ -101,7 +108,7 @@ class Disk:
         content_time = chance.choice([lambda: 0, lambda: self.time, lambda: chance.randint(0, self.time)])
         state: State = {}
         for path, history in sorted(self.names.items()):
-            what = history.versions[history.at(name_time(path))]
+            what = history.versions[history.at(name_time(self.renamed.get(path, path)))]
             if what is NOTHING or (parent(path) != "." and state.get(parent(path), b"") is not None):
                 continue
             state[path] = None if what is None else torn(what, what.at(content_time()), tear, chance)
