@@ -41,7 +41,6 @@ protected:
         guarded(this, procedure);
         if (app_.operationsCommitted() != committed)
             renewWindows();
-        page_->growWindow();
     }
 
     void closeEvent(QCloseEvent* event) override;

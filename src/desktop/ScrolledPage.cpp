@@ -1,5 +1,6 @@
 #include "desktop/ScrolledPage.h"
 
+#include <QEvent>
 #include <QScreen>
 #include <QStyle>
 #include <QVBoxLayout>
@@ -47,11 +48,20 @@ void ScrolledPage::fitWindow() {
                    QPoint(WindowFrame.left(), WindowFrame.top()));
 }
 
+bool ScrolledPage::eventFilter(QObject* object, QEvent* event) {
+    const bool handled = QScrollArea::eventFilter(object, event);
+    if (object == widget() && event->type() == QEvent::LayoutRequest) {
+        const QSize needed = widget()->minimumSizeHint();
+        const bool more = needed.width() > needed_.width() || needed.height() > needed_.height();
+        needed_ = needed;
+        if (more && window()->isVisible() && !window()->isMaximized())
+            growWindow();
+    }
+    return handled;
+}
+
 void ScrolledPage::growWindow() {
-    const QSize needed = window()->size().expandedTo(sizeFor(widget()->minimumSizeHint()));
-    if (window()->isMaximized() || needed == window()->size())
-        return;
-    window()->resize(needed);
+    window()->resize(window()->size().expandedTo(sizeFor(needed_)));
     const QRect frame = window()->geometry();
     const QPoint beyond(std::max(0, frame.right() - room().right()),
                         std::max(0, frame.bottom() - room().bottom()));

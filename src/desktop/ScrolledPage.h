@@ -4,7 +4,8 @@
 
 namespace iceline::desktop {
 
-/// The contents of a window. What is too large for the window, or for the screen, scrolls.
+/// The contents of a window, which scroll where they are too large for it. When they come to need more room
+/// than before, the window becomes larger, as far as its screen allows.
 class ScrolledPage : public QScrollArea {
     Q_OBJECT
 
@@ -15,14 +16,17 @@ public:
     /// Opens the window in the middle of its screen, as large as its contents ask for and the screen allows.
     void fitWindow();
 
-    /// Makes the window larger, as far as its screen allows, when its contents need more room than before.
-    void growWindow();
-
     QSize sizeHint() const override { return widget()->sizeHint(); }
 
+protected:
+    bool eventFilter(QObject* object, QEvent* event) override;
+
 private:
+    void growWindow();
     QRect room() const;
     QSize sizeFor(QSize contents) const;
+
+    QSize needed_; ///< the least room for the contents, when last looked at
 };
 
 } // namespace iceline::desktop
