@@ -13,6 +13,8 @@
 #include "store/LeaguePaths.h"
 
 #include <QApplication>
+#include <QCommandLineParser>
+#include <QFileInfo>
 #include <QTimer>
 
 #include <memory>
@@ -76,7 +78,8 @@ std::unique_ptr<OpenLeague> openLeague(const std::filesystem::path& folder, Plat
 /// The start: the splash window, then the main window. Ends the program when the league does not load.
 class Start {
 public:
-    Start(OpenLeague& league, PreviewServer& preview) : league_(league), preview_(preview) {
+    Start(OpenLeague& league, PreviewServer& preview, std::string game)
+        : league_(league), preview_(preview), game_(std::move(game)) {
         splash_ = std::make_unique<SplashScreen>(league.app().state, [this] { load(); });
         splash_->show();
         // Only now: show() itself handles events, at a time when there is no event loop yet that could be
@@ -97,7 +100,11 @@ private:
             if (!league_.start())
                 return;
             welcome_ = std::make_unique<WelcomeWindow>(league_.app(), preview_);
-            welcome_->waitForSplash([this] { splash_.reset(); });
+            welcome_->waitForSplash([this] {
+                splash_.reset();
+                if (!game_.empty())
+                    welcome_->showGame(game_);
+            });
         });
         if (!welcome_)
             QApplication::exit(1);
@@ -105,6 +112,7 @@ private:
 
     OpenLeague& league_;
     PreviewServer& preview_;
+    std::string game_; ///< path of a save state to show; none when empty
     std::unique_ptr<SplashScreen> splash_;
     std::unique_ptr<WelcomeWindow> welcome_;
     QTimer looksAtDisk_; ///< what a disk cannot do comes to light when it is written
@@ -133,32 +141,67 @@ private:
     QTimer looks_;
 };
 
-int runWindows(const std::filesystem::path& folder) {
+/// Paths that the program was started with, absolute; empty where there is none.
+struct Arguments {
+    QString league;
+    QString game;
+};
+
+/// Reads the words of the call. Asked for help or the version it prints that and ends the program, as it does
+/// when it does not understand them.
+Arguments argumentsOf(const QApplication& application) {
+    QCommandLineParser parser;
+    parser.setApplicationDescription(QStringLiteral("Keeps the books of a hockey league."));
+    parser.addHelpOption();
+    parser.addVersionOption();
+    const QCommandLineOption league(QStringLiteral("league"),
+                                    QStringLiteral("the league folder (default: the program's own)"),
+                                    QStringLiteral("DIR"));
+    parser.addOption(league);
+    parser.addPositionalArgument(QStringLiteral("FILE"), QStringLiteral("a save state to show"),
+                                 QStringLiteral("[FILE]"));
+    parser.process(application);
+    const auto absolute = [](const QString& path) {
+        return path.isEmpty() ? path : QFileInfo(path).absoluteFilePath();
+    };
+    return {absolute(parser.value(league)), absolute(parser.positionalArguments().value(0))};
+}
+
+int runWindows(const std::filesystem::path& folder, const std::string& game) {
     QtPlatform platform;
     const std::unique_ptr<OpenLeague> league = openLeague(folder, platform);
     if (!league)
         return 1;
     PreviewServer preview(folder / paths::WebRoot);
     const EndFromOutside endFromOutside(platform);
-    const Start start(*league, preview);
+    const Start start(*league, preview, game);
     return QApplication::exec();
 }
 
 } // namespace
 
-int runLeague(const std::filesystem::path& folder) {
+int runLeague(const std::filesystem::path& folder, const std::string& game) {
     int status = 1;
-    guarded(nullptr, [&] { status = runWindows(folder); });
+    guarded(nullptr, [&] { status = runWindows(folder, game); });
     return status;
 }
 
 int run(int argc, char** argv) {
     ignoreSignalsOfWrites();
     GuardedApplication application(argc, argv);
+    QApplication::setOrganizationName(QStringLiteral("Iceline"));
+    QApplication::setApplicationName(QStringLiteral("iceline-scorebook"));
+    QApplication::setApplicationVersion(QStringLiteral(ICELINE_VERSION));
     QApplication::setQuitOnLastWindowClosed(false);
     applyStyle(application);
+    const Arguments arguments = argumentsOf(application);
     int status = 1;
-    guarded(nullptr, [&] { status = runLeague(programFolder()); });
+    guarded(nullptr, [&] {
+        const auto folder = arguments.league.isEmpty()
+                                ? programFolder()
+                                : std::filesystem::path(arguments.league.toStdU16String());
+        status = runLeague(folder, fromQt(arguments.game));
+    });
     return status;
 }
 

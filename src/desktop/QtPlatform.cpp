@@ -4,8 +4,10 @@
 
 #include <QApplication>
 #include <QFileDialog>
+#include <QFileInfo>
 #include <QMessageBox>
 #include <QRandomGenerator>
+#include <QSettings>
 
 #include <algorithm>
 #include <iostream>
@@ -70,9 +72,14 @@ QString filterText(const std::vector<FileFilter>& filters) {
     return entries.join(QStringLiteral(";;"));
 }
 
-std::optional<std::string> chosen(const QString& path) {
+/// Where the next file dialog begins, in the user's settings.
+constexpr QLatin1String GamesFolder("folders/games");
+
+/// What a file dialog has ended with; the next one begins in `folder`.
+std::optional<std::string> chosen(const QString& path, const QString& folder) {
     if (path.isEmpty())
         return std::nullopt;
+    QSettings().setValue(GamesFolder, folder);
     return fromQt(path);
 }
 
@@ -119,12 +126,16 @@ Answer QtPlatform::ask(const Message& message) {
 
 std::optional<std::string> QtPlatform::chooseFile(const std::string& title,
                                                   const std::vector<FileFilter>& filters) {
-    return chosen(QFileDialog::getOpenFileName(windowInFront(), toQt(title), {}, filterText(filters), nullptr,
-                                               QFileDialog::HideNameFilterDetails));
+    const QString path =
+        QFileDialog::getOpenFileName(windowInFront(), toQt(title), QSettings().value(GamesFolder).toString(),
+                                     filterText(filters), nullptr, QFileDialog::HideNameFilterDetails);
+    return chosen(path, QFileInfo(path).absolutePath());
 }
 
 std::optional<std::string> QtPlatform::chooseFolder(const std::string& title) {
-    return chosen(QFileDialog::getExistingDirectory(windowInFront(), toQt(title)));
+    const QString path = QFileDialog::getExistingDirectory(windowInFront(), toQt(title),
+                                                           QSettings().value(GamesFolder).toString());
+    return chosen(path, path);
 }
 
 void QtPlatform::setBusy(bool busy) {

@@ -71,6 +71,10 @@ QLayout* StatExtractorWindow::makeCommands() {
     return row;
 }
 
+void StatExtractorWindow::showGame(const std::string& path) {
+    run([&] { object_.showGame(path); });
+}
+
 void StatExtractorWindow::selectGame() {
     run([this] { object_.LoadStats_Click(); });
 }

@@ -22,6 +22,9 @@ class StatExtractorWindow : public LeagueWindow {
 public:
     StatExtractorWindow(Application& application, WindowId id, StatExtractor& object);
 
+    /// Reads and shows the game of a save state.
+    void showGame(const std::string& path);
+
     /// What the buttons do.
     void selectGame();
     void importGame();

@@ -6,7 +6,6 @@
 #include "desktop/Guard.h"
 #include "desktop/Pictures.h"
 #include "desktop/QtPlatform.h"
-#include "desktop/StatExtractorWindow.h"
 
 #include <QApplication>
 #include <QCloseEvent>

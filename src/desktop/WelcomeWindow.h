@@ -3,6 +3,7 @@
 #include "desktop/MainMenu.h"
 #include "desktop/PreviewServer.h"
 #include "desktop/ScrolledPage.h"
+#include "desktop/StatExtractorWindow.h"
 #include "desktop/WindowManager.h"
 
 #include <QTimer>
@@ -15,8 +16,6 @@ class QPushButton;
 
 namespace iceline::desktop {
 
-class StatExtractorWindow;
-
 /// The main window: menus, the catalogue of the other windows, "Generate Webpages", "Preview Site" and
 /// "E&xit". It waits hidden until the splash window has rolled its credits.
 class WelcomeWindow : public QWidget {
@@ -27,6 +26,11 @@ public:
 
     /// Starts to wait for the end of the splash window; `shown` runs when the main window shows.
     void waitForSplash(std::function<void()> shown);
+
+    /// Shows the game of a save state in the game window.
+    void showGame(const std::string& path) {
+        guarded(this, [&] { gameWindow().showGame(path); });
+    }
 
 protected:
     /// Closes every other window and ends the program.

@@ -33,24 +33,21 @@ void StatExtractor::Form_Load() {
 }
 
 void StatExtractor::LoadStats_Click() {
-    if (FillWindow)
-        selectGame();
-    else
+    if (!FillWindow)
         publishGame();
+    else if (const auto path = chooseSaveState())
+        showGame(*path);
 }
 
-void StatExtractor::selectGame() {
-    const auto path = chooseSaveState();
-    if (!path)
-        return;
-    PlayedGame game = readGame(app_.files(), *path);
+void StatExtractor::showGame(const std::string& path) {
+    PlayedGame game = readGame(app_.files(), path);
     if (game.refusal) {
         app_.platform().say(*game.refusal);
         return;
     }
     game_ = std::move(game);
-    app_.state.SaveStatePath = *path;
-    content_.FileName = *path;
+    app_.state.SaveStatePath = path;
+    content_.FileName = path;
     content_.report = reportGame();
     content_.ScoringSummary = scoringSummaryText(*content_.report);
     content_.PenaltySummary = penaltySummaryText(*content_.report);

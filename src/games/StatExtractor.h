@@ -32,6 +32,10 @@ public:
     /// "Select Game": selectGame(). The import, which sets FillWindow False, has publishGame() called.
     void LoadStats_Click();
 
+    /// Reads and shows the game of that save state, as "Select Game" does with the file that the user picks.
+    /// Nothing changes when no game is read from it.
+    void showGame(const std::string& path);
+
     /// Reads the game of the save state at SaveStatePath: from here on the game in hand.
     const PlayedGame& readGameInHand();
 
@@ -84,9 +88,6 @@ public:
     std::string SaveStateFileName; ///< file name of the save state in hand, without its folder
 
 private:
-    /// File dialog, read, show; nothing changes when a game is not read.
-    void selectGame();
-
     /// Writes the page, the list row and the recent games of the game in hand.
     void publishGame();
 

@@ -7,9 +7,11 @@
 #include "files/Journal.h"
 #include "files/JournalFormat.h"
 #include "files/LeagueLock.h"
+#include "samples/SaveStateWriter.h"
 #include "support/TemporaryFolder.h"
 #include "support/TestLeague.h"
 
+#include <QLabel>
 #include <QTest>
 
 #include <gmock/gmock.h>
@@ -135,19 +137,25 @@ TEST_F(Start, ASignalEndsTheProgram) {
     expectNothingLeft();
 }
 
-TEST_F(Start, AKeyEndsTheSplashWindowAndExitTheProgram) {
+TEST_F(Start, AKeyEndsTheSplashWindowAndAGameThatWasNamedIsShown) {
     makeLeague();
+    const std::string game = (folder.path() / "game.gs0").generic_string();
+    std::ofstream(game, std::ios::binary) << saveStateBytes(GameSheet(TeamIndex(0), TeamIndex(10)));
     bool splashOverMain = false;
+    std::string shown;
     User user([&] {
         QWidget* splash = shownWindow("SplashScreen");
         QWidget* main = shownWindow("WelcomeWindow");
         if (splash)
             QTest::keyClick(splash, Qt::Key_Space);
         splashOverMain = splashOverMain || (main && splash);
-        if (main)
+        if (QWidget* window = shownWindow("StatExtractor")) {
+            shown = window->findChild<QLabel*>(QStringLiteral("FileName"))->toolTip().toStdString();
             main->findChild<QAbstractButton*>(QStringLiteral("Command7"))->click();
+        }
     });
-    EXPECT_EQ(run(), 0);
+    EXPECT_EQ(runLeague(folder.path(), game), 0);
+    EXPECT_EQ(shown, game);
     EXPECT_FALSE(splashOverMain);
     expectNothingLeft();
 }
