@@ -121,7 +121,10 @@ TEST_F(GameImport, FiguresOfAGameStandInTheFilesOfTheTeams) {
     const auto scorer = std::get<SkaterStats>(league.playerStats(Boston, PartOfYear::Season, 4));
     EXPECT_EQ(scorer.G, 2);
     EXPECT_EQ(scorer.PPG, 1);
-    EXPECT_EQ(scorer.StarPoints, 30);
+    const auto starPoints = [&](int row) {
+        return std::get<SkaterStats>(league.playerStats(Boston, PartOfYear::Season, row)).StarPoints;
+    };
+    EXPECT_THAT((std::vector{starPoints(4), starPoints(6), starPoints(7)}), ElementsAre(30, 20, 10));
     const auto goalie = std::get<GoalieStats>(league.playerStats(Montreal, PartOfYear::Season, 0));
     EXPECT_EQ(goalie.GL, 1);
     EXPECT_EQ(goalie.GA, 3);
@@ -131,6 +134,29 @@ TEST_F(GameImport, FiguresOfAGameStandInTheFilesOfTheTeams) {
     EXPECT_EQ(teams[0].Value, 3);
     EXPECT_EQ(teams[12].Value, 95);
     EXPECT_FALSE(files().isFile("Boston Bruins/Player Stats New.txt"));
+}
+
+TEST_F(GameImport, TheRecordsOfPlayersAndGoaliesAreThoseOfBothTeams) {
+    choose(GameKind::Season);
+    import(lovelyGame());
+    const auto shown = [](const auto& records) {
+        std::vector<std::string> texts;
+        for (const PlayerRecord& record : records)
+            texts.push_back(std::string(TeamAbbr[record.Team]) + " " + record.Name + " " +
+                            std::to_string(record.Value));
+        return texts;
+    };
+    const auto player = [&](TeamIndex team, int row, int value) {
+        return std::string(TeamAbbr[team]) + " " + league.roster(team)[RosterIndex(row)].Name + " " +
+               std::to_string(value);
+    };
+    EXPECT_THAT(shown(readAllTimePlayerRecords(files(), paths::allTimePlayerRecords(PartOfYear::Season))),
+                ElementsAre(player(Boston, 4, 2), player(Boston, 6, 2), player(Boston, 4, 2),
+                            player(Boston, 4, 1), player(Boston, 7, 1), player(Boston, 4, 2),
+                            player(Montreal, 5, 2)));
+    EXPECT_THAT(shown(readAllTimeGoalieRecords(files(), paths::allTimeGoalieRecords(PartOfYear::Season))),
+                ElementsAre(player(Montreal, 0, 1), "BOS  0", player(Montreal, 0, 3), player(Montreal, 0, 4),
+                            "BOS  0"));
 }
 
 TEST_F(GameImport, TheSameGameCountsTwice) {

@@ -61,6 +61,8 @@ TEST(PlayerStatsUpdate, AGameMovesTheseFieldsOfASkatersLine) {
     SkaterStats nothing;
     updateSkater(nothing, {}, 41);
     EXPECT_EQ(nothing, SkaterStats());
+    updateSkater(nothing, {.assists = 1}, 0);
+    EXPECT_EQ(nothing.Rating, 0.53); // totals 0.1 + 0.2 + 0.6, averages 0.3 + 0.8
 }
 
 TEST(PlayerStatsUpdate, AGameMovesTheseFieldsOfAGoaliesLine) {
@@ -97,6 +99,9 @@ TEST(PlayerStatsUpdate, AGameMovesTheseFieldsOfAGoaliesLine) {
     updateGoalie(first, {.assists = 1}, 2, 0, 41);
     EXPECT_EQ(first.GP, 1);
     EXPECT_EQ(first.SO, 0) << "a shutout asks for a shot or a penalty";
+    GoalieStats beaten;
+    updateGoalie(beaten, {.goals = 2, .shots = 5}, 1, 1, 41);
+    EXPECT_EQ(beaten.GAA, 2);
 }
 
 TEST(PlayerStatsUpdate, BothGoaliesWhoPlayedGetTheDecision) {

@@ -19,6 +19,13 @@ TEST(NumberText, HasUpToFifteenDigitsAndNoTrailingZeros) {
     EXPECT_EQ(numberText(999999999999999), "999999999999999");
     EXPECT_EQ(numberText(1e15), "1000000000000000");
     EXPECT_EQ(numberText(4e17), "400000000000000000");
+    EXPECT_EQ(numberText(99999999999999.96), "100000000000000");
+}
+
+TEST(ClockText, HasTwoDigitsOfSeconds) {
+    EXPECT_EQ(clockText(609), "10:09");
+    EXPECT_EQ(clockText(610), "10:10");
+    EXPECT_EQ(minutesText(119.6), "1:00");
 }
 
 TEST(ItemText, DropsTheLeadingZeroBetweenBlanks) {
