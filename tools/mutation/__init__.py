@@ -1,0 +1,1 @@
+"""Mutants of the core: small changes to its code, each of which some test should notice."""
