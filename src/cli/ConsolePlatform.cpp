@@ -38,7 +38,7 @@ Answer ConsolePlatform::ask(const Message& message) {
     case Buttons::Ok:
         return Answer::Ok;
     case Buttons::YesNo:
-        return Answer::Yes;
+        return message.isWarning ? Answer::No : Answer::Yes;
     case Buttons::OkCancel:
         break;
     }

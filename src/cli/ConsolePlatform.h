@@ -8,7 +8,7 @@
 namespace iceline::cli {
 
 /// The platform of a terminal. Messages are printed as they are, a message a line. A question of Yes or No
-/// counts as answered with Yes, since the command was the answer.
+/// counts as answered with Yes, since the command was the answer; only one that warns is answered with No.
 class ConsolePlatform : public Platform {
 public:
     explicit ConsolePlatform(Console& console);

@@ -15,6 +15,7 @@ struct Import {
     std::string homeCoach;
     std::string awayCoach;
     bool stopOnRefusal = false;
+    bool force = false;
 };
 
 /// "Select Game". False when the file was refused.
@@ -29,7 +30,7 @@ bool selectGame(Session& session, const std::string& file) {
 Status read(Session& session, const std::string& file) {
     if (!selectGame(session, file))
         return Status::Refused;
-    printGame(StatExtractor::in(session.app()), session.out());
+    printGame(*StatExtractor::in(session.app()).content().report, session.out());
     return Status::Done;
 }
 
@@ -48,6 +49,7 @@ void choose(Session& session, const Import& import) {
     StatExtractor& window = StatExtractor::in(session.app());
     window.Season = !import.exhibition;
     window.Exhibition = import.exhibition;
+    window.Force = import.force;
     window.T1Coach_Click(home);
     window.T2Coach_Click(away);
 }
@@ -71,10 +73,12 @@ Status importAll(Session& session, const Import& import) {
     ConsolePlatform& platform = session.platform();
     platform.choice = folder;
     platform.respondent = import.stopOnRefusal ? Respondent::AlwaysCancel : Respondent::AlwaysOk;
-    const int refusedBefore = platform.okCancelAsked;
-    StatExtractor::in(session.app()).ImportFolder_Click();
+    StatExtractor& window = StatExtractor::in(session.app());
+    window.ImportFolder_Click();
     const bool ran = !std::exchange(platform.choice, std::nullopt);
-    return ran && platform.okCancelAsked == refusedBefore ? Status::Done : Status::Refused;
+    if (!ran || window.ImportAnswer == Answer::Cancel)
+        return Status::Refused;
+    return window.PassedOver > 0 ? Status::Partly : Status::Done;
 }
 
 Status importGame(Session& session, const Import& import) {
@@ -89,6 +93,8 @@ void addChoices(CLI::App& command, Import& import) {
     command.add_flag("--exhibition", import.exhibition, "an exhibition game, which counts for coaches alone");
     command.add_option("--home-coach", import.homeCoach, "the coach of the home team")->type_name("NAME");
     command.add_option("--away-coach", import.awayCoach, "the coach of the away team")->type_name("NAME");
+    command.add_flag("--force", import.force,
+                     "count games that are in the books, and files without a finished game");
 }
 
 } // namespace

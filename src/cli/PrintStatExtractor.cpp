@@ -2,6 +2,7 @@
 #include "cli/WindowPrinters.h"
 #include "games/ReportTables.h"
 #include "games/StatExtractor.h"
+#include "games/Summaries.h"
 #include "league/Numbers.h"
 
 #include <algorithm>
@@ -75,11 +76,10 @@ void printReport(const GameReport& game, std::ostream& out) {
 
 } // namespace
 
-void printGame(const StatExtractor& window, std::ostream& out) {
-    const StatExtractor::Content& content = window.content();
-    printReport(*content.report, out);
-    printSummary("Scoring Summary", content.ScoringSummary, out);
-    printSummary("Penalty Summary", content.PenaltySummary, out);
+void printGame(const GameReport& game, std::ostream& out) {
+    printReport(game, out);
+    printSummary("Scoring Summary", scoringSummaryText(game), out);
+    printSummary("Penalty Summary", penaltySummaryText(game), out);
 }
 
 void printStatExtractor(const StatExtractor& window, std::ostream& out) {
@@ -87,7 +87,7 @@ void printStatExtractor(const StatExtractor& window, std::ostream& out) {
     out << window.caption() << '\n' << content.FileName << '\n';
     if (content.report) {
         out << '\n';
-        printGame(window, out);
+        printGame(*content.report, out);
     }
 }
 

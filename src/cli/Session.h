@@ -11,7 +11,7 @@
 namespace iceline::cli {
 
 /// How a command ended; the value is the exit status.
-enum class Status { Done = 0, Refused = 1, Misused = 2 };
+enum class Status { Done = 0, Refused = 1, Misused = 2, Partly = 3 };
 
 /// An argument is wrong. what() is one line for the user that names it.
 class UsageError : public std::runtime_error {

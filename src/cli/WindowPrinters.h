@@ -6,6 +6,7 @@
 #include <string>
 
 namespace iceline {
+struct GameReport;
 class Playoffs;
 class Rankings;
 class Standings;
@@ -42,8 +43,8 @@ void printTeamView(const TeamView& view, std::ostream& out);
 /// The teams to choose from, under the prompt of the window's team list.
 void printTeamList(const std::string& prompt, std::ostream& out);
 
-/// The game that was read last in the game window, which must hold one.
-void printGame(const StatExtractor& window, std::ostream& out);
+/// A game's report, with its summaries.
+void printGame(const GameReport& game, std::ostream& out);
 
 /// The function that prints a window of that kind, given the window.
 using WindowPrinter = void (*)(const Window&, std::ostream&);

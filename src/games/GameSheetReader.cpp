@@ -60,7 +60,7 @@ GameSheet readGameSheet(const SaveState& save) {
 
 PlayedGame readGame(Files& files, const std::string& path) {
     const SaveState save = SaveState::read(files, path);
-    PlayedGame game{readGameSheet(save), {}, lastScorer(save), save.refusal()};
+    PlayedGame game{readGameSheet(save), {}, lastScorer(save), save.refusal(), save.doubt()};
     if (!game.refusal)
         game.refusal = pageNameRefusal(path);
     if (!game.refusal)

@@ -18,6 +18,8 @@ struct PlayedGame {
     GameRosters rosters;                ///< empty rows where the game is refused
     int lastScorer = 0;                 ///< byte in the scorer's place of what ends the scoring table
     std::optional<std::string> refusal; ///< why the league cannot take the game, see SaveState::refusal()
+    std::optional<std::string> unfinished =
+        std::nullopt; ///< why it is no game played to its end, see SaveState::doubt()
 };
 
 /// Reads a game, each of its files once. Throws FileError when one cannot be read or a roster is malformed.

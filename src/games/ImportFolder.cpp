@@ -41,6 +41,7 @@ public:
         window_.ImportMode = 1;
         window_.ImportCount = 0;
         window_.ImportAnswer = Answer::Ok;
+        window_.PassedOver = 0;
     }
     ~FolderRun() { window_.ImportMode = 0; }
     FolderRun(const FolderRun&) = delete;
@@ -85,18 +86,44 @@ private:
         window_.SaveStateFileName = name;
         window_.GameLoaded = true;
         const PlayedGame& game = window_.readGameInHand();
+        if (const auto doubt = window_.Force ? std::nullopt : window_.doubtAbout(game)) {
+            (doubt->kind == GameDoubt::Kind::AlreadyCounted ? counted_ : refused_).push_back(name);
+            ++window_.PassedOver;
+            return;
+        }
         if (!game.refusal)
             selectStars(app_.state, game);
         const int before = window_.ImportCount;
         window_.ImportStats_Click();
-        if (window_.ImportCount > before)
+        if (window_.ImportCount > before) {
             lastImported_ = name;
-        else
+        } else {
+            refused_.push_back(name);
+            ++window_.PassedOver;
             window_.checkSeason();
+        }
+    }
+
+    /// "17 imported, 3 already in the books, 1 refused", and the names of those left out.
+    std::string account() const {
+        std::string text = std::to_string(window_.ImportCount) + " imported";
+        std::string names;
+        const auto add = [&](const std::vector<std::string>& files, const std::string& what) {
+            if (files.empty())
+                return;
+            text += ", " + std::to_string(files.size()) + " " + what;
+            for (const std::string& file : files)
+                names += "\n" + file + ": " + what;
+        };
+        add(counted_, "already in the books");
+        add(refused_, "refused");
+        return text + names;
     }
 
     std::string closingMessage() const {
-        std::string message = std::to_string(window_.ImportCount) + " Files imported";
+        std::string message = window_.PassedOver > 0 && !window_.Force
+                                  ? account()
+                                  : std::to_string(window_.ImportCount) + " Files imported";
         if (stopped_)
             message += "\nThe run was stopped.";
         if (stopped_ && !lastImported_.empty())
@@ -107,14 +134,16 @@ private:
     Application& app_;
     StatExtractor& window_;
     std::string folder_;
-    std::string lastImported_; ///< file name; empty before the first
-    bool stopped_ = false;     ///< the user has stopped the run
+    std::string lastImported_;         ///< file name; empty before the first
+    std::vector<std::string> counted_; ///< names of the files passed over, their games being in the books
+    std::vector<std::string> refused_; ///< names of those that hold no finished game, or were refused
+    bool stopped_ = false;             ///< the user has stopped the run
 };
 
 } // namespace
 
 void StatExtractor::ImportFolder_Click() {
-    if (Exhibition && T1Coach < 1 && T2Coach < 1) {
+    if (lacksCoach()) {
         app_.platform().say("Please select at least one coach first to import exhibition game to");
         return;
     }

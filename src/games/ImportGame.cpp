@@ -1,13 +1,10 @@
-#include "books/GameImport.h"
 #include "files/FileError.h"
+#include "games/BookEntry.h"
 #include "games/FolderRunNote.h"
 #include "games/StatExtractor.h"
-#include "playoffs/Bracket.h"
 #include "playoffs/SeasonEnd.h"
-#include "shell/Application.h"
+#include "shell/LoggedChange.h"
 #include "standings/Standings.h"
-
-#include <limits>
 
 namespace iceline {
 
@@ -20,22 +17,22 @@ struct Refusal {
     bool seasonEnds = false; ///< a team has played all its games, so the season may be over
 };
 
-int raisedGameNumber(Files& files) {
-    const int number = readNumber32(files, paths::OverallGameNumber);
-    if (number == std::numeric_limits<int>::max())
-        throw FileError::about(paths::OverallGameNumber, "the file can hold no higher number");
-    return number + 1;
+/// Raises the game number, which was `before`, for an import that broke; it has been raised when only now the
+/// import was finished.
+void keepTheNumber(Application& app, const FileError& error, int before) {
+    LoggedChange change(app);
+    if (readNumber32(app.files(), paths::OverallGameNumber) != before)
+        return;
+    const ImportRefused refused{fileNameOf(app.state.SaveStatePath), error.what()};
+    carryOut(app, refused);
+    change.commit(refused);
 }
 
 /// Keeps the raised number of an import that broke, and has an open window show the standings without its
 /// game. Where that breaks as well the first error says enough.
-void undoAllButTheNumber(Application& app, StatExtractor& window, const ApplicationState& before,
-                         int number) {
-    app.state = before;
+void undoAllButTheNumber(Application& app, StatExtractor& window, const FileError& error, int before) {
     try {
-        Operation operation(app);
-        app.files().write(paths::OverallGameNumber, numberLine(number));
-        operation.commit();
+        keepTheNumber(app, error, before);
         if (!app.windows().isOpen(WindowId::Standings))
             return;
         Standings::in(app).DivisionStandingsUpdate();
@@ -56,37 +53,37 @@ class GameInHand {
 public:
     GameInHand(Application& app, StatExtractor& window) : app_(app), window_(window) {}
 
-    /// Stages everything that the game changes, or says why it is refused, having staged nothing. A folder
-    /// run has read the game just now; a single game is read here, since its file may have changed after it
-    /// was selected.
+    /// Stages everything that the game changes, or says why it is refused, having staged nothing. The game
+    /// has been read just now, but for one that nobody has looked at: its file may have changed since it was
+    /// selected.
     std::optional<Refusal> import();
 
-    /// To be called once the changes are on the disk.
-    void keepSeries() { app_.state.PlayoffSeries = series_; }
+    /// The game as the history tells of it, once it is staged; its number is the raised one.
+    const GameImported& entry() const { return entry_; }
 
 private:
     std::optional<Refusal> refusal(const PlayedGame& game);
     std::optional<Refusal> seasonRefusal(const GameSheet& game) const;
     bool hasGamesLeft(TeamIndex team) const;
     void publish();
-    void fold(const PlayedGame& played);
 
     Application& app_;
     StatExtractor& window_;
-    PlayoffSeriesTable series_;
-    std::optional<SeriesOfGame> seriesOfGame_;
+    GameImported entry_;
 };
 
 std::optional<Refusal> GameInHand::import() {
-    if (window_.Exhibition && window_.T1Coach < 1 && window_.T2Coach < 1)
+    if (window_.lacksCoach())
         return Refusal{"Please select at least one coach first to import exhibition game to", true};
     if (!window_.GameLoaded)
         return Refusal{"Please load a file first!"};
-    const PlayedGame& game = window_.ImportMode == 1 ? window_.gameInHand() : window_.readGameInHand();
+    const PlayedGame& game =
+        window_.Force && window_.ImportMode != 1 ? window_.readGameInHand() : window_.gameInHand();
     if (auto refused = refusal(game))
         return refused;
     publish();
-    fold(game);
+    entry_ = window_.bookEntry();
+    foldGame(app_, entry_, game.rosters);
     return std::nullopt;
 }
 
@@ -96,11 +93,7 @@ std::optional<Refusal> GameInHand::refusal(const PlayedGame& game) {
     if (auto seasonOver = seasonRefusal(game.sheet))
         return seasonOver;
     readPlayoffRecords(app_.files(), app_.state.PlayoffSeries);
-    series_ = app_.state.PlayoffSeries;
-    if (!window_.Season || !app_.state.PlayoffMode)
-        return std::nullopt;
-    seriesOfGame_ = seriesOfGame(series_, {.home = game.sheet.home.team, .away = game.sheet.away.team});
-    if (!seriesOfGame_)
+    if (window_.Season && app_.state.PlayoffMode && !openSeries(app_.state, game.sheet))
         return Refusal{"Cannot import file because this is not a valid post season game."};
     return std::nullopt;
 }
@@ -129,24 +122,6 @@ void GameInHand::publish() {
     window_.FillWindow = true;
 }
 
-void GameInHand::fold(const PlayedGame& played) {
-    const ApplicationState& state = app_.state;
-    const ImportedGame game{played.sheet,
-                            played.rosters,
-                            state.partOfYear(),
-                            window_.Season,
-                            state.GameLastPeriod >= OvertimePeriod,
-                            state.SeasonLength,
-                            {window_.homeCoach(), window_.awayCoach()},
-                            state.Star,
-                            state.StarSlot};
-    importGame(app_.files(), game);
-    if (seriesOfGame_)
-        recordResult(series_, *seriesOfGame_, {.home = game.sheet.home.Goals, .away = game.sheet.away.Goals});
-    if (window_.Season)
-        app_.files().write(paths::PlayoffRecords, textOf(series_));
-}
-
 /// The state of the window and the run when an import ends, however it ends.
 class ImportEnd {
 public:
@@ -166,9 +141,19 @@ private:
     StatExtractor& window_;
 };
 
+/// Whether the user stays with a game that looks like a mistake. Reads the game. A folder run has passed over
+/// such games already.
+bool isWanted(Application& app, StatExtractor& window) {
+    if (window.Force || window.ImportMode == 1 || !window.GameLoaded || window.lacksCoach())
+        return true;
+    const auto doubt = window.doubtAbout(window.readGameInHand());
+    return !doubt || app.platform().ask({doubt->question(), Buttons::YesNo, "Import", true}) == Answer::Yes;
+}
+
 /// How an import ended.
 struct Outcome {
-    std::optional<Refusal> refusal;
+    bool unwanted = false; ///< the user thought better of it; nothing has changed
+    std::optional<Refusal> refusal = std::nullopt;
     bool seasonEnds = false; ///< the game was the last of the regular season
 };
 
@@ -183,26 +168,28 @@ void noteFolderRun(Application& app, const StatExtractor& window) {
 /// broke the raised number stays alone. What an import shows afterwards is worked out here, too, before
 /// anything reaches the disk: a game that has been imported can then no longer end with an error.
 Outcome importGameInHand(Application& app, StatExtractor& window) {
-    const BusyPointer busy(app.platform());
-    const int number = raisedGameNumber(app.files());
-    const ApplicationState before = app.state;
+    requireHigherGameNumber(app.files());
+    const int before = readNumber32(app.files(), paths::OverallGameNumber);
     try {
-        Operation operation(app);
+        if (!isWanted(app, window))
+            return {.unwanted = true};
+        const BusyPointer busy(app.platform());
+        LoggedChange change(app);
         GameInHand game(app, window);
-        app.files().write(paths::OverallGameNumber, numberLine(number));
-        Outcome outcome{game.import()};
-        if (!outcome.refusal) {
-            outcome.seasonEnds = seasonIsOver(app);
-            if (window.ImportMode == 1)
-                noteFolderRun(app, window);
-            window.updateStandings();
+        raiseGameNumber(app.files());
+        Outcome outcome{.refusal = game.import()};
+        if (outcome.refusal) {
+            change.commit(ImportRefused{fileNameOf(app.state.SaveStatePath), outcome.refusal->text});
+            return outcome;
         }
-        operation.commit();
-        if (!outcome.refusal)
-            game.keepSeries();
+        outcome.seasonEnds = seasonIsOver(app);
+        if (window.ImportMode == 1)
+            noteFolderRun(app, window);
+        window.updateStandings();
+        change.commit(game.entry(), outcome.seasonEnds);
         return outcome;
-    } catch (const FileError&) {
-        undoAllButTheNumber(app, window, before, number);
+    } catch (const FileError& error) {
+        undoAllButTheNumber(app, window, error, before);
         throw;
     }
 }
@@ -213,6 +200,10 @@ void StatExtractor::ImportStats_Click() {
     const bool single = ImportMode != 1;
     ImportEnd end(app_, *this);
     const Outcome outcome = importGameInHand(app_, *this);
+    if (outcome.unwanted) {
+        end.keepsGame = true;
+        return;
+    }
     if (const auto& refusal = outcome.refusal) {
         end.keepsGame = refusal->keepsGame;
         const Answer answer = app_.platform().ask({refusal->text, single ? Buttons::Ok : Buttons::OkCancel});

@@ -1,11 +1,19 @@
 #include "games/SaveState.h"
 
 #include "games/SaveStateMap.h"
+#include "games/TeamSheetFields.h"
 #include "league/Roster.h"
 
 namespace iceline {
 
 namespace {
+
+/// The league reads nothing at or after this place.
+constexpr auto UsedBytes =
+    static_cast<std::size_t>(SecondBlockFields.back().lowByte + SaveStateMap::SecondAwayBlock + 1);
+
+constexpr int Shots = FirstBlockFields.front().lowByte;
+static_assert(FirstBlockFields.front().figure == &TeamSheet::Shots);
 
 struct TimeStamp {
     int period;
@@ -125,6 +133,21 @@ std::vector<PenaltyEntry> SaveState::penaltyEntries() const {
 std::optional<std::string> SaveState::refusal() const {
     const auto wrong = whatIsWrong(*this);
     return wrong ? std::optional(file_ + ": " + *wrong) : std::nullopt;
+}
+
+std::optional<std::string> SaveState::doubt() const {
+    const auto is = [this](const std::string& wrong) {
+        return std::optional(file_ + " holds no finished game: " + wrong + ".");
+    };
+    if (bytes_.empty())
+        return is("the file is empty");
+    if (bytes_.size() < UsedBytes)
+        return is("the file is cut");
+    if (team(Side::Home) == team(Side::Away))
+        return is("a team is against itself");
+    if (figure(Side::Home, Shots) + figure(Side::Away, Shots) == 0)
+        return is("neither team has a shot");
+    return std::nullopt;
 }
 
 } // namespace iceline

@@ -42,6 +42,10 @@ public:
     /// it can.
     std::optional<std::string> refusal() const;
 
+    /// Why the file holds no game that was played to its end, in a sentence that names it: it is empty or
+    /// cut, a team is against itself, or neither team has a shot. None when nothing speaks against it.
+    std::optional<std::string> doubt() const;
+
 private:
     std::string file_;
     std::string bytes_;

@@ -1,21 +1,46 @@
 #include "games/StatExtractor.h"
 
+#include "games/BookEntry.h"
 #include "games/BoxScorePage.h"
 #include "games/Summaries.h"
 #include "games/ThreeStars.h"
+#include "log/EntryText.h"
+#include "log/HistoryLog.h"
 #include "playoffs/SeasonEnd.h"
 #include "shell/Application.h"
 #include "text/Text.h"
+
+#include <set>
 
 namespace iceline {
 
 namespace {
 
-std::string fileNameOf(const std::string& path) {
-    return path.substr(path.find_last_of("/\\") + 1);
+/// Notes the rosters that the import of a game reads, where the history does not know them.
+void noteRosters(Application& app, GameImported& game) {
+    std::set<TeamIndex> teams{game.sheet.home.team, game.sheet.away.team};
+    for (const LoggedStar& star : game.stars)
+        teams.insert(star.team);
+    for (const TeamIndex team : teams) {
+        const std::string abbr(TeamAbbr[team]);
+        const std::string roster = app.files().read(paths::playersList(team));
+        if (!app.log().knowsRoster(app.files(), abbr, roster))
+            game.rosters[abbr] = roster;
+    }
+}
+
+std::string alreadyCounted(const CountedGame& game) {
+    return "This game is in the books as game " + std::to_string(game.gameNumber) + ": " +
+           std::string(TeamName[game.home]) + " " + std::to_string(game.homeGoals) + ", " +
+           std::string(TeamName[game.away]) + " " + std::to_string(game.awayGoals) + ", imported on " +
+           game.time.substr(0, game.time.find('T')) + ".";
 }
 
 } // namespace
+
+std::string fileNameOf(const std::string& path) {
+    return path.substr(path.find_last_of("/\\") + 1);
+}
 
 StatExtractor& StatExtractor::in(Application& app) {
     return static_cast<StatExtractor&>(app.windows().use(WindowId::StatExtractor));
@@ -82,6 +107,40 @@ void StatExtractor::publishGame() {
                   {reportGame(), boxScorePageName(SaveStateFileName), gameKind(), homeCoach(), awayCoach()});
 }
 
+GameImported StatExtractor::bookEntry() {
+    const ApplicationState& state = app_.state;
+    GameImported entry;
+    entry.gameNumber = readNumber32(app_.files(), paths::OverallGameNumber);
+    entry.part = state.partOfYear();
+    entry.season = Season;
+    entry.exhibition = Exhibition;
+    entry.saveState = SaveStateFileName;
+    entry.sheet = game_->sheet;
+    entry.lastScorer = game_->lastScorer;
+    entry.fingerprint = fingerprintOf(entry.sheet, entry.lastScorer);
+    entry.homeCoach = homeCoach();
+    entry.awayCoach = awayCoach();
+    entry.lastPeriod = state.GameLastPeriod;
+    for (std::size_t k = 0; k < entry.stars.size(); ++k)
+        entry.stars[k] = {state.Star[k].Team, state.Star[k].Name, state.StarSlot[k]};
+    noteRosters(app_, entry);
+    return entry;
+}
+
+std::optional<GameDoubt> StatExtractor::doubtAbout(const PlayedGame& game) {
+    if (game.refusal)
+        return std::nullopt;
+    if (game.unfinished)
+        return GameDoubt{GameDoubt::Kind::Unfinished, *game.unfinished};
+    try {
+        if (const auto counted = app_.log().find(app_.files(), fingerprintOf(game.sheet, game.lastScorer)))
+            return GameDoubt{GameDoubt::Kind::AlreadyCounted, alreadyCounted(*counted)};
+    } catch (const DamagedHistory&) {
+        return std::nullopt;
+    }
+    return std::nullopt;
+}
+
 void StatExtractor::T1Coach_Click(int listIndex) {
     T1Coach = listIndex;
     if (T1Coach == T2Coach)
@@ -106,11 +165,7 @@ std::string StatExtractor::caption() const {
 }
 
 std::optional<GameKind> StatExtractor::gameKind() const {
-    if (Exhibition)
-        return GameKind::Exhibition;
-    if (Season)
-        return GameKind::Season;
-    return app_.state.PlayoffMode ? std::optional(GameKind::Playoff) : std::nullopt;
+    return iceline::gameKind(Season, Exhibition, app_.state.PlayoffMode);
 }
 
 std::optional<std::string> StatExtractor::coachAt(int position) const {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "games/GameReport.h"
+#include "log/Entry.h"
 #include "shell/Platform.h"
 #include "shell/Window.h"
 
@@ -9,6 +10,21 @@
 #include <vector>
 
 namespace iceline {
+
+/// What follows the last folder of a path.
+std::string fileNameOf(const std::string& path);
+
+/// Why a game had better not be imported.
+struct GameDoubt {
+    enum class Kind { AlreadyCounted, Unfinished };
+
+    Kind kind;
+    std::string text; ///< "This game is in the books as game 12: ..."
+
+    std::string question() const {
+        return text + (kind == Kind::AlreadyCounted ? " Count it again?" : " Count it all the same?");
+    }
+};
 
 /// The game window: through it every game enters the league.
 class StatExtractor : public Window {
@@ -42,7 +58,17 @@ public:
     /// The game read last; readGameInHand() or LoadStats_Click must have read one.
     const PlayedGame& gameInHand() const { return game_.value(); }
 
-    /// "Import Game".
+    /// The game read last as the history tells of it when it is imported now; its stars must be chosen.
+    GameImported bookEntry();
+
+    /// Whether a game is in the books already, or is none that was played to its end. A history that is
+    /// damaged knows no game; the import asks about it.
+    std::optional<GameDoubt> doubtAbout(const PlayedGame& game);
+
+    /// An exhibition game is to be imported and nobody would get it.
+    bool lacksCoach() const { return Exhibition && T1Coach < 1 && T2Coach < 1; }
+
+    /// "Import Game". A game in doubt is imported when the user says so.
     void ImportStats_Click();
 
     /// "Import Folder".
@@ -76,6 +102,8 @@ public:
     int ImportMode = 0;               ///< 0 a single game, 1 a folder run
     int ImportCount = 0;              ///< games imported in this run
     Answer ImportAnswer = Answer::Ok; ///< the button pressed at the last refusal of a folder run
+    bool Force = false;               ///< games in doubt are imported without a question
+    int PassedOver = 0;               ///< files of the last folder run that were in doubt or refused
 
     /// The option buttons, one group.
     bool Season = false;

@@ -1,12 +1,12 @@
 #include "season/Options.h"
 
-#include "books/Clearing.h"
 #include "coaches/Coaches.h"
 #include "files/FileError.h"
 #include "leaders/Rankings.h"
 #include "league/Numbers.h"
 #include "playoffs/SeasonEnd.h"
-#include "shell/Application.h"
+#include "season/SeasonOperations.h"
+#include "shell/LoggedChange.h"
 #include "standings/Standings.h"
 #include "store/LeagueFiles.h"
 #include "text/Names.h"
@@ -24,13 +24,6 @@ namespace {
 constexpr int EndedByHand = -1;
 constexpr int SeasonLengthLimit = std::numeric_limits<std::int16_t>::max();
 
-void storeSeasonLength(Application& app, int length) {
-    Operation operation(app);
-    app.files().write(paths::GamesUntilPlayoffs, numberLine(length));
-    operation.commit();
-    app.state.SeasonLength = length;
-}
-
 /// Has an open window show the standings of the files; one that cannot read them shows what it did.
 void showStandingsOfFiles(Application& app) {
     try {
@@ -41,17 +34,17 @@ void showStandingsOfFiles(Application& app) {
     }
 }
 
-/// Makes changes together with what is worked out of them afterwards, so that nothing can fail once they are
-/// on the disk. When they do not get there, the shared state and the standings on view are as before.
-template <class Changes>
-void changeWhole(Application& app, Changes changes) {
-    const ApplicationState before = app.state;
+/// Does the operation and notes it in the history, together with what is worked out of it afterwards, so that
+/// nothing can fail once it is on the disk. When it does not get there, the shared state and the standings on
+/// view are as before.
+template <class Kind, class Afterwards>
+void perform(Application& app, const Kind& operation, Afterwards afterwards) {
     try {
-        Operation operation(app);
-        changes();
-        operation.commit();
+        LoggedChange change(app);
+        carryOut(app, operation);
+        afterwards();
+        change.commit(operation);
     } catch (const FileError&) {
-        app.state = before;
         showStandingsOfFiles(app);
         throw;
     }
@@ -91,12 +84,10 @@ std::string Options::chosenCoach() const {
 }
 
 /// Changes the coaches and shows them as they are then.
-void Options::changeCoaches(const std::function<void(Files&)>& change) {
+template <class Kind>
+void Options::changeCoaches(const Kind& operation) {
     std::vector<std::string> coaches;
-    changeWhole(app_, [&] {
-        change(app_.files());
-        coaches = coachNames(app_.files());
-    });
+    perform(app_, operation, [&] { coaches = coachNames(app_.files()); });
     content_.coaches = coaches;
     Combo1 = NotChosen;
 }
@@ -135,7 +126,7 @@ bool Options::acceptsNewName(const std::string& former) {
 
 void Options::Command1_Click() {
     if (acceptsNewName())
-        changeCoaches([this](Files& files) { createCoach(files, NewC); });
+        changeCoaches(CoachAdded{NewC});
     NewC.clear();
     changed();
 }
@@ -159,7 +150,7 @@ void Options::Command2_Click() {
         return;
     const std::string coach = chosenCoach();
     if (acceptsNewName(coach)) {
-        changeCoaches([&](Files& files) { renameCoach(files, coach, NewC); });
+        changeCoaches(CoachRenamed{coach, NewC});
         // His folder goes by the former name until the new one is on the disk.
         std::ranges::replace(content_.coaches, coach, NewC);
         std::ranges::sort(content_.coaches, nameBefore);
@@ -173,7 +164,7 @@ void Options::DeleteCoach_Click() {
         return;
     if (!confirms(app_, "Are you sure you want to delete coach " + chosenCoach() + "?"))
         return;
-    changeCoaches([this](Files& files) { deleteCoach(files, chosenCoach()); });
+    changeCoaches(CoachDeleted{chosenCoach()});
     content_.Command2Visible = false;
     changed();
 }
@@ -186,9 +177,7 @@ void Options::CoachTeam_Click() {
     const std::string coach = chosenCoach();
     if (!confirms(app_, "Are you sure you want to clear all of Coach " + coach + "'s Stats?"))
         return;
-    Operation operation(app_);
-    clearCoach(app_.files(), coach);
-    operation.commit();
+    perform(app_, CoachCleared{coach}, [] {});
     app_.platform().say(coach + "'s Stats have been cleared.");
 }
 
@@ -199,7 +188,7 @@ void Options::EnterSeasonLength_Click() {
                             SeasonLength + "\".");
         return;
     }
-    storeSeasonLength(app_, *length);
+    perform(app_, SeasonLengthSet{*length}, [] {});
     content_.CurrentSeasonLength = std::to_string(*length);
     changed();
     app_.platform().say("The Season Length has been updated.");
@@ -209,10 +198,7 @@ void Options::GoToPlayoffs_Click() {
     if (!confirms(app_, "Are you sure you want to end the Regular Season and move to the Playoffs?"))
         return;
     bool seasonEnds = false;
-    changeWhole(app_, [&] {
-        storeSeasonLength(app_, EndedByHand);
-        seasonEnds = seasonIsOver(app_);
-    });
+    perform(app_, GoneToPlayoffs(), [&] { seasonEnds = seasonIsOver(app_); });
     if (seasonEnds)
         turnToPlayoffs(app_);
     app_.platform().say("The Regular Season is now over, proceed with the Playoffs.");
@@ -236,17 +222,13 @@ void Options::Command8_Click() {
 }
 
 void Options::clearOneTeam(TeamIndex team) {
-    changeWhole(app_, [&] {
-        clearTeam(app_.files(), team);
-        afterClearing();
-    });
+    perform(app_, StatsCleared{team}, [this] { afterClearing(); });
     app_.platform().say(std::string(TeamName[team]) + " stats cleared");
 }
 
 void Options::clearWholeLeague() {
     int length = 0;
-    changeWhole(app_, [&] {
-        clearLeague(app_.files());
+    perform(app_, StatsCleared{AllTeams}, [&] {
         length = readNumber16(app_.files(), paths::GamesUntilPlayoffs);
         afterClearing();
     });
@@ -255,9 +237,8 @@ void Options::clearWholeLeague() {
     app_.platform().say("All stats have been cleared.");
 }
 
-/// The league is back in its regular season, and the tables in memory follow the files.
+/// The tables in memory follow the files.
 void Options::afterClearing() {
-    returnToSeason(app_);
     Standings::in(app_).DivisionStandingsUpdate();
     Rankings::in(app_, PartOfYear::Season).tmLeadersLoad();
 }

@@ -4,7 +4,6 @@
 #include "league/TeamTable.h"
 #include "shell/Window.h"
 
-#include <functional>
 #include <optional>
 #include <string>
 #include <vector>
@@ -61,7 +60,8 @@ private:
     bool isCoachChosen();
     bool acceptsNewName(const std::string& former = "");
     void turnRenamingFor(const std::string& coach);
-    void changeCoaches(const std::function<void(Files&)>& change);
+    template <class Kind>
+    void changeCoaches(const Kind& operation);
     void clearOneTeam(TeamIndex team);
     void clearWholeLeague();
     void afterClearing();

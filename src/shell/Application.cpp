@@ -1,12 +1,15 @@
 #include "shell/Application.h"
 
 #include "files/FileError.h"
+#include "log/HistoryLog.h"
 
 namespace iceline {
 
 Application::Application(Files& disk, Files& siteTemplate, Platform& platform, WindowCatalogue catalogue)
     : inForce_{&disk}, siteTemplate_(siteTemplate), platform_(platform), journal_(disk),
-      windows_(*this, catalogue) {}
+      log_(std::make_unique<HistoryLog>()), windows_(*this, catalogue) {}
+
+Application::~Application() = default;
 
 void Application::requireChangeable() const {
     if (lookOnly_)

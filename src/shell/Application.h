@@ -7,9 +7,12 @@
 #include "shell/Platform.h"
 #include "shell/Windows.h"
 
+#include <memory>
 #include <vector>
 
 namespace iceline {
+
+class HistoryLog;
 
 /// One run of the program on one league: its files, its platform, the shared state and the windows.
 class Application {
@@ -17,6 +20,9 @@ public:
     /// `disk` is the league folder; `siteTemplate` the site as delivered with the program. All must outlive
     /// the application, which opens the windows of `catalogue`.
     Application(Files& disk, Files& siteTemplate, Platform& platform, WindowCatalogue catalogue);
+    ~Application();
+    Application(const Application&) = delete;
+    Application& operator=(const Application&) = delete;
 
     /// The files that count for whoever asks now: those of the operation in hand, or the disk.
     Files& files() { return *inForce_.back(); }
@@ -24,6 +30,7 @@ public:
     Files& siteTemplate() { return siteTemplate_; }
     Platform& platform() { return platform_; }
     Journal& journal() { return journal_; }
+    HistoryLog& log() { return *log_; }
     Windows& windows() { return windows_; }
 
     /// True while an Operation lives.
@@ -48,6 +55,7 @@ private:
     Files& siteTemplate_;
     Platform& platform_;
     Journal journal_;
+    std::unique_ptr<HistoryLog> log_;
     Windows windows_;
     int operations_ = 0;
     int committed_ = 0;

@@ -23,6 +23,8 @@ struct ApplicationState {
     bool StartupDone = false; ///< start-up has run
     bool SplashDone = false;  ///< the credits have rolled to their end
 
+    bool Logged = false; ///< this run has a line in the history
+
     /// Games that a team plays in the regular season; -1 when it was ended by hand.
     int SeasonLength = 0;
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <chrono>
 #include <optional>
 #include <string>
 #include <vector>
@@ -16,6 +17,7 @@ struct Message {
     std::string text; ///< lines are separated by '\n'
     Buttons buttons = Buttons::Ok;
     std::string title = "Iceline Scorebook";
+    bool isWarning = false; ///< Yes is most likely a mistake: No is the default, and what a script answers
 };
 
 struct FileFilter {
@@ -52,6 +54,9 @@ public:
 
     /// A number in [0, 1), seeded from the clock.
     virtual double random() = 0;
+
+    /// What the clock shows.
+    virtual std::chrono::system_clock::time_point now() { return std::chrono::system_clock::now(); }
 
     /// Shows how far a run is; false once the user has asked to stop it.
     virtual bool showProgress(const Progress& progress) = 0;

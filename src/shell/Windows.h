@@ -68,6 +68,7 @@ public:
     /// `catalogue` has a row for each WindowId, in that order.
     Windows(Application& application, WindowCatalogue catalogue) : app_(application), catalogue_(catalogue) {}
 
+    WindowCatalogue catalogue() const { return catalogue_; }
     const CatalogueRow& row(WindowId id) const { return catalogue_[static_cast<std::size_t>(id)]; }
 
     /// The window, loaded. When its load throws, the window is not loaded.

@@ -345,7 +345,7 @@ TEST_P(DamagedFile, StopsTheImportAndNothingButTheNumberChanges) {
     }
     auto expected = before;
     expected[paths::OverallGameNumber] = "1\r\n";
-    EXPECT_EQ(files().files, expected);
+    EXPECT_EQ(withoutHistory(files().files), expected);
     EXPECT_THAT(league.said(), IsEmpty());
     EXPECT_FALSE(window().GameLoaded);
     EXPECT_TRUE(window().FillWindow);
@@ -380,7 +380,7 @@ TEST_F(GameImport, ADamagedFileOfAThirdTeamStopsTheImportUntilItIsMended) {
     auto expected = files().files;
     expected[paths::OverallGameNumber] = "1\r\n";
     EXPECT_THROW(window().ImportStats_Click(), FileError);
-    EXPECT_EQ(files().files, expected);
+    EXPECT_EQ(withoutHistory(files().files), withoutHistory(expected));
     EXPECT_THAT(league.said(), IsEmpty());
     EXPECT_EQ(window().ImportCount, 0);
 

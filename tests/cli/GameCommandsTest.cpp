@@ -146,9 +146,12 @@ TEST_F(GameCommandsTest, AFolderRunShowsItsProgressOnATerminalAlone) {
 TEST_F(GameCommandsTest, ARefusalInAFolderIsPassedOverOrEndsTheRun) {
     fs::rename(strangeGame(), folder() + "/game-0001b.gs0");
     const Outcome goesOn = iceline({"import-folder", folder()});
-    EXPECT_EQ(goesOn.status, 1);
-    EXPECT_THAT(goesOn.out, EndsWith("\n3 Files imported\n"));
-    const Outcome stops = iceline({"import-folder", folder(), "--stop-on-refusal"});
+    EXPECT_EQ(goesOn.status, 3);
+    EXPECT_THAT(goesOn.out, EndsWith("\n3 imported, 1 refused\ngame-0001b.gs0: refused\n"));
+    const Outcome again = iceline({"import-folder", folder()});
+    EXPECT_EQ(again.status, 3);
+    EXPECT_THAT(again.out, HasSubstr("\n0 imported, 3 already in the books, 1 refused\n"));
+    const Outcome stops = iceline({"import-folder", folder(), "--stop-on-refusal", "--force"});
     EXPECT_EQ(stops.status, 1);
     EXPECT_THAT(stops.out, EndsWith("\n1 Files imported\n"));
 }

@@ -37,7 +37,7 @@ public:
     /// The league as the next start finds it.
     Contents afterRestart() {
         Journal(memory_).recover();
-        return memory_.files;
+        return withoutHistory(memory_.files);
     }
 
     std::vector<std::string> said() const { return platform_.said(); }

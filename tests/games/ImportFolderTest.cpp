@@ -14,7 +14,10 @@ using testing::HasSubstr;
 
 class ImportFolder : public ImportLeague {
 protected:
-    ImportFolder() { choose(GameKind::Season); }
+    ImportFolder() {
+        choose(GameKind::Season);
+        window().Force = true;
+    }
 
     void run(const std::string& folder = "Games") {
         files().makeFolder(folder);
@@ -55,6 +58,7 @@ TEST_F(ImportFolder, LeavesTheSameLeagueAsSingleImports) {
     save("Games/2.gs0", GameSheet(Montreal, Boston));
     TestLeague other(files());
     StatExtractor& single = StatExtractor::in(other.app);
+    single.Force = true;
     single.Exhibition = false;
     single.Season = true;
     for (const char* path : {"Games/1.gs0", "Games/2.gs0"}) {
@@ -93,6 +97,7 @@ TEST_F(ImportFolder, ExhibitionGamesNeedACoach) {
                 ElementsAre("Please select at least one coach first to import exhibition game to"));
     league.platform.chosen.clear();
     window().T2Coach = 1;
+    window().Force = true;
     run();
     EXPECT_EQ(lastSaid(), "2 Files imported");
     EXPECT_EQ(league.coachRecord("Ann").Losses, 2);
@@ -179,8 +184,10 @@ TEST_F(ImportFolder, AGameIsNotImportedWhenTheStandingsOfAThirdTeamCannotBeRead)
 
 /// Whatever use of the disk the program dies at.
 TEST_F(ImportFolder, TheNextStartTellsWhatOfABrokenRunIsIn) {
-    for (const char* path : {"Games/1.gs0", "Games/2.gs0"})
-        save(path, lovelyGame());
+    GameSheet second = lovelyGame();
+    ++second.crowdMeter;
+    save("Games/1.gs0", lovelyGame());
+    save("Games/2.gs0", second);
     files().makeFolder("Games");
     std::set<std::string> told;
     bool failed = true;

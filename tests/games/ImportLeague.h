@@ -69,7 +69,7 @@ protected:
         std::set<std::string> changed;
         for (const auto& [path, text] : files().files)
             if (!path.starts_with(paths::WebRoot) && !path.starts_with("Games/") &&
-                (!before.contains(path) || before.at(path) != text))
+                !path.starts_with("History/") && (!before.contains(path) || before.at(path) != text))
                 changed.insert(path);
         return changed;
     }

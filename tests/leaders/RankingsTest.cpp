@@ -158,15 +158,15 @@ TEST(StarLeaders, SkatersAndGoaliesAreInOneTable) {
 }
 
 /// All teams have played, each with one point less than the one before it, but for what a test changes.
-TestLeague playedLeague() {
+test::MemoryFiles playedLeague() {
     TestLeague league;
     for (const TeamIndex team : AllLeagueTeams)
         league.setRecord(team, PartOfYear::Season, teamRecord(30, 40 - team.number()));
-    return league;
+    return league.files;
 }
 
 TEST(TeamLeaders, TeamsWithoutGamesTakeATurnAndNoRow) {
-    TestLeague league = playedLeague();
+    TestLeague league(playedLeague());
     for (const TeamIndex team : {BOS, BUF, CGY})
         league.setRecord(team, PartOfYear::Season, {});
 

@@ -48,6 +48,11 @@ std::string rosterText(const Roster& roster) {
     return text;
 }
 
+std::map<std::string, std::string> withoutHistory(std::map<std::string, std::string> files) {
+    std::erase_if(files, [](const auto& file) { return file.first.starts_with("History/"); });
+    return files;
+}
+
 void writeToDisk(const MemoryFiles& league, const std::filesystem::path& folder) {
     for (const std::string& path : league.folders)
         std::filesystem::create_directories(folder / path);

@@ -64,6 +64,9 @@ std::string rosterText(const Roster& roster);
 /// A site template as small as tests need it.
 MemoryFiles smallSiteTemplate();
 
+/// The files of a league but for those of its history, whose lines bear the time.
+std::map<std::string, std::string> withoutHistory(std::map<std::string, std::string> files);
+
 /// Writes a league into a folder of the disk.
 void writeToDisk(const MemoryFiles& league, const std::filesystem::path& folder);
 

@@ -20,6 +20,7 @@ public:
     double random() override { return randomNumber; }
     bool showProgress(const Progress& progress) override;
     void endProgress() override {}
+    std::chrono::system_clock::time_point now() override { return clock; }
 
     /// Texts of the message boxes, in order.
     std::vector<std::string> said() const;
@@ -31,6 +32,7 @@ public:
     int stopAfter = -1; ///< progress calls after which the user stops the run; never when negative
     double randomNumber = 0;
     int busyDepth = 0;
+    std::chrono::system_clock::time_point clock{std::chrono::hours(24 * 365 * 50)}; ///< 19 December 2019
 };
 
 } // namespace iceline::test
