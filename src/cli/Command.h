@@ -93,6 +93,7 @@ CLI::Validator wholeNumber(Number least) {
 void addGameCommands(CLI::App& program, Call& call);
 void addLeagueCommands(CLI::App& program, Call& call);
 void addSeasonCommands(CLI::App& program, Call& call);
+void addHistoryCommands(CLI::App& program, Call& call);
 void addSampleGamesCommand(CLI::App& program, Call& call);
 void addWindowCommands(CLI::App& program, Call& call);
 void addCoachCommands(CLI::App& program, Call& call);

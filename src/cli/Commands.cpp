@@ -96,6 +96,7 @@ void addScriptableCommands(CLI::App& program, Call& call) {
     addWindowCommands(program, call);
     addCoachCommands(program, call);
     addSeasonCommands(program, call);
+    addHistoryCommands(program, call);
     addSampleGamesCommand(program, call);
     addHelpCommand(program, call);
 }

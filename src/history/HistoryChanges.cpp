@@ -1,0 +1,304 @@
+#include "history/HistoryChanges.h"
+
+#include "coaches/Coaches.h"
+#include "files/FileError.h"
+#include "games/BookEntry.h"
+#include "games/StatExtractor.h"
+#include "games/ThreeStars.h"
+#include "history/Backup.h"
+#include "leaders/Rankings.h"
+#include "log/EntryText.h"
+#include "shell/LoggedChange.h"
+#include "standings/Standings.h"
+
+#include <algorithm>
+#include <nlohmann/json.hpp>
+#include <set>
+
+namespace iceline {
+
+namespace {
+
+std::optional<std::string> contentIn(const FileContents& books, const std::string& path) {
+    const auto file = books.find(path);
+    return file == books.end() ? std::nullopt : std::optional(file->second);
+}
+
+std::optional<std::string> contentIn(Files& files, const std::string& path) {
+    return files.isFile(path) ? std::optional(files.read(path)) : std::nullopt;
+}
+
+void put(Files& files, const std::string& path, const std::optional<std::string>& content) {
+    if (!content)
+        return files.remove(path);
+    files.makeFolder(folderOf(path));
+    files.write(path, *content);
+}
+
+/// The league as its history makes it and as it would be with one line more.
+struct TwoWays {
+    std::unique_ptr<Replay> asIs;
+    std::unique_ptr<Replay> changed;
+};
+
+bool isSame(const Step& one, const Step& other) {
+    return one.undone == other.undone && jsonOf(one.entry) == jsonOf(other.entry);
+}
+
+/// Both ways share the steps up to the first that differs.
+TwoWays workOut(Application& app, const std::vector<Step>& now, const std::vector<Step>& then) {
+    TwoWays ways{std::make_unique<Replay>(readBaseline(app.files()), app.windows().catalogue()), nullptr};
+    std::size_t step = 0;
+    for (; step < now.size() && isSame(now[step], then[step]); ++step)
+        ways.asIs->carryOut(now[step]);
+    ways.changed = ways.asIs->fork();
+    for (std::size_t i = step; i < now.size(); ++i)
+        ways.asIs->carryOut(now[i]);
+    for (std::size_t i = step; i < then.size(); ++i)
+        ways.changed->carryOut(then[i]);
+    return ways;
+}
+
+std::set<std::string> pathsOf(const FileContents& one, const FileContents& other) {
+    std::set<std::string> all;
+    for (const auto* books : {&one, &other})
+        for (const auto& file : *books)
+            all.insert(file.first);
+    return all;
+}
+
+/// Writes what comes out differently. A file that was changed by hand is not written over.
+void writeDifferences(Files& files, const FileContents& asIs, const FileContents& changed) {
+    for (const std::string& path : pathsOf(asIs, changed)) {
+        const auto before = contentIn(asIs, path);
+        const auto after = contentIn(changed, path);
+        if (before == after)
+            continue;
+        if (contentIn(files, path) != before)
+            throw HistoryRefusal(path +
+                                 " was changed by hand, and this would write over it. \"iceline audit\" "
+                                 "says what is different; accept or repair it first.");
+        put(files, path, after);
+    }
+}
+
+/// Coaches whom the books do not know any more lose their folders.
+void removeEmptyCoachFolders(Files& files) {
+    for (const std::string& coach : coachNames(files))
+        if (files.filesIn(paths::coachFolder(coach)).empty() &&
+            files.foldersIn(paths::coachFolder(coach)).empty())
+            files.removeFolder(paths::coachFolder(coach));
+}
+
+void takeOver(ApplicationState& state, const ApplicationState& worked) {
+    state.SeasonLength = worked.SeasonLength;
+    state.PlayoffMode = worked.PlayoffMode;
+    state.SeasonFolder = worked.SeasonFolder;
+    state.PlayoffSeries = worked.PlayoffSeries;
+}
+
+/// What the windows show follows the files.
+void refreshWindows(Application& app) {
+    if (app.windows().isLoaded(WindowId::Standings))
+        Standings::in(app).Form_Load();
+    if (app.windows().isLoaded(WindowId::Rankings))
+        Rankings::in(app, PartOfYear::Season).tmLeadersLoad();
+}
+
+std::vector<Step> requireHistory(Application& app) {
+    std::vector<Step> steps = readHistory(app.files());
+    if (steps.empty())
+        throw HistoryRefusal("The league has no history yet.");
+    return steps;
+}
+
+/// Adds a line that changes what other lines come to.
+void apply(Application& app, const LoggedOperation& operation) {
+    LoggedChange change(app);
+    std::vector<Entry> entries = readLog(app.files());
+    const std::vector<Step> now = chronicleOf(entries);
+    entries.push_back({.number = static_cast<int>(entries.size()),
+                       .time = {},
+                       .starts = !app.state.Logged,
+                       .playoffs = false,
+                       .operation = operation});
+    try {
+        const TwoWays ways = workOut(app, now, chronicleOf(entries));
+        writeDifferences(app.files(), ways.asIs->books(), ways.changed->books());
+        removeEmptyCoachFolders(app.files());
+        takeOver(app.state, ways.changed->state());
+    } catch (const Misfit& misfit) {
+        throw HistoryRefusal(misfit.what());
+    }
+    change.commit(operation);
+    refreshWindows(app);
+}
+
+const Step& operationAt(const std::vector<Step>& steps, int number) {
+    if (number < 1 || number >= static_cast<int>(steps.size()) ||
+        !canBeUndone(steps[static_cast<std::size_t>(number)].entry.operation))
+        throw HistoryRefusal("There is no operation " + std::to_string(number) + " in the history.");
+    return steps[static_cast<std::size_t>(number)];
+}
+
+/// The game of another save state in the place of a game, with the stars that it has.
+void replaceGame(Application& app, GameImported& game, const std::string& file) {
+    const PlayedGame played = readGame(app.files(), file);
+    if (played.refusal)
+        throw HistoryRefusal(*played.refusal);
+    game.sheet = played.sheet;
+    game.lastScorer = played.lastScorer;
+    game.fingerprint = fingerprintOf(game.sheet, game.lastScorer);
+    game.saveState = fileNameOf(file);
+    ApplicationState state;
+    state.GameLastPeriod = game.lastPeriod = gameReport(played, 0).GameLastPeriod;
+    for (std::size_t k = 0; k < game.stars.size(); ++k) {
+        state.Star[k] = {game.stars[k].team, game.stars[k].name};
+        state.StarSlot[k] = game.stars[k].row;
+    }
+    selectStars(state, played);
+    for (std::size_t k = 0; k < game.stars.size(); ++k)
+        game.stars[k] = {state.Star[k].Team, state.Star[k].Name, state.StarSlot[k]};
+}
+
+void applyTo(GameImported& game, const Correction& correction) {
+    if (correction.exhibition) {
+        game.exhibition = *correction.exhibition;
+        game.season = !*correction.exhibition;
+    }
+    if (correction.homeCoach)
+        game.homeCoach = *correction.homeCoach;
+    if (correction.awayCoach)
+        game.awayCoach = *correction.awayCoach;
+    if (game.homeCoach && game.homeCoach == game.awayCoach)
+        throw HistoryRefusal("Nobody can coach both teams.");
+    if (game.exhibition && !game.homeCoach && !game.awayCoach)
+        throw HistoryRefusal("An exhibition game counts for coaches alone, so it needs at least one.");
+}
+
+/// The items of a file, with the place of each: line and item, counted from 1.
+struct Item {
+    int line;
+    int place;
+    std::string text;
+
+    friend bool operator==(const Item&, const Item&) = default;
+};
+
+std::vector<Item> itemsOf(const std::string& content) {
+    std::vector<Item> items;
+    Item item{1, 1, ""};
+    for (const char c : content) {
+        if (c == ',' || c == '\n') {
+            items.push_back(item);
+            item = c == ',' ? Item{item.line, item.place + 1, ""} : Item{item.line + 1, 1, ""};
+        } else if (c != '\r') {
+            item.text += c;
+        }
+    }
+    items.push_back(item);
+    return items;
+}
+
+/// " (WinPercent)" for an item of a file whose fields have names.
+std::string fieldName(const std::string& path, const Item& item) {
+    const auto fields = fieldsOf<TeamRecord>();
+    const auto place = static_cast<std::size_t>(item.place) - 1;
+    if (!path.ends_with("/" + paths::Records) || place >= fields.size())
+        return "";
+    return " (" + std::string(fields[place].name) + ")";
+}
+
+} // namespace
+
+std::string undo(Application& app, std::optional<int> number) {
+    const std::vector<Step> steps = requireHistory(app);
+    if (!number)
+        number = lastToUndo(steps);
+    if (!number)
+        throw HistoryRefusal("There is nothing to undo.");
+    const Step& step = operationAt(steps, *number);
+    if (step.undone)
+        throw HistoryRefusal("This has been undone already: " + titleOf(step) + ".");
+    apply(app, Undone{*number});
+    return "Undone: " + titleOf(step) + ".";
+}
+
+std::string redo(Application& app) {
+    const std::vector<Step> steps = requireHistory(app);
+    const auto number = lastToRedo(steps);
+    if (!number)
+        throw HistoryRefusal("There is nothing to redo.");
+    apply(app, Redone{*number});
+    return "Done again: " + titleOf(operationAt(steps, *number)) + ".";
+}
+
+std::string correct(Application& app, int number, const Correction& correction) {
+    const std::vector<Step> steps = requireHistory(app);
+    const Step& step = operationAt(steps, number);
+    const GameImported* game = gameAt(step);
+    if (!game)
+        throw HistoryRefusal("Operation " + std::to_string(number) +
+                             " of the history is no game in the books.");
+    GameCorrected corrected{number, *game};
+    corrected.game.gameNumber = step.gameNumber;
+    if (correction.file)
+        replaceGame(app, corrected.game, *correction.file);
+    applyTo(corrected.game, correction);
+    apply(app, corrected);
+    return "Corrected: " + titleOf({step.entry, false, true, step.gameNumber}) + ".";
+}
+
+Audit auditBooks(Application& app) {
+    const std::vector<Step> steps = requireHistory(app);
+    Replay replay(readBaseline(app.files()), app.windows().catalogue());
+    for (const Step& step : steps)
+        replay.carryOut(step);
+    const FileContents expected = replay.books();
+    std::set<std::string> all;
+    for (const auto& file : expected)
+        all.insert(file.first);
+    for (const std::string& path : booksOf(app.files()))
+        all.insert(path);
+    Audit audit{all.size(), {}};
+    for (const std::string& path : all) {
+        Difference difference{path, contentIn(app.files(), path), contentIn(expected, path)};
+        if (difference.found != difference.expected)
+            audit.differences.push_back(std::move(difference));
+    }
+    return audit;
+}
+
+void acceptDifferences(Application& app, const Audit& audit) {
+    FilesAccepted accepted;
+    for (const Difference& difference : audit.differences)
+        accepted.files.push_back({difference.path, difference.found});
+    LoggedChange change(app);
+    change.commit(std::move(accepted));
+}
+
+void repairDifferences(Application& app, const Audit& audit) {
+    backUp(app);
+    Operation operation(app);
+    for (const Difference& difference : audit.differences)
+        put(app.files(), difference.path, difference.expected);
+    operation.commit();
+    refreshWindows(app);
+}
+
+std::string textOf(const Difference& difference) {
+    if (!difference.found)
+        return difference.path + ": the file is missing";
+    if (!difference.expected)
+        return difference.path + ": the games give no such file";
+    const std::vector<Item> found = itemsOf(*difference.found);
+    const std::vector<Item> expected = itemsOf(*difference.expected);
+    const auto [one, other] = std::ranges::mismatch(found, expected);
+    if (one == found.end() || other == expected.end())
+        return difference.path + ": the file has another length";
+    return difference.path + ", line " + std::to_string(one->line) + ", item " + std::to_string(one->place) +
+           fieldName(difference.path, *one) + ": " + one->text + " stands there, the games give " +
+           other->text;
+}
+
+} // namespace iceline

@@ -1,0 +1,61 @@
+#include "cli/CliTest.h"
+#include "files/DiskFiles.h"
+#include "samples/SampleGames.h"
+
+#include <nlohmann/json.hpp>
+
+namespace iceline::cli {
+namespace {
+
+using testing::HasSubstr;
+using testing::StartsWith;
+
+/// A new league on the disk, with four made-up games beside it.
+class HistoryCommandsTest : public CliLeagueTest {
+protected:
+    HistoryCommandsTest() {
+        DiskFiles disk(games_.path());
+        writeSampleGames(disk, games_.path().generic_string(), 4, 1);
+    }
+
+    std::string game(int number) const {
+        return (games_.path() / ("game-000" + std::to_string(number) + ".gs0")).generic_string();
+    }
+
+private:
+    test::TemporaryFolder games_;
+};
+
+TEST_F(HistoryCommandsTest, AnEveningIsMended) {
+    ASSERT_EQ(iceline({"import", game(1)}).status, 0);
+    const std::string once = read("Overall Game Number.txt");
+    const std::string copy = league().string() + "/copy.gs0";
+    std::filesystem::copy_file(game(1), copy);
+    const Outcome twice = iceline({"import", copy});
+    EXPECT_EQ(twice.status, 1);
+    EXPECT_THAT(twice.out, StartsWith("This game is in the books as game 1: "));
+    EXPECT_EQ(read("Overall Game Number.txt"), once);
+
+    write("cut.gs0", std::string(500, 'x'));
+    EXPECT_THAT(iceline({"import", league().string() + "/cut.gs0"}).out,
+                HasSubstr("holds no finished game: the file is cut."));
+
+    ASSERT_EQ(iceline({"coach", "add", "Ann"}).status, 0);
+    ASSERT_EQ(iceline({"import", game(2), "--home-coach", "Ann"}).status, 0);
+    const Outcome refused = iceline({"undo", "2"});
+    EXPECT_EQ(refused.status, 1);
+    EXPECT_THAT(refused.out, StartsWith("This cannot be done, because game 2, "));
+    EXPECT_EQ(iceline({"undo", "1"}).status, 0);
+    EXPECT_EQ(iceline({"correct", "3", "--home-coach", "none"}).status, 0);
+    EXPECT_THAT(iceline({"audit"}).out, StartsWith("0 of "));
+    const auto history = nlohmann::json::parse(iceline({"history", "--json"}).out);
+    EXPECT_EQ(history.at(0).at("what"), "import");
+    EXPECT_EQ(history.at(0).at("undone"), true);
+    EXPECT_EQ(history.back().at("what"), "correct");
+    EXPECT_THAT(iceline({"game", "3"}).out, HasSubstr("Scoring Summary"));
+    EXPECT_EQ(iceline({"redo"}).status, 0);
+    EXPECT_EQ(read("Overall Game Number.txt"), "2\r\n");
+}
+
+} // namespace
+} // namespace iceline::cli
