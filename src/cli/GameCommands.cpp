@@ -3,6 +3,7 @@
 #include "cli/WindowPrinters.h"
 #include "files/FileError.h"
 #include "games/StatExtractor.h"
+#include "history/ImportPreview.h"
 
 namespace iceline::cli {
 
@@ -16,6 +17,7 @@ struct Import {
     std::string awayCoach;
     bool stopOnRefusal = false;
     bool force = false;
+    bool dryRun = false;
 };
 
 /// "Select Game". False when the file was refused.
@@ -54,10 +56,38 @@ void choose(Session& session, const Import& import) {
     window.T2Coach_Click(away);
 }
 
+std::string text(const TeamForm& standing) {
+    const TeamRecord& record = standing.record;
+    return std::to_string(record.Wins) + "-" + std::to_string(record.Losses) + "-" +
+           std::to_string(record.Ties) + ", " + std::to_string(record.Points) + " points, place " +
+           std::to_string(standing.place) + ", streak " + standing.streak.StreakLetter +
+           std::to_string(standing.streak.StreakCount);
+}
+
+Status printPreview(const ImportPreview& preview, bool force, std::ostream& out) {
+    if (preview.doubt && !force) {
+        out << preview.doubt->text << '\n';
+        return Status::Refused;
+    }
+    if (preview.refusal) {
+        out << *preview.refusal << '\n';
+        return Status::Refused;
+    }
+    for (const TeamOutlook& team : preview.teams)
+        out << TeamName[team.team] << ": " << text(team.before) << " -> " << text(team.after) << '\n';
+    for (const std::string& file : preview.files)
+        out << "A record falls in " << file << '\n';
+    if (!preview.series.empty())
+        out << "Series: " << preview.series << '\n';
+    return Status::Done;
+}
+
 Status importOne(Session& session, const Import& import) {
     choose(session, import);
     if (!selectGame(session, import.path))
         return Status::Refused;
+    if (import.dryRun)
+        return printPreview(previewImport(session.app()), import.force, session.out());
     StatExtractor& window = StatExtractor::in(session.app());
     const int before = window.ImportCount;
     window.ImportStats_Click();
@@ -108,6 +138,7 @@ void addGameCommands(CLI::App& program, Call& call) {
         addCommand<Import>(program, call, "import", "Import a game into the league", importGame);
     addArgument(*importCommand, "FILE", game->path, "the save state of a finished game");
     addChoices(*importCommand, *game);
+    importCommand->add_flag("--dry-run", game->dryRun, "print what would change, and change nothing");
 
     const auto [folderCommand, folder] =
         addCommand<Import>(program, call, "import-folder",

@@ -221,6 +221,22 @@ void StatExtractor::ImportStats_Click() {
     changed();
 }
 
+std::optional<std::string> StatExtractor::tryImport(const std::function<void()>& look) {
+    /// The shared state as it was.
+    struct KeptState {
+        ApplicationState& state;
+        ApplicationState before = state;
+        ~KeptState() { state = before; }
+    } const kept{app_.state};
+    const Operation operation(app_);
+    GameInHand game(app_, *this);
+    raiseGameNumber(app_.files());
+    if (const auto refused = game.import())
+        return refused->text;
+    look();
+    return std::nullopt;
+}
+
 void StatExtractor::updateStandings() {
     Standings& standings = Standings::in(app_);
     standings.HomeAwayStandingsUpdate();

@@ -5,6 +5,7 @@
 #include "shell/Platform.h"
 #include "shell/Window.h"
 
+#include <functional>
 #include <optional>
 #include <string>
 #include <vector>
@@ -70,6 +71,10 @@ public:
 
     /// "Import Game". A game in doubt is imported when the user says so.
     void ImportStats_Click();
+
+    /// What "Import Game" would do: everything is staged, `look` sees the league as it would be, and all is
+    /// dropped. Returns why the game would be refused; `look` is not called then.
+    std::optional<std::string> tryImport(const std::function<void()>& look);
 
     /// "Import Folder".
     void ImportFolder_Click();

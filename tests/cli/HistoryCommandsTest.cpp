@@ -40,6 +40,12 @@ TEST_F(HistoryCommandsTest, AnEveningIsMended) {
     EXPECT_THAT(iceline({"import", league().string() + "/cut.gs0"}).out,
                 HasSubstr("holds no finished game: the file is cut."));
 
+    const std::string log = read("History/Log.jsonl");
+    const Outcome preview = iceline({"import", game(2), "--dry-run"});
+    EXPECT_EQ(preview.status, 0);
+    EXPECT_THAT(preview.out, HasSubstr(" -> "));
+    EXPECT_EQ(read("History/Log.jsonl"), log);
+
     ASSERT_EQ(iceline({"coach", "add", "Ann"}).status, 0);
     ASSERT_EQ(iceline({"import", game(2), "--home-coach", "Ann"}).status, 0);
     const Outcome refused = iceline({"undo", "2"});
