@@ -4,10 +4,12 @@
 #include <cerrno>
 #include <csignal>
 #include <cstdarg>
+#include <ctime>
 #include <dirent.h>
 #include <dlfcn.h>
 #include <fcntl.h>
 #include <sys/stat.h>
+#include <sys/syscall.h>
 #include <unistd.h>
 
 namespace {
@@ -84,6 +86,14 @@ int syncOf(int handle, const std::string& line, Action action) {
 } // namespace
 
 extern "C" {
+
+/// The time of day stands still, so that the same operation leaves the same bytes.
+int clock_gettime(clockid_t clock, timespec* time) noexcept {
+    if (clock != CLOCK_REALTIME)
+        return static_cast<int>(syscall(SYS_clock_gettime, clock, time));
+    *time = {1'800'000'000, 0};
+    return 0;
+}
 
 int openat(int folder, const char* path, int flags, ...) {
     va_list rest;

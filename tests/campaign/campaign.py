@@ -17,13 +17,14 @@ from concurrent.futures import ProcessPoolExecutor
 from dataclasses import replace
 from pathlib import Path
 
-from league import JOURNAL, League, Program, differences, memory_folder, settled
+from league import JOURNAL, LOG, League, Program, differences, memory_folder, settled
 from operations import Operation, Workshop
 from powercut import Disk
 
 KINDS = ["kills", "kills in recovery", "faults", "power cuts"]
 SHORT = {"kills": 240, "faults": 900, "cuts": 400}
 LONG = {"kills": 5500, "faults": 21000, "cuts": 5500}
+AUDITED = 1 / 10  # part of the leagues whose books are worked out anew
 BEGIN, END = "<!-- campaign -->\n", "<!-- /campaign -->"
 NOTED, UNSURE = "The change is noted in", "may still make it"
 
@@ -47,9 +48,14 @@ class Campaign:
         if start.returncode != 0 or start.stderr:
             self.finding(operation, trial, f"the next start fails: {start.returncode} {start.stderr}")
             return set()
-        steps = operation.steps_of(self.league.read())
+        found = self.league.read()
+        steps = operation.steps_of(found)
         if not steps:
             self.finding(operation, trial, f"the league is between two states: {self.nearest(operation)}")
+        if LOG in found and self.chance.random() < AUDITED:
+            audit = self.program.run(["audit"])
+            if audit.returncode != 0:
+                self.finding(operation, trial, f"the history tells of other books: {audit.stdout} {audit.stderr}")
         return steps
 
     def nearest(self, operation: Operation) -> list[str]:

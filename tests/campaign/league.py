@@ -1,4 +1,5 @@
 """A league folder that trials damage and put back, and the program run on it."""
+import json
 import os
 import shutil
 import subprocess
@@ -9,14 +10,32 @@ LOCK = "League in use.lock"
 NUMBER = "Overall Game Number.txt"
 SITE = "IcelineWebPages"
 TEMPORARY = ".new~"
+LOG, INDEX = "History/Log.jsonl", "History/Index.txt"
+IN_EVERY_HISTORY = {"what", "game", "part", "saveState", "sheet", "coach", "to", "length", "team"}
 
 State = dict[str, bytes | None]  # by path: a file's content, None for a folder
 
 
+def operations_of(log: bytes) -> bytes:
+    """What the history holds that does not depend on how an operation came about: not which lines are the first of a run,
+    and not the games that an error has ended."""
+    lines = [json.loads(line) for line in log.splitlines()]
+    return "\n".join(json.dumps({key: value for key, value in line.items() if key in IN_EVERY_HISTORY})
+                     for line in lines if line["what"] != "import refused").encode()
+
+
+def tidied(state: State) -> State:
+    """The league without the lock and what a stopped run left beside files."""
+    return {path: content for path, content in state.items() if path != LOCK and not path.endswith(TEMPORARY)}
+
+
 def settled(state: State, pages: bool = True) -> State:
-    """What the league is: without the lock and what a stopped run left beside files; pages on demand."""
-    return {path: content for path, content in state.items()
-            if path != LOCK and not path.endswith(TEMPORARY) and (pages or not path.startswith(SITE))}
+    """What the league is, to be compared; pages on demand. Whether its history is true, `iceline audit` tells."""
+    kept = {path: content for path, content in tidied(state).items()
+            if path != INDEX and (pages or not path.startswith(SITE))}
+    if LOG in kept:
+        kept[LOG] = operations_of(kept[LOG])
+    return kept
 
 
 def differences(found: State, wanted: State) -> list[str]:
@@ -68,7 +87,7 @@ class League:
 
 
 class Program:
-    """The companion program, with the shim between it and the system when a trial asks for that."""
+    """The companion program, with the shim between it and the system: the clock stands still, and what a trial asks for."""
 
     def __init__(self, binaries: Path, league: League):
         self.league = league
@@ -76,9 +95,8 @@ class Program:
         self.shim = {"LD_PRELOAD": str(binaries / "libiceline_shim.so"), "SHIM_ROOT": str(league.folder)}
 
     def run(self, words: list[str], **shim: object) -> subprocess.CompletedProcess:
-        environment = {"PATH": os.environ["PATH"], "TZ": "UTC"}
-        if shim:
-            environment |= self.shim | {f"SHIM_{name.upper()}": str(value) for name, value in shim.items()}
+        environment = {"PATH": os.environ["PATH"], "TZ": "UTC"} | self.shim
+        environment |= {f"SHIM_{name.upper()}": str(value) for name, value in shim.items()}
         return subprocess.run(self.command + words, env=environment, stdin=subprocess.DEVNULL,
                               capture_output=True, text=True, errors="replace", timeout=120)
 

@@ -4,7 +4,7 @@ import time
 from dataclasses import dataclass, field
 from pathlib import Path
 
-from league import JOURNAL, NUMBER, SITE, League, Program, State, settled
+from league import JOURNAL, NUMBER, SITE, League, Program, State, settled, tidied
 
 
 @dataclass
@@ -63,7 +63,7 @@ class Workshop:
         self.league.put(base)
         for words in commands:
             self.must(words)
-        return settled(self.league.read())
+        return tidied(self.league.read())
 
     def operation(self, name: str, base: State, words: list[str], steps: list[list[list[str]]] | None = None,
                   **more) -> Operation:
@@ -98,7 +98,7 @@ class Workshop:
         found = self.league.read()
         if JOURNAL not in found:
             raise RuntimeError(f"{words} left no journal")
-        return settled(found)
+        return tidied(found)
 
     def all_operations(self) -> list[Operation]:
         games = [f"{self.games}/game-000{number}.gs0" for number in range(1, 5)]
@@ -106,8 +106,8 @@ class Workshop:
         new = self.league_after({}, ["season-length"])
         base = self.league_after(new, ["init"], ["coach", "add", "Ann"], ["coach", "add", "Bo"],
                                  ["import", games[3], *coaches])
-        light = {path: content for path, content in base.items()  # what start-up does not ask for
-                 if not path.startswith(SITE) or content is None or path.count("/") < 2}
+        light = {path: content for path, content in base.items()  # without what nothing asks for
+                 if not path.startswith(SITE) or content is None or path.count("/") < 2 or "/BoxScores/" in path}
         game = ["import", games[0], *coaches]
         left = self.unfinished(light, game)
         clear = ["clear", "Boston Bruins"]
