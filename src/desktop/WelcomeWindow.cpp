@@ -20,7 +20,8 @@
 namespace iceline::desktop {
 
 WelcomeWindow::WelcomeWindow(Application& application, PreviewServer& preview)
-    : app_(application), preview_(preview), windows_(application), menus_(new MainMenu(this)) {
+    : app_(application), preview_(preview), windows_(application), history_(application),
+      menus_(new MainMenu(this)) {
     setObjectName(QStringLiteral("WelcomeWindow"));
     setWindowTitle(QStringLiteral("Welcome to the Iceline Scorebook 3.0 - Rinkstar Version"));
     layOut();
@@ -68,11 +69,19 @@ void WelcomeWindow::makeMenus() {
     menus_->add(league, QStringLiteral("&Generate Webpages"), QStringLiteral("Ctrl+G"),
                 [this] { generateWebpages(); });
     menus_->add(league, QStringLiteral("&Preview Site"), {}, [this] { previewSite(); });
+    league.addSeparator();
+    menus_->add(league, QStringLiteral("&History..."), QStringLiteral("Ctrl+H"), [this] { showHistory(); });
+    menus_->add(league, QStringLiteral("&Undo Last Operation"), QStringLiteral("Ctrl+Z"),
+                [this] { history_.undoLast(); });
+    menus_->add(league, QStringLiteral("&Redo"), QStringLiteral("Ctrl+Shift+Z"),
+                [this] { history_.redoLast(); });
     QMenu& view = *menus_->addMenu(QStringLiteral("&View"));
     addWindowsTo(view);
     view.addSeparator();
-    menus_->add(view, QStringLiteral("Read &Again"), QStringLiteral("F5"),
-                [this] { app_.windows().renewOpen(); });
+    menus_->add(view, QStringLiteral("Read &Again"), QStringLiteral("F5"), [this] {
+        app_.windows().renewOpen();
+        history_.showAgain();
+    });
     QMenu& help = *menus_->addMenu(QStringLiteral("&Help"));
     menus_->add(help, QStringLiteral("&About Iceline Scorebook"), {}, [this] {
         app_.platform().say("Iceline Scorebook " ICELINE_VERSION "\n\nKeeps the books of a hockey league.");
@@ -153,6 +162,14 @@ void WelcomeWindow::previewSite() {
     }
 }
 
+void WelcomeWindow::showHistory() {
+    history_.showAgain();
+    history_.setWindowState(history_.windowState() & ~Qt::WindowMinimized);
+    history_.show();
+    history_.raise();
+    history_.activateWindow();
+}
+
 void WelcomeWindow::waitForSplash(std::function<void()> shown) {
     connect(&timer1_, &QTimer::timeout, this, [this, shown = std::move(shown)] {
         if (!app_.state.SplashDone)
@@ -167,6 +184,7 @@ void WelcomeWindow::waitForSplash(std::function<void()> shown) {
 
 void WelcomeWindow::closeEvent(QCloseEvent* event) {
     app_.windows().unloadAll();
+    history_.close();
     event->accept();
     QApplication::quit();
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "desktop/HistoryWindow.h"
 #include "desktop/MainMenu.h"
 #include "desktop/PreviewServer.h"
 #include "desktop/ScrolledPage.h"
@@ -53,9 +54,12 @@ private:
     /// Shows the site in the browser.
     void previewSite();
 
+    void showHistory();
+
     Application& app_;
     PreviewServer& preview_;
     WindowManager windows_;
+    HistoryWindow history_;
     ScrolledPage page_{this};
     MainMenu* menus_;
     QTimer timer1_{this};

@@ -1,0 +1,70 @@
+#include "desktop/HistoryWindow.h"
+
+#include "DesktopTest.h"
+#include "desktop/QtPlatform.h"
+#include "games/StatExtractor.h"
+#include "samples/SaveStateWriter.h"
+
+#include <QLineEdit>
+#include <QTableView>
+
+namespace iceline::desktop {
+namespace {
+
+class HistoryWindowTest : public DesktopTest {
+protected:
+    void import(const std::string& file, int home, int away) {
+        GameSheet game{TeamIndex(home), TeamIndex(away)};
+        game.home.Goals = game.home.Shots = 3;
+        league.files.files[file] = saveStateBytes(game);
+        league.platform.chosen.push_back(file);
+        StatExtractor& extractor = StatExtractor::in(league.app);
+        extractor.Exhibition = false;
+        extractor.Season = true;
+        extractor.LoadStats_Click();
+        extractor.ImportStats_Click();
+    }
+
+    /// What the column "Operation" and that of the states show, row by row.
+    std::vector<std::string> rows() {
+        const QAbstractItemModel& model = *control<QTableView>(window, QStringLiteral("Operations")).model();
+        std::vector<std::string> shown;
+        for (int row = 0; row < model.rowCount(); ++row)
+            shown.push_back((model.index(row, 2).data().toString() + QLatin1Char('|') +
+                             model.index(row, 3).data().toString())
+                                .toStdString());
+        return shown;
+    }
+
+    HistoryWindow window{league.app};
+};
+
+TEST_F(HistoryWindowTest, TakesAChosenGameBackAndPutsItInPlaceAgain) {
+    import("1.gs0", 0, 1);
+    import("2.gs0", 2, 3);
+    window.showAgain();
+    const std::string first =
+        "game 1, " + std::string(TeamName[0]) + " 3, " + std::string(TeamName[1]) + " 0|";
+    const std::string second =
+        "game 2, " + std::string(TeamName[2]) + " 3, " + std::string(TeamName[3]) + " 0|";
+    EXPECT_THAT(rows(), testing::ElementsAre(second, first)) << "newest first";
+
+    control<QTableView>(window, QStringLiteral("Operations")).selectRow(1);
+    click(window, "Undo");
+    EXPECT_THAT(rows(), testing::ElementsAre(testing::HasSubstr("game 1, " + std::string(TeamName[2])),
+                                             testing::EndsWith("|undone")));
+    EXPECT_EQ(league.record(TeamIndex(0)).GP, 0);
+    EXPECT_EQ(league.record(TeamIndex(2)).GP, 1);
+    click(window, "Redo");
+    EXPECT_THAT(rows(), testing::ElementsAre(second, first));
+    EXPECT_EQ(league.record(TeamIndex(0)).GP, 1);
+
+    control<QLineEdit>(window, QStringLiteral("Search")).setText(toQt(TeamName[3]));
+    EXPECT_THAT(rows(), testing::ElementsAre(second));
+    control<QLineEdit>(window, QStringLiteral("Search")).clear();
+    control<QComboBox>(window, QStringLiteral("Team")).setCurrentIndex(1);
+    EXPECT_THAT(rows(), testing::ElementsAre(first));
+}
+
+} // namespace
+} // namespace iceline::desktop
