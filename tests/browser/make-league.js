@@ -30,7 +30,7 @@ iceline(['script', '-'], {
   `,
 });
 // The season over, the games of teams that do not meet in the play-offs are refused.
-iceline(['import-folder', games, '--home-coach', coaches.home, '--away-coach', coaches.away], {status: 1});
+iceline(['import-folder', games, '--home-coach', coaches.home, '--away-coach', coaches.away], {status: 3});
 iceline(['script', '-'], {
   input: `
     coach show ${coaches.home}
