@@ -37,7 +37,7 @@ unsigned portion(std::size_t size) {
 /// program has just open, a virus scanner for instance, is denied until that one has done with it.
 template <class Attempt>
 bool whenFree(const std::filesystem::path& file, Attempt attempt) {
-    constexpr int Tries = 20;
+    constexpr int Tries = 100;
     constexpr DWORD PauseInMilliseconds = 10;
     std::error_code ignored;
     for (int tries = 1; !attempt(); ++tries) {

@@ -130,6 +130,10 @@ TEST(JournalTest, GivesAFolderAnotherSpellingOnceOrAgain) {
     Files& files = disk;
     files.makeFolder("Coaches/Åke");
     files.write("Coaches/Åke/Records.txt", "9", Durability::Now);
+    files.makeFolder("Probe");
+    files.rename("Probe", "probe");
+    if (files.foldersIn("").back() != "probe")
+        GTEST_SKIP() << "this system takes another spelling for the same name, as Wine does";
     const Change respelt{Change::Kind::RenameFolder, "Coaches/Åke", 0, "Coaches/åke"};
     Journal(files).commit({respelt});
     for (const bool again : {false, true}) {

@@ -237,8 +237,12 @@ TEST_F(ImportFolder, TheStandingsCountTheGamesBeforeAFileError) {
 }
 
 TEST_F(ImportFolder, AGameWhosePageCannotBeNamedOnEverySystemIsRefused) {
-    for (const char* name : {"1 \"final\".gs0", "2?.gs0", "CON.gs0", "M\xfcller.gs0"})
-        save(std::string("Games/") + name, lovelyGame());
+    std::vector<std::string> names{"1 \"final\".gs0", "2?.gs0", "CON.gs0"};
+#ifndef _WIN32 // where no name can be anything but Unicode
+    names.emplace_back("M\xfcller.gs0");
+#endif
+    for (const std::string& name : names)
+        save("Games/" + name, lovelyGame());
     save("Games/3.gs0", lovelyGame());
     run();
     EXPECT_THAT(league.said()[1], HasSubstr("the name of a page can hold letters, digits and signs other"));
