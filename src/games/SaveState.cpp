@@ -4,13 +4,14 @@
 #include "games/TeamSheetFields.h"
 #include "league/Roster.h"
 
+#include <utility>
+
 namespace iceline {
 
 namespace {
 
 /// The league reads nothing at or after this place.
-constexpr auto UsedBytes =
-    static_cast<std::size_t>(SecondBlockFields.back().lowByte + SaveStateMap::SecondAwayBlock + 1);
+constexpr int UsedBytes = SecondBlockFields.back().lowByte + SaveStateMap::SecondAwayBlock + 1;
 
 constexpr int Shots = FirstBlockFields.front().lowByte;
 static_assert(FirstBlockFields.front().figure == &TeamSheet::Shots);
@@ -141,7 +142,7 @@ std::optional<std::string> SaveState::doubt() const {
     };
     if (bytes_.empty())
         return is("the file is empty");
-    if (bytes_.size() < UsedBytes)
+    if (std::cmp_less(bytes_.size(), UsedBytes))
         return is("the file is cut");
     if (team(Side::Home) == team(Side::Away))
         return is("a team is against itself");

@@ -59,7 +59,7 @@ std::string backUp(Application& app, const std::string& folder) {
     copy[ChecksumName] = checksumText(textOfFiles(copy));
     const std::string content = textOfFiles(copy);
     files.makeFolder(folder);
-    const std::string path = freeName(files, folder, utcText(app.platform().now()));
+    std::string path = freeName(files, folder, utcText(app.platform().now()));
     files.write(path, content, Durability::Now);
     if (files.read(path) != content)
         throw FileError::about(path, "what was written there is not what can be read");
@@ -70,7 +70,7 @@ std::string backUp(Application& app, const std::string& folder) {
 
 std::string restore(Application& app, const std::string& copy) {
     const FileContents whole = readCopy(app.files(), copy);
-    const std::string former = backUp(app);
+    std::string former = backUp(app);
     Operation operation(app);
     Files& files = app.files();
     for (const auto& [path, content] : wholeLeague(files))

@@ -55,7 +55,8 @@ bool isBy(const HistoryRow& row, const std::string& coach) {
 
 bool contains(const std::string& text, const std::string& part) {
     const auto sameLetter = [](char a, char b) { return sameName({&a, 1}, {&b, 1}); };
-    return !std::ranges::search(text, part, sameLetter).empty() || part.empty();
+    return std::search(text.begin(), text.end(), part.begin(), part.end(), sameLetter) != text.end() ||
+           part.empty();
 }
 
 /// A team's roster as the history knows it when it comes to an operation.

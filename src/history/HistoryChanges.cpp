@@ -47,16 +47,16 @@ bool isSame(const Step& one, const Step& other) {
 
 /// Both ways share the steps up to the first that differs.
 TwoWays workOut(Application& app, const std::vector<Step>& now, const std::vector<Step>& then) {
-    TwoWays ways{std::make_unique<Replay>(readBaseline(app.files()), app.windows().catalogue()), nullptr};
+    auto asIs = std::make_unique<Replay>(readBaseline(app.files()), app.windows().catalogue());
     std::size_t step = 0;
     for (; step < now.size() && isSame(now[step], then[step]); ++step)
-        ways.asIs->carryOut(now[step]);
-    ways.changed = ways.asIs->fork();
+        asIs->carryOut(now[step]);
+    auto changed = asIs->fork();
     for (std::size_t i = step; i < now.size(); ++i)
-        ways.asIs->carryOut(now[i]);
+        asIs->carryOut(now[i]);
     for (std::size_t i = step; i < then.size(); ++i)
-        ways.changed->carryOut(then[i]);
-    return ways;
+        changed->carryOut(then[i]);
+    return {std::move(asIs), std::move(changed)};
 }
 
 std::set<std::string> pathsOf(const FileContents& one, const FileContents& other) {

@@ -46,10 +46,10 @@ public:
 
     void rename(const std::string& path, const std::string& name) override {
         if (!isFolder(path))
-            return Files::rename(path, name);
+            return StagedFiles::rename(path, name);
         makeFolder(name);
         for (const std::string& file : filesIn(path))
-            Files::rename(path + "/" + file, name + "/" + file);
+            StagedFiles::rename(path + "/" + file, name + "/" + file);
         removeFolder(path);
     }
 };

@@ -65,7 +65,7 @@ std::optional<std::string> misfitOf(Application& app, const CoachAdded& operatio
 }
 
 std::optional<std::string> misfitOf(Application& app, const CoachRenamed& operation) {
-    if (const auto missing = unlessThere(app, operation.coach))
+    if (auto missing = unlessThere(app, operation.coach))
         return missing;
     const bool isRespelt = findCoach(app.files(), operation.to) == findCoach(app.files(), operation.coach);
     return isRespelt ? std::nullopt : ifThere(app, operation.to);

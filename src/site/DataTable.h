@@ -13,7 +13,7 @@ class Files;
 /// UTF-8.
 class DataTable {
 public:
-    explicit DataTable(std::initializer_list<std::string_view> columns) {
+    DataTable(std::initializer_list<std::string_view> columns) {
         for (const std::string_view column : columns)
             addColumn(column);
     }
