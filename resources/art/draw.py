@@ -22,6 +22,7 @@ RESOURCES = Path(__file__).resolve().parent.parent
 FAVICON_SIZES = (16, 32, 48)
 TOUCH_ICON = 180
 ICON_SIZES = (16, 22, 24, 32, 48, 64, 128, 256)
+WINDOWS_ICON_SIZES = (16, 24, 32, 48, 64, 256)
 LOGO, BIG_LOGO = 96, 160
 
 HEADERS = {
@@ -113,6 +114,7 @@ def draw_windows(teams, folder):
 def draw_icon(folder):
     for size in ICON_SIZES:
         write_png(icon.png(size), folder / f"iceline-{size}.png")
+    write_ico([icon.png(size) for size in WINDOWS_ICON_SIZES], folder / "iceline.ico")
     (folder / "iceline.svg").write_text(icon.svg())
 
 

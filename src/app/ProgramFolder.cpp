@@ -1,6 +1,8 @@
 #include "app/ProgramFolder.h"
 
 #ifdef _WIN32
+#include <memory>
+#include <shellapi.h>
 #include <windows.h>
 #endif
 
@@ -12,9 +14,13 @@ namespace {
 
 fs::path programFile() {
 #ifdef _WIN32
-    wchar_t path[MAX_PATH] = {};
-    GetModuleFileNameW(nullptr, path, MAX_PATH);
-    return path;
+    std::wstring path(MAX_PATH, L'\0');
+    for (;;) {
+        const DWORD length = GetModuleFileNameW(nullptr, path.data(), static_cast<DWORD>(path.size()));
+        if (length < path.size())
+            return path.substr(0, length);
+        path.resize(2 * path.size());
+    }
 #else
     return fs::read_symlink("/proc/self/exe");
 #endif
@@ -27,7 +33,28 @@ fs::path programFolder() {
 }
 
 fs::path siteTemplateFolder() {
-    return programFolder() / "site-template";
+    const fs::path beside = programFolder() / "site-template";
+    const fs::path ofSystem = programFolder().parent_path() / "share/iceline-scorebook/site-template";
+    return fs::exists(beside) || !fs::exists(ofSystem) ? beside : ofSystem;
 }
+
+#ifdef _WIN32
+// The arguments of `main` have lost every letter that the system's own character set lacks.
+std::vector<std::string> programArguments(int, char**) {
+    int count = 0;
+    const std::unique_ptr<LPWSTR, decltype(&LocalFree)> words(CommandLineToArgvW(GetCommandLineW(), &count),
+                                                              LocalFree);
+    std::vector<std::string> arguments;
+    for (int word = 1; word < count; ++word) {
+        const std::u8string text = fs::path(words.get()[word]).u8string();
+        arguments.emplace_back(text.begin(), text.end());
+    }
+    return arguments;
+}
+#else
+std::vector<std::string> programArguments(int argc, char** argv) {
+    return {argv + 1, argv + argc};
+}
+#endif
 
 } // namespace iceline

@@ -29,6 +29,7 @@ std::string usageError(const CLI::App& program, const CLI::ParseError& error) {
 
 /// Everything that can be typed after the program's name.
 void addAll(CLI::App& program, Call& call, LeagueChoice& choice) {
+    program.allow_windows_style_options(false); // "/league" is a path
     program.get_formatter()->label("SUBCOMMAND", "COMMAND");
     program.get_formatter()->label("Positionals", "Arguments");
     program.get_formatter()->label("REQUIRED", "");

@@ -3,7 +3,9 @@
 #include <iostream>
 
 #ifdef _WIN32
+#include <cstdlib>
 #include <io.h>
+#include <windows.h>
 #else
 #include <unistd.h>
 #endif
@@ -22,9 +24,24 @@ bool isTerminal(StandardStream stream) {
 #endif
 }
 
+/// What is typed and shown in the terminal is UTF-8 while the program runs.
+void speakUtf8() {
+#ifdef _WIN32
+    static const UINT input = GetConsoleCP();
+    static const UINT output = GetConsoleOutputCP();
+    std::atexit([] {
+        SetConsoleCP(input);
+        SetConsoleOutputCP(output);
+    });
+    SetConsoleCP(CP_UTF8);
+    SetConsoleOutputCP(CP_UTF8);
+#endif
+}
+
 } // namespace
 
 Console standardConsole() {
+    speakUtf8();
     std::ios::sync_with_stdio(false); // so that a stream tells an error of its input from its end
     return {std::cin, std::cout, std::cerr, isTerminal(Input), isTerminal(Error)};
 }

@@ -1,9 +1,9 @@
 #include "desktop/Desktop.h"
 
 #include "app/OpenLeague.h"
-#include "app/ProgramFolder.h"
 #include "app/UnfinishedChange.h"
 #include "desktop/Guard.h"
+#include "desktop/LeagueChoice.h"
 #include "desktop/QtPlatform.h"
 #include "desktop/SplashScreen.h"
 #include "desktop/Style.h"
@@ -154,9 +154,10 @@ Arguments argumentsOf(const QApplication& application) {
     parser.setApplicationDescription(QStringLiteral("Keeps the books of a hockey league."));
     parser.addHelpOption();
     parser.addVersionOption();
-    const QCommandLineOption league(QStringLiteral("league"),
-                                    QStringLiteral("the league folder (default: the program's own)"),
-                                    QStringLiteral("DIR"));
+    const QCommandLineOption league(
+        QStringLiteral("league"),
+        QStringLiteral("the league folder (default: the program's own, or the last one)"),
+        QStringLiteral("DIR"));
     parser.addOption(league);
     parser.addPositionalArgument(QStringLiteral("FILE"), QStringLiteral("a save state to show"),
                                  QStringLiteral("[FILE]"));
@@ -198,9 +199,12 @@ int run(int argc, char** argv) {
     int status = 1;
     guarded(nullptr, [&] {
         const auto folder = arguments.league.isEmpty()
-                                ? programFolder()
-                                : std::filesystem::path(arguments.league.toStdU16String());
-        status = runLeague(folder, fromQt(arguments.game));
+                                ? leagueToOpen()
+                                : std::optional(std::filesystem::path(arguments.league.toStdU16String()));
+        if (!folder)
+            return;
+        rememberLeague(*folder);
+        status = runLeague(*folder, fromQt(arguments.game));
     });
     return status;
 }
