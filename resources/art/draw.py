@@ -1,7 +1,7 @@
 #!/usr/bin/python3
 """Draws every picture of the project, from teams.json, and writes them into the resources folder.
 
-    draw.py [FOLDER]        FOLDER stands for the resources folder
+    draw.py [FOLDER]        FOLDER is taken for the resources folder
 
 Run it after a change to a drawing or a colour and commit what it wrote: the build takes the pictures as
 files. It needs python3-cairo and python3-pil; the same versions of these give the same files, byte for byte.

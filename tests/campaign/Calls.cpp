@@ -1,4 +1,4 @@
-/// The calls of the system that the shim stands before.
+/// The calls of the system that the shim takes the place of.
 #include "Shim.h"
 
 #include <cerrno>
