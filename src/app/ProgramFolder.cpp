@@ -2,7 +2,6 @@
 
 #ifdef _WIN32
 #include <memory>
-#include <shellapi.h>
 #include <windows.h>
 #endif
 
