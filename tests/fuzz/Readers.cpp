@@ -49,11 +49,12 @@ std::string recentGames(Files& files, const std::string&) {
 }
 
 std::string rosterAgain(Files& files, const std::string& path) {
-    std::string text;
-    for (const RosterRow& row : readRoster(files, path))
-        text += row.Name + "," + std::to_string(row.Number) + "," + std::to_string(row.Rating) + "," +
-                row.Position + "\r\n";
-    return text;
+    LineWriter writer(path);
+    for (const RosterRow& row : readRoster(files, path)) {
+        writeFields(writer, row);
+        writer.endLine();
+    }
+    return writer.content();
 }
 
 std::string teamRecord(Files& files, const std::string& path) {
