@@ -3,7 +3,7 @@
 #include "files/NativePath.h"
 #include "games/BoxScorePage.h"
 #include "games/SaveStateMap.h"
-#include "games/TeamSheetFields.h"
+#include "league/TeamSheetFields.h"
 #include "store/LeaguePaths.h"
 #include "store/PlayerFiles.h"
 #include "text/Names.h"
@@ -14,14 +14,14 @@ namespace {
 
 void readTeam(const SaveState& save, Side side, TeamSheet& team) {
     for (const TeamSheetField& field : FirstBlockFields)
-        team.*field.figure = save.figure(side, field.lowByte);
+        team.*field.member = save.figure(side, field.lowByte);
     team.AttackZone += 256 * save.figure(side, SaveStateMap::AttackZoneHigh);
     for (const PlayerArray& array : PlayerArrays)
         for (const RosterIndex row : AllRosterRows)
-            (team.*array.figures)[row] = save.figure(side, array.firstRow + row.number());
+            (team.*array.member)[row] = save.figure(side, array.firstRow + row.number());
     const int secondBlock = side == Side::Home ? 0 : SaveStateMap::SecondAwayBlock;
     for (const TeamSheetField& field : SecondBlockFields)
-        team.*field.figure = save.byteAt(secondBlock + field.lowByte);
+        team.*field.member = save.byteAt(secondBlock + field.lowByte);
 }
 
 GameRosters readRosters(Files& files, const GameSheet& game) {

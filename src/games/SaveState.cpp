@@ -1,9 +1,10 @@
 #include "games/SaveState.h"
 
 #include "games/SaveStateMap.h"
-#include "games/TeamSheetFields.h"
 #include "league/Roster.h"
+#include "league/TeamSheetFields.h"
 
+#include <algorithm>
 #include <utility>
 
 namespace iceline {
@@ -13,8 +14,8 @@ namespace {
 /// The league reads nothing at or after this place.
 constexpr int UsedBytes = SecondBlockFields.back().lowByte + SaveStateMap::SecondAwayBlock + 1;
 
-constexpr int Shots = FirstBlockFields.front().lowByte;
-static_assert(FirstBlockFields.front().figure == &TeamSheet::Shots);
+constexpr int Shots =
+    std::ranges::find(FirstBlockFields, &TeamSheet::Shots, &TeamSheetField::member)->lowByte;
 
 struct TimeStamp {
     int period;

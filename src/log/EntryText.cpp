@@ -2,6 +2,7 @@
 
 #include "files/FileError.h"
 #include "files/JournalFormat.h"
+#include "league/TeamSheetFields.h"
 
 #include <algorithm>
 #include <array>
@@ -46,20 +47,16 @@ constexpr auto FieldsOf<PenaltyEntry> = std::tuple(field("period", &PenaltyEntry
                                                    field("type", &PenaltyEntry::type),
                                                    field("player", &PenaltyEntry::player));
 
+template <class Rows>
+constexpr auto namedFields(const Rows& rows) {
+    return std::apply([](const auto&... row) { return std::tuple(field(row.name, row.member)...); }, rows);
+}
+
 template <>
-constexpr auto FieldsOf<TeamSheet> =
-    std::tuple(field("team", &TeamSheet::team), field("goals", &TeamSheet::Goals),
-               field("shots", &TeamSheet::Shots), field("powerPlayGoals", &TeamSheet::PPG),
-               field("powerPlays", &TeamSheet::PPA), field("penalties", &TeamSheet::Penalties),
-               field("penaltyMinutes", &TeamSheet::PenM), field("attackZone", &TeamSheet::AttackZone),
-               field("faceoffsWon", &TeamSheet::FaceoffsWon), field("bodyChecks", &TeamSheet::BodyChecks),
-               field("passAttempts", &TeamSheet::PassAtt), field("passes", &TeamSheet::PassComp),
-               field("PPAux", &TeamSheet::PPAux), field("AuxFor", &TeamSheet::AuxFor),
-               field("PairAAtt", &TeamSheet::PairAAtt), field("PairAMade", &TeamSheet::PairAMade),
-               field("PairBAtt", &TeamSheet::PairBAtt), field("PairBMade", &TeamSheet::PairBMade),
-               field("PairCAtt", &TeamSheet::PairCAtt), field("PairCMade", &TeamSheet::PairCMade),
-               field("playerGoals", &TeamSheet::G), field("playerAssists", &TeamSheet::A),
-               field("playerShots", &TeamSheet::SOG), field("playerMinutes", &TeamSheet::PIM));
+constexpr auto FieldsOf<TeamSheet> = std::tuple_cat(std::tuple(field("team", &TeamSheet::team)),
+                                                    namedFields(FirstBlockFields),
+                                                    namedFields(SecondBlockFields),
+                                                    namedFields(PlayerArrays));
 
 template <>
 constexpr auto FieldsOf<GameSheet> = std::tuple(field("home", &GameSheet::home),

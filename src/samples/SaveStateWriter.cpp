@@ -1,6 +1,7 @@
 #include "samples/SaveStateWriter.h"
 
-#include "games/TeamSheetFields.h"
+#include "games/SaveStateMap.h"
+#include "league/TeamSheetFields.h"
 
 #include <cstddef>
 #include <stdexcept>
@@ -49,11 +50,11 @@ private:
 
 void putTeam(Image& image, const TeamSheet& team, int block, int secondBlock) {
     for (const TeamSheetField& field : FirstBlockFields)
-        image.word(block + field.lowByte, team.*field.figure);
+        image.word(block + field.lowByte, team.*field.member);
     for (const PlayerArray& array : PlayerArrays)
-        image.rows(block + array.firstRow, team.*array.figures);
+        image.rows(block + array.firstRow, team.*array.member);
     for (const TeamSheetField& field : SecondBlockFields)
-        image.word(secondBlock + field.lowByte, team.*field.figure);
+        image.word(secondBlock + field.lowByte, team.*field.member);
 }
 
 void putGoals(Image& image, const GameSheet& game) {
