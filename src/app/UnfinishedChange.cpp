@@ -54,7 +54,7 @@ bool settleUnfinishedChange(Application& app) {
         app.platform().say("The unfinished change is set aside in \"" + name + "\".");
         return true;
     }
-    if (!isOk(app, "Make the unfinished change all the same?"))
+    if (app.journal().isOfLaterVersion() || !isOk(app, "Make the unfinished change all the same?"))
         return false;
     tell(app, app.journal().recover(Doubts::Ignore), NowFinished);
     return true;

@@ -12,8 +12,9 @@ void recoverAtStart(Application& app);
 void recoverOnRequest(Application& app);
 
 /// Settles a change that could not be finished so: asks whether to set it aside,
-/// under a name with the time of day, and if not whether to make it all the same. False when the user wants
-/// neither; the league then stays as it is. Throws FileError when the change still cannot be made.
+/// under a name with the time of day, and if not whether to make it all the same, where this version can.
+/// False when the user wants neither; the league then stays as it is. Throws FileError when the change still
+/// cannot be made.
 bool settleUnfinishedChange(Application& app);
 
 } // namespace iceline

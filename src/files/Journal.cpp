@@ -74,7 +74,7 @@ Recovery Journal::recover(Doubts doubts) {
         return Recovery::Nothing;
     }
     const std::string journal = files_.read(FileName);
-    if (isOfLaterVersion(journal))
+    if (iceline::isOfLaterVersion(journal))
         throw notFinished("A later version of the program has noted it, which alone can finish it",
                           "sets it aside");
     const std::vector<NotedChange> changes = wholeCommits(journal);
@@ -90,6 +90,10 @@ Recovery Journal::recover(Doubts doubts) {
         checkpoint();
     });
     return changes.empty() ? Recovery::Dropped : Recovery::Finished;
+}
+
+bool Journal::isOfLaterVersion() const {
+    return files_.isFile(FileName) && iceline::isOfLaterVersion(files_.read(FileName));
 }
 
 void Journal::setAside(const std::string& name) {

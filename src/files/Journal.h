@@ -50,6 +50,9 @@ public:
     /// was noted by a later version of the program.
     Recovery recover(Doubts doubts = Doubts::Refuse);
 
+    /// Whether a journal lies there that only a later version of the program can finish.
+    bool isOfLaterVersion() const;
+
     /// Gives the journal another name, so that its changes are never made. The files stay as they are.
     void setAside(const std::string& name);
 

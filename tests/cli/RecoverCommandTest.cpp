@@ -10,6 +10,7 @@ namespace {
 namespace fs = std::filesystem;
 using testing::AllOf;
 using testing::HasSubstr;
+using testing::Not;
 
 constexpr const char* SeasonLength = "Games Until Playoffs.txt";
 
@@ -66,6 +67,16 @@ TEST_F(RecoverCommandTest, AsksBeforeItSetsAsideWhatIsInDoubt) {
     EXPECT_EQ(read(SeasonLength), "50\r\n");
     EXPECT_EQ(setAside(), 1);
     EXPECT_EQ(iceline({"season-length"}).out, "50\n");
+}
+
+TEST_F(RecoverCommandTest, OffersToSetAsideAloneWhatALaterVersionHasNoted) {
+    std::string heading(JournalHeading);
+    heading.at(heading.find('3')) = '4';
+    write(Journal::FileName, heading);
+    EXPECT_THAT(ask("recover").out,
+                AllOf(HasSubstr("Set the unfinished change aside?"), Not(HasSubstr("all the same"))));
+    EXPECT_EQ(iceline({"recover"}).status, 0);
+    EXPECT_EQ(setAside(), 1);
 }
 
 TEST_F(RecoverCommandTest, LooksMeanwhileWithoutChangingAnything) {

@@ -98,6 +98,7 @@ std::vector<Reader> makeReaders() {
         journalReader(),
         scriptLineReader(),
         coachNameReader(),
+        historyReader(),
         dataFile("player_records", paths::allTimePlayerRecords(Season), textOfAll(readAllTimePlayerRecords)),
         dataFile("goalie_records", paths::allTimeGoalieRecords(Season), textOfAll(readAllTimeGoalieRecords)),
         dataFile("league_records", paths::allTimeLeagueRecords(Season), textOfAll(readAllTimeLeagueRecords)),

@@ -31,5 +31,6 @@ Reader bracketReader();
 Reader journalReader();
 Reader scriptLineReader();
 Reader coachNameReader();
+Reader historyReader();
 
 } // namespace iceline::test
