@@ -1,25 +1,13 @@
 #include "LeadersSupport.h"
 #include "store/LeagueFiles.h"
-
-#include <gmock/gmock.h>
+#include "support/Test.h"
 
 #include <algorithm>
 
 namespace iceline {
 namespace {
 
-using test::linesOf;
-using test::publishRankings;
-using test::setGoalie;
-using test::setSkater;
-using test::teamRecord;
-using test::TestLeague;
-using testing::ElementsAre;
-using testing::HasSubstr;
-
-constexpr TeamIndex BOS{0};
-constexpr TeamIndex BUF{1};
-constexpr TeamIndex MTL{10};
+using namespace test;
 
 const std::string BlockBreak = "</table></td><td></td></font></center>";
 
@@ -91,8 +79,8 @@ TEST(LeagueHomePage, OfAnEmptyLeagueHoldsHeadsAlone) {
 
 TEST(LeagueHomePage, ListsTheLastGamesWithTheAwayTeamFirst) {
     TestLeague league;
-    league.files.files["Last 10 Box.txt"] =
-        textOf(std::vector<RecentGame>{{MTL, BOS, 2, 3, "Newest.htm"}, {BUF, MTL, 1, 0, "Older.htm"}});
+    league.files.files["Last 10 Box.txt"] = textOf(std::vector<RecentGame>{
+        {Montreal, Boston, 2, 3, "Newest.htm"}, {Buffalo, Montreal, 1, 0, "Older.htm"}});
 
     publishRankings(league);
 
@@ -106,17 +94,17 @@ TEST(LeagueHomePage, ListsTheLastGamesWithTheAwayTeamFirst) {
 
 TEST(LeagueHomePage, EachBlockShowsTheFigureOfItsHead) {
     TestLeague league;
-    setSkater(league, BOS, 2, "Jo Skate", {.GP = 8, .G = 2, .A = 3, .Pts = 5, .SOG = 16, .PIM = 4});
+    setSkater(league, Boston, 2, "Jo Skate", {.GP = 8, .G = 2, .A = 3, .Pts = 5, .SOG = 16, .PIM = 4});
     GoalieStats goalie{.GP = 10, .GA = 25, .SO = 1, .A = 2, .GW = 6, .GL = 3, .GT = 7, .SA = 250};
     goalie.GAA = 2.62;
     goalie.SvPct = 0.905;
-    setGoalie(league, BUF, 0, "Al Masque", goalie);
+    setGoalie(league, Buffalo, 0, "Al Masque", goalie);
     TeamRecord record = teamRecord(8, 15, 29, 20);
     record.PowerRanking = 21.37;
     record.WinPercent = 0.875;
     record.SOGPG = 30.5;
     record.SOGAPG = 25.1;
-    league.setRecord(MTL, PartOfYear::Season, record);
+    league.setRecord(Montreal, PartOfYear::Season, record);
 
     publishRankings(league);
 
@@ -140,8 +128,8 @@ TEST(LeagueHomePage, EachBlockShowsTheFigureOfItsHead) {
 TEST(LeagueHomePage, PlayerBlocksHoldFiveRowsUnderTheLeadersPicture) {
     TestLeague league;
     for (int row = 2; row < 9; ++row)
-        setSkater(league, MTL, row, "Skater " + std::to_string(row), {.GP = 1, .Pts = row});
-    setSkater(league, BOS, 2, "Jo Card", {.GP = 1, .G = 4});
+        setSkater(league, Montreal, row, "Skater " + std::to_string(row), {.GP = 1, .Pts = row});
+    setSkater(league, Boston, 2, "Jo Card", {.GP = 1, .G = 4});
     league.files.files["IcelineWebPages/PlayerCards/Jo Card.gif"] = "GIF";
     league.platform.randomNumber = 0.5;
 
@@ -167,8 +155,8 @@ TEST(LeagueHomePage, AverageHasTheLowestFirstAndGoaliesShareOneDefaultPicture) {
     GoalieStats leaky{.GP = 2, .GA = 9};
     leaky.GAA = 4.5;
     leaky.SvPct = 0.5;
-    setGoalie(league, BOS, 0, "Leaky", leaky);
-    setGoalie(league, MTL, 0, "Tight", tight);
+    setGoalie(league, Boston, 0, "Leaky", leaky);
+    setGoalie(league, Montreal, 0, "Tight", tight);
     league.files.files["IcelineWebPages/PlayerCards/Leaky.gif"] = "GIF";
     league.platform.randomNumber = 0.99;
 
@@ -187,7 +175,7 @@ TEST(LeagueHomePage, AverageHasTheLowestFirstAndGoaliesShareOneDefaultPicture) {
 
 TEST(LeagueHomePage, AStarIsShownByHisCardOrAsASkater) {
     TestLeague league;
-    setGoalie(league, BOS, 0, "../Star", {.GP = 1, .StarPoints = 15});
+    setGoalie(league, Boston, 0, "../Star", {.GP = 1, .StarPoints = 15});
 
     publishRankings(league);
 
@@ -204,7 +192,7 @@ TEST(LeagueHomePage, TeamBlocksBeginWithABannerUnlessTheFirstTurnGaveNoRow) {
     TeamRecord loser = teamRecord(3, 0, 2);
     loser.PowerRanking = -4.5;
     loser.WinPercent = 0.125;
-    league.setRecord(MTL, PartOfYear::Season, loser);
+    league.setRecord(Montreal, PartOfYear::Season, loser);
 
     publishRankings(league);
 
@@ -217,7 +205,7 @@ TEST(LeagueHomePage, TeamBlocksBeginWithABannerUnlessTheFirstTurnGaveNoRow) {
                             "<tr><td><center><b>1</b></center></td><td><center><img "
                             "src=\"./LogoMinis/MTL.gif\"></center></td><td><center>0.125</td></tr>"));
 
-    for (TeamIndex team = BUF; team < LeagueTeams; ++team)
+    for (TeamIndex team = Buffalo; team < LeagueTeams; ++team)
         league.setRecord(team, PartOfYear::Season, loser);
     publishRankings(league);
     const auto rows = rowsAfter(league.page("index.htm"), "Power Ranking");
@@ -228,7 +216,8 @@ TEST(LeagueHomePage, TeamBlocksBeginWithABannerUnlessTheFirstTurnGaveNoRow) {
 
 TEST(PlayoffHomePage, OpensWithoutTheRootTagAndWithALinkList) {
     TestLeague league;
-    league.files.files["Last 10 Box.txt"] = textOf(std::vector<RecentGame>{{MTL, BOS, 2, 3, "Newest.htm"}});
+    league.files.files["Last 10 Box.txt"] =
+        textOf(std::vector<RecentGame>{{Montreal, Boston, 2, 3, "Newest.htm"}});
 
     publishRankings(league, PartOfYear::Playoffs);
 

@@ -1,22 +1,10 @@
 #include "LeadersSupport.h"
-
-#include <gmock/gmock.h>
+#include "support/Test.h"
 
 namespace iceline {
 namespace {
 
-using test::linesOf;
-using test::publishRankings;
-using test::setGoalie;
-using test::setSkater;
-using test::teamRecord;
-using test::TestLeague;
-using testing::ElementsAre;
-using testing::HasSubstr;
-using testing::SizeIs;
-
-constexpr TeamIndex BOS{0};
-constexpr TeamIndex MTL{10};
+using namespace test;
 
 TEST(PlayerFragment, RowToTheLetter) {
     TestLeague league;
@@ -24,7 +12,7 @@ TEST(PlayerFragment, RowToTheLetter) {
     stats.PtsPG = 0.58;
     stats.ShotPct = 10;
     stats.Rating = 1.125;
-    setSkater(league, MTL, 4, "Jan O'Neil", stats);
+    setSkater(league, Montreal, 4, "Jan O'Neil", stats);
 
     publishRankings(league);
 
@@ -42,7 +30,7 @@ TEST(GoalieFragment, RowToTheLetter) {
     stats.GAA = 2.5;
     stats.SvPct = 0.9;
     stats.Rating = 0.75;
-    setGoalie(league, BOS, 0, "Al Masque", stats);
+    setGoalie(league, Boston, 0, "Al Masque", stats);
 
     publishRankings(league);
 
@@ -66,7 +54,7 @@ TEST(TeamFragment, RowToTheLetter) {
     record.PKPct = 80;
     record.SOGPG = 30.5;
     record.SOGAPG = 25.1;
-    league.setRecord(MTL, PartOfYear::Season, record);
+    league.setRecord(Montreal, PartOfYear::Season, record);
 
     publishRankings(league);
 
@@ -81,8 +69,8 @@ TEST(TeamFragment, RowToTheLetter) {
 
 TEST(StarFragment, RowToTheLetterInBothOrders) {
     TestLeague league;
-    setSkater(league, BOS, 4, "Most", {.StarPoints = 15});
-    setGoalie(league, MTL, 0, "Fewest", {.StarPoints = 5});
+    setSkater(league, Boston, 4, "Most", {.StarPoints = 15});
+    setGoalie(league, Montreal, 0, "Fewest", {.StarPoints = 5});
 
     publishRankings(league);
 
@@ -110,12 +98,12 @@ TEST(Fragments, AreNumberedByColumnHighestFirstThenLowestFirst) {
     leaky.GAA = 4;
     GoalieStats tight{.GP = 4, .GW = 2};
     tight.GAA = 1.5;
-    setGoalie(league, BOS, 0, "Leaky", leaky);
-    setGoalie(league, MTL, 0, "Tight", tight);
-    setSkater(league, BOS, 5, "Shooter", {.GP = 1, .G = 2, .PPG = 0});
-    setSkater(league, MTL, 5, "Passer", {.GP = 1, .G = 1, .PPG = 1});
-    league.setRecord(BOS, PartOfYear::Season, teamRecord(5, 2));
-    league.setRecord(MTL, PartOfYear::Season, teamRecord(4, 9));
+    setGoalie(league, Boston, 0, "Leaky", leaky);
+    setGoalie(league, Montreal, 0, "Tight", tight);
+    setSkater(league, Boston, 5, "Shooter", {.GP = 1, .G = 2, .PPG = 0});
+    setSkater(league, Montreal, 5, "Passer", {.GP = 1, .G = 1, .PPG = 1});
+    league.setRecord(Boston, PartOfYear::Season, teamRecord(5, 2));
+    league.setRecord(Montreal, PartOfYear::Season, teamRecord(4, 9));
 
     publishRankings(league);
 
@@ -148,7 +136,7 @@ TEST(Fragments, AreNumberedByColumnHighestFirstThenLowestFirst) {
 TEST(Fragments, EveryOrderHasAllRowsAndEmptyTablesGiveEmptyFiles) {
     TestLeague league;
     for (int row = 2; row < 25; ++row)
-        setSkater(league, BOS, row, "Skater", {.GP = 1, .Pts = row % 5});
+        setSkater(league, Boston, row, "Skater", {.GP = 1, .Pts = row % 5});
 
     publishRankings(league);
 
@@ -164,8 +152,8 @@ TEST(Fragments, EveryOrderHasAllRowsAndEmptyTablesGiveEmptyFiles) {
 
 TEST(Fragments, ThePlayoffsHaveTheirOwnFilesAndFigures) {
     TestLeague league;
-    setSkater(league, BOS, 5, "Clutch", {.GP = 80, .Pts = 1});
-    league.setPlayerStats(BOS, PartOfYear::Playoffs, 5, SkaterStats{.GP = 4, .Pts = 9});
+    setSkater(league, Boston, 5, "Clutch", {.GP = 80, .Pts = 1});
+    league.setPlayerStats(Boston, PartOfYear::Playoffs, 5, SkaterStats{.GP = 4, .Pts = 9});
 
     publishRankings(league, PartOfYear::Playoffs);
 

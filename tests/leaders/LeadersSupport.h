@@ -1,8 +1,8 @@
 #pragma once
 
 #include "leaders/Rankings.h"
+#include "support/Test.h"
 #include "support/TestLeague.h"
-#include "support/Text.h"
 
 #include <string>
 #include <vector>

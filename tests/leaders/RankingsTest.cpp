@@ -1,24 +1,11 @@
 #include "LeadersSupport.h"
 #include "files/FileError.h"
-
-#include <gmock/gmock.h>
+#include "support/Test.h"
 
 namespace iceline {
 namespace {
 
-using test::abbrsOf;
-using test::namesOf;
-using test::setGoalie;
-using test::setSkater;
-using test::teamRecord;
-using test::TestLeague;
-using testing::ElementsAre;
-using testing::IsEmpty;
-using testing::SizeIs;
-
-constexpr TeamIndex BOS{0};
-constexpr TeamIndex BUF{1};
-constexpr TeamIndex CGY{2};
+using namespace test;
 
 Rankings& rankings(TestLeague& league, PartOfYear part = PartOfYear::Season) {
     return Rankings::in(league.app, part);
@@ -26,11 +13,11 @@ Rankings& rankings(TestLeague& league, PartOfYear part = PartOfYear::Season) {
 
 TEST(PlayerLeaders, OfEqualPointsTheFirstTeamAndRosterRowComesFirstBothWays) {
     TestLeague league;
-    setSkater(league, BUF, 3, "Low Team Index", {.GP = 10, .Pts = 40});
-    setSkater(league, BUF, 9, "Lower On The Roster", {.GP = 10, .Pts = 40});
-    setSkater(league, CGY, 2, "High Team Index", {.GP = 10, .Pts = 40});
-    setSkater(league, CGY, 4, "Best", {.GP = 10, .Pts = 41});
-    setSkater(league, BOS, 5, "Worst", {.GP = 10, .Pts = -1});
+    setSkater(league, Buffalo, 3, "Low Team Index", {.GP = 10, .Pts = 40});
+    setSkater(league, Buffalo, 9, "Lower On The Roster", {.GP = 10, .Pts = 40});
+    setSkater(league, Calgary, 2, "High Team Index", {.GP = 10, .Pts = 40});
+    setSkater(league, Calgary, 4, "Best", {.GP = 10, .Pts = 41});
+    setSkater(league, Boston, 5, "Worst", {.GP = 10, .Pts = -1});
 
     Rankings& window = rankings(league);
     EXPECT_THAT(namesOf(window.content().players),
@@ -43,11 +30,11 @@ TEST(PlayerLeaders, OfEqualPointsTheFirstTeamAndRosterRowComesFirstBothWays) {
 
 TEST(PlayerLeaders, ListsSkatersWhoHavePlayedAndNoEmptyRow) {
     TestLeague league;
-    setSkater(league, BOS, 4, "Regular", {.GP = 1});
-    setSkater(league, BOS, 5, "On The Bench", {.GP = 0, .Pts = 3});
-    setSkater(league, BOS, 6, "-----------", {.GP = 7, .Pts = 3, .StarPoints = 4});
-    setGoalie(league, BOS, 0, "Masked", {.GP = 7});
-    setGoalie(league, BOS, 1, "-----------", {.GP = 1});
+    setSkater(league, Boston, 4, "Regular", {.GP = 1});
+    setSkater(league, Boston, 5, "On The Bench", {.GP = 0, .Pts = 3});
+    setSkater(league, Boston, 6, "-----------", {.GP = 7, .Pts = 3, .StarPoints = 4});
+    setGoalie(league, Boston, 0, "Masked", {.GP = 7});
+    setGoalie(league, Boston, 1, "-----------", {.GP = 1});
 
     const Rankings::Content& content = rankings(league).content();
     EXPECT_THAT(namesOf(content.players), ElementsAre("REGULAR"));
@@ -58,7 +45,7 @@ TEST(PlayerLeaders, ListsSkatersWhoHavePlayedAndNoEmptyRow) {
 TEST(PlayerLeaders, TheWindowShowsTwentyRowsWithTheirNumbers) {
     TestLeague league;
     for (int row = 2; row < 25; ++row)
-        setSkater(league, BOS, row, "Skater " + std::to_string(row), {.GP = 1, .Pts = row});
+        setSkater(league, Boston, row, "Skater " + std::to_string(row), {.GP = 1, .Pts = row});
 
     const Rankings& window = rankings(league);
     EXPECT_EQ(window.PlayerCount, 23);
@@ -74,7 +61,7 @@ TEST(PlayerLeaders, FiguresAreShownWithLeadingZeroAndWithoutTrailingZeros) {
     stats.PtsPG = 0.62;
     stats.ShotPct = 12.5;
     stats.Rating = -0.125;
-    setSkater(league, BOS, 2, "Sniper", stats);
+    setSkater(league, Boston, 2, "Sniper", stats);
 
     EXPECT_THAT(rankings(league).content().players.rows.at(0).figures,
                 ElementsAre("2", "3", "5", "0.62", "16", "12.5", "4", "8", "-0.125", "0", "1"));
@@ -84,7 +71,7 @@ TEST(PlayerLeaders, AFigureTooLargeForTheTableIsAnErrorThatNamesTheFile) {
     TestLeague league;
     SkaterStats stats{.GP = 1};
     stats.Rating = 3e6;
-    setSkater(league, CGY, 2, "Sniper", stats);
+    setSkater(league, Calgary, 2, "Sniper", stats);
 
     try {
         rankings(league);
@@ -133,8 +120,8 @@ TEST(GoalieLeaders, OneGameIsEnoughToLead) {
     GoalieStats often{.GP = 60};
     often.GAA = 2.5;
     often.SvPct = 0.875;
-    setGoalie(league, BOS, 0, "Often", often);
-    setGoalie(league, CGY, 0, "Once", once);
+    setGoalie(league, Boston, 0, "Often", often);
+    setGoalie(league, Calgary, 0, "Once", once);
 
     Rankings& window = rankings(league);
     EXPECT_THAT(namesOf(window.content().goalies), ElementsAre("ONCE", "OFTEN"));
@@ -158,7 +145,7 @@ TEST(StarLeaders, SkatersAndGoaliesAreInOneTable) {
 }
 
 /// All teams have played, each with one point less than the one before it, but for what a test changes.
-test::MemoryFiles playedLeague() {
+MemoryFiles playedLeague() {
     TestLeague league;
     for (const TeamIndex team : AllLeagueTeams)
         league.setRecord(team, PartOfYear::Season, teamRecord(30, 40 - team.number()));
@@ -167,7 +154,7 @@ test::MemoryFiles playedLeague() {
 
 TEST(TeamLeaders, TeamsWithoutGamesTakeATurnAndNoRow) {
     TestLeague league(playedLeague());
-    for (const TeamIndex team : {BOS, BUF, CGY})
+    for (const TeamIndex team : {Boston, Buffalo, Calgary})
         league.setRecord(team, PartOfYear::Season, {});
 
     Rankings& window = rankings(league);
@@ -201,40 +188,40 @@ TEST(TeamLeaders, NegativeRankingsAndTiesKeepTheirPlacesBothWays) {
 
 TEST(TeamLeaders, GoalsAGameAreRoundedOnceWithTiesToTheEvenDigit) {
     TestLeague league;
-    league.setRecord(BOS, PartOfYear::Season, teamRecord(8, 0, 5, 7));
+    league.setRecord(Boston, PartOfYear::Season, teamRecord(8, 0, 5, 7));
 
     const LeaderLine row = rankings(league).content().teams.rows.at(0);
     EXPECT_EQ(row.figures.at(3), "0.62");
     EXPECT_EQ(row.figures.at(4), "0.88");
-    EXPECT_EQ(league.app.state.TeamLeaderTable[BUF].values[columnOf(TeamLeaderColumns, "GPG")], 0);
+    EXPECT_EQ(league.app.state.TeamLeaderTable[Buffalo].values[columnOf(TeamLeaderColumns, "GPG")], 0);
 }
 
 TEST(LeaderTables, TheLoadThatRanLastDecidesWhatBothWindowsShow) {
     TestLeague league;
-    league.setRecord(BOS, PartOfYear::Season, teamRecord(5));
-    league.setRecord(BOS, PartOfYear::Playoffs, teamRecord(2));
-    setSkater(league, BOS, 2, "Season", {.GP = 1, .Pts = 3});
-    setSkater(league, BOS, 3, "Both", {.GP = 1, .Pts = 2});
-    league.setPlayerStats(BOS, PartOfYear::Playoffs, 3, SkaterStats{.GP = 1, .Pts = 8});
+    league.setRecord(Boston, PartOfYear::Season, teamRecord(5));
+    league.setRecord(Boston, PartOfYear::Playoffs, teamRecord(2));
+    setSkater(league, Boston, 2, "Season", {.GP = 1, .Pts = 3});
+    setSkater(league, Boston, 3, "Both", {.GP = 1, .Pts = 2});
+    league.setPlayerStats(Boston, PartOfYear::Playoffs, 3, SkaterStats{.GP = 1, .Pts = 8});
 
     Rankings& season = rankings(league);
-    EXPECT_EQ(league.app.state.TeamLeaderTable[BOS].GP(), 5);
+    EXPECT_EQ(league.app.state.TeamLeaderTable[Boston].GP(), 5);
     Rankings& playoffs = rankings(league, PartOfYear::Playoffs);
     EXPECT_EQ(playoffs.content().title, "Playoff Rankings");
-    EXPECT_EQ(league.app.state.TeamLeaderTable[BOS].GP(), 2);
+    EXPECT_EQ(league.app.state.TeamLeaderTable[Boston].GP(), 2);
 
     EXPECT_THAT(namesOf(season.content().players), ElementsAre("SEASON", "BOTH"));
     season.lColN_Click(0);
     EXPECT_THAT(namesOf(season.content().players), ElementsAre("BOTH"));
     season.tmLeadersLoad();
-    EXPECT_EQ(league.app.state.TeamLeaderTable[BOS].GP(), 5);
+    EXPECT_EQ(league.app.state.TeamLeaderTable[Boston].GP(), 5);
 }
 
 TEST(LeaderTables, AWindowNeverListsMoreRowsThanItsOwnLoadsFound) {
     TestLeague league;
-    setSkater(league, BOS, 2, "First", {.GP = 1, .Pts = 1});
-    setSkater(league, BOS, 3, "Second", {.GP = 1, .Pts = 3});
-    league.setPlayerStats(BOS, PartOfYear::Playoffs, 2, SkaterStats{.GP = 1});
+    setSkater(league, Boston, 2, "First", {.GP = 1, .Pts = 1});
+    setSkater(league, Boston, 3, "Second", {.GP = 1, .Pts = 3});
+    league.setPlayerStats(Boston, PartOfYear::Playoffs, 2, SkaterStats{.GP = 1});
 
     Rankings& playoffs = rankings(league, PartOfYear::Playoffs);
     rankings(league);
