@@ -6,11 +6,8 @@
 #include "files/JournalFormat.h"
 #include "files/LeagueLock.h"
 #include "files/OpenFile.h"
-#include "support/ErrorMessage.h"
 #include "support/TemporaryFolder.h"
-
-#include <gmock/gmock.h>
-#include <gtest/gtest.h>
+#include "support/Test.h"
 
 #include <chrono>
 #include <csignal>
@@ -33,8 +30,6 @@ namespace iceline::test {
 namespace {
 
 namespace fs = std::filesystem;
-using testing::ElementsAre;
-using testing::IsEmpty;
 
 constexpr int Skipped = 77;
 

@@ -2,9 +2,7 @@
 
 #include "files/FileError.h"
 #include "support/TemporaryFolder.h"
-
-#include <gmock/gmock.h>
-#include <gtest/gtest.h>
+#include "support/Test.h"
 
 #include <atomic>
 #include <chrono>
@@ -17,8 +15,6 @@ namespace iceline::test {
 namespace {
 
 namespace fs = std::filesystem;
-using testing::ElementsAre;
-using testing::IsEmpty;
 
 class DiskFilesTest : public testing::Test {
 protected:

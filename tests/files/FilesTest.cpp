@@ -1,11 +1,8 @@
 #include "files/DiskFiles.h"
 #include "files/StagedFiles.h"
-#include "support/ErrorMessage.h"
 #include "support/MemoryFiles.h"
 #include "support/TemporaryFolder.h"
-
-#include <gmock/gmock.h>
-#include <gtest/gtest.h>
+#include "support/Test.h"
 
 #include <functional>
 #include <memory>
@@ -14,9 +11,6 @@
 namespace iceline::test {
 
 namespace {
-
-using testing::ElementsAre;
-using testing::IsEmpty;
 
 /// Files of one kind together with what is under them. What holds for one kind holds for all.
 struct Kind {

@@ -3,13 +3,10 @@
 #include "files/DiskFiles.h"
 #include "files/FileError.h"
 #include "files/JournalFormat.h"
-#include "support/ErrorMessage.h"
 #include "support/FailingFiles.h"
 #include "support/MemoryFiles.h"
 #include "support/TemporaryFolder.h"
-
-#include <gmock/gmock.h>
-#include <gtest/gtest.h>
+#include "support/Test.h"
 
 #include <algorithm>
 #include <functional>
@@ -21,10 +18,6 @@ namespace iceline::test {
 namespace {
 
 using Failure = FailingFiles::Failure;
-using testing::AnyOf;
-using testing::Contains;
-using testing::ElementsAre;
-using testing::HasSubstr;
 
 constexpr int Games = 4;
 

@@ -2,9 +2,7 @@
 
 #include "files/FileError.h"
 #include "support/MemoryFiles.h"
-
-#include <gmock/gmock.h>
-#include <gtest/gtest.h>
+#include "support/Test.h"
 
 #include <filesystem>
 
@@ -13,8 +11,6 @@ namespace iceline::test {
 namespace {
 
 using Kind = Change::Kind;
-using testing::ElementsAre;
-using testing::IsEmpty;
 
 /// Two team folders: BOS with its record, MTL empty; a list of box scores beside them.
 class StagedFilesTest : public testing::Test {
