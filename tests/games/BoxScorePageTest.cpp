@@ -3,21 +3,12 @@
 #include "files/FileError.h"
 #include "store/LeagueFiles.h"
 #include "support/MemoryFiles.h"
-#include "support/Text.h"
-
-#include <gmock/gmock.h>
+#include "support/Test.h"
 
 namespace iceline {
 namespace {
 
-using testing::ElementsAre;
-using testing::HasSubstr;
-using testing::Not;
-using testing::StartsWith;
-
-constexpr TeamIndex Boston{0};
-constexpr TeamIndex NewJersey{11};
-constexpr TeamIndex Winnipeg{23};
+using namespace test;
 
 /// Figures that are all different, `by` more on one side than on the other.
 TeamGameStats figures(int goals, int by) {
@@ -62,7 +53,7 @@ GameReport game() {
 std::vector<std::string> pageLines(const std::optional<std::string>& homeCoach = std::nullopt,
                                    const std::optional<std::string>& awayCoach = std::nullopt) {
     const GameReport report = game();
-    return test::linesOf(boxScorePage({report, "x.htm", GameKind::Season, homeCoach, awayCoach}));
+    return linesOf(boxScorePage({report, "x.htm", GameKind::Season, homeCoach, awayCoach}));
 }
 
 std::vector<std::string> slice(const std::vector<std::string>& lines, std::size_t first, std::size_t count) {
@@ -184,7 +175,7 @@ protected:
         writeBoxScore(files, {report, page, kind, std::nullopt, std::nullopt});
     }
 
-    test::MemoryFiles files;
+    MemoryFiles files;
     GameReport report = game();
 };
 

@@ -1,14 +1,12 @@
 #include "games/GameReport.h"
 
 #include "samples/SaveStateWriter.h"
-
-#include <gmock/gmock.h>
+#include "support/Test.h"
 
 namespace iceline {
 namespace {
 
-constexpr TeamIndex Boston{0};
-constexpr TeamIndex Montreal{10};
+using namespace test;
 
 GameReport reportOf(const GameSheet& game, int formerPeriod = 0) {
     GameRosters rosters;

@@ -4,13 +4,12 @@
 #include "games/ImportLeague.h"
 #include "standings/Standings.h"
 #include "support/FailingFiles.h"
+#include "support/Test.h"
 
 namespace iceline {
 namespace {
 
 using namespace test;
-using testing::ElementsAre;
-using testing::HasSubstr;
 
 class ImportFolder : public ImportLeague {
 protected:

@@ -2,17 +2,13 @@
 
 #include "games/StatExtractor.h"
 #include "samples/SaveStateWriter.h"
+#include "support/Test.h"
 #include "support/TestLeague.h"
-
-#include <gmock/gmock.h>
 
 #include <set>
 #include <string>
 
 namespace iceline::test {
-
-inline constexpr TeamIndex Boston{0};
-inline constexpr TeamIndex Montreal{10};
 
 /// Boston 3, Montreal 1: a game with something for every file of the league.
 inline GameSheet lovelyGame() {

@@ -4,26 +4,19 @@
 #include "games/SaveStateMap.h"
 #include "samples/SaveStateWriter.h"
 #include "support/MemoryFiles.h"
-
-#include <gmock/gmock.h>
+#include "support/Test.h"
 
 namespace iceline {
 namespace {
 
-using testing::ElementsAre;
-using testing::Eq;
-using testing::IsEmpty;
-using testing::Optional;
-
-constexpr TeamIndex Boston{0};
-constexpr TeamIndex NewJersey{11};
+using namespace test;
 
 SaveState saved(const GameSheet& game) {
     return {"evening/game7.gs0", saveStateBytes(game)};
 }
 
 TEST(SaveState, ReadsFirst64KiBOfTheFileOnce) {
-    test::MemoryFiles files;
+    MemoryFiles files;
     files.files["game.gs0"] = std::string(70000, '\x05');
     const SaveState save = SaveState::read(files, "game.gs0");
     EXPECT_EQ(save.byteAt(65535), 5);

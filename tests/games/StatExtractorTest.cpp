@@ -2,21 +2,15 @@
 
 #include "files/FileError.h"
 #include "samples/SaveStateWriter.h"
+#include "support/Test.h"
 #include "support/TestLeague.h"
-
-#include <gmock/gmock.h>
 
 #include <map>
 
 namespace iceline {
 namespace {
 
-using testing::ElementsAre;
-using testing::HasSubstr;
-using testing::IsEmpty;
-
-constexpr TeamIndex Boston{0};
-constexpr TeamIndex StLouis{18};
+using namespace test;
 
 GameSheet overtimeWin() {
     GameSheet game(StLouis, Boston);
@@ -47,7 +41,7 @@ protected:
     StatExtractor& window() { return StatExtractor::in(league.app); }
     ApplicationState& state() { return league.app.state; }
 
-    test::TestLeague league;
+    TestLeague league;
 };
 
 TEST_F(StatExtractorTest, LoadListsTheCoachesAfterNoCoach) {
@@ -140,9 +134,9 @@ TEST_F(StatExtractorTest, ImportedGameIsPublishedAndNotShown) {
 }
 
 /// Files that count how often each save state is read.
-class CountingFiles : public test::MemoryFiles {
+class CountingFiles : public MemoryFiles {
 public:
-    explicit CountingFiles(const test::MemoryFiles& league) : MemoryFiles(league) {}
+    explicit CountingFiles(const MemoryFiles& league) : MemoryFiles(league) {}
 
     std::string readFirst(const std::string& path, std::size_t limit) override {
         ++timesRead[path];

@@ -1,12 +1,12 @@
 #include "games/Summaries.h"
 
-#include <gtest/gtest.h>
+#include "support/Test.h"
 
 namespace iceline {
 namespace {
 
-constexpr TeamIndex Boston{0};
-constexpr TeamIndex LosAngeles{8};
+using namespace test;
+
 constexpr int None = NoAssist;
 
 const std::string ScoringHead =

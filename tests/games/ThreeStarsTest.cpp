@@ -1,15 +1,13 @@
 #include "games/ThreeStars.h"
 
 #include "samples/SaveStateWriter.h"
+#include "support/Test.h"
 #include "support/TestLeague.h"
-
-#include <gmock/gmock.h>
 
 namespace iceline {
 namespace {
 
-using testing::ElementsAre;
-using testing::Eq;
+using namespace test;
 
 constexpr auto Nobody = std::nullopt;
 constexpr int Regulation = 3;
@@ -158,7 +156,7 @@ protected:
         files.files["game.gs0"] = saveStateBytes(game);
         for (const Side side : {Side::Home, Side::Away}) {
             files.makeFolder(paths::teamFolder(game.of(side).team));
-            files.files[paths::playersList(game.of(side).team)] = test::rosterText(rosters.of(side));
+            files.files[paths::playersList(game.of(side).team)] = rosterText(rosters.of(side));
         }
         selectStars(state, readGame(files, "game.gs0"));
     }
@@ -167,7 +165,7 @@ protected:
     static constexpr TeamIndex StLouis{18};
     GameSheet game{StLouis, Boston};
     GameRosters rosters;
-    test::MemoryFiles files;
+    MemoryFiles files;
     ApplicationState state;
 };
 
