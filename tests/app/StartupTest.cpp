@@ -4,23 +4,15 @@
 #include "files/FileError.h"
 #include "files/JournalFormat.h"
 #include "store/LeagueFiles.h"
+#include "support/Test.h"
 #include "support/TestLeague.h"
-
-#include <gmock/gmock.h>
 
 #include <fmt/core.h>
 
 namespace iceline {
 namespace {
 
-using test::MemoryFiles;
-using test::TestLeague;
-using test::TestPlatform;
-using testing::Contains;
-using testing::ElementsAre;
-using testing::HasSubstr;
-using testing::IsEmpty;
-using testing::SizeIs;
+using namespace test;
 
 constexpr const char* Question =
     "Some or all of the required data files are not present,\n"
@@ -35,7 +27,7 @@ struct ProgramRun {
         platform.answers = std::move(answers);
     }
 
-    MemoryFiles siteTemplate = test::smallSiteTemplate();
+    MemoryFiles siteTemplate = smallSiteTemplate();
     TestPlatform platform;
     Application app;
 };

@@ -1,13 +1,11 @@
 #include "files/FileError.h"
 #include "games/ImportLeague.h"
+#include "support/Test.h"
 
 namespace iceline {
 namespace {
 
 using namespace test;
-using testing::ElementsAre;
-using testing::HasSubstr;
-using testing::IsEmpty;
 
 constexpr const char* Imported = "The game has been imported and stats have been saved.";
 constexpr const char* NoCoach = "Please select at least one coach first to import exhibition game to";

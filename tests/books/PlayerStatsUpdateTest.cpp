@@ -1,14 +1,13 @@
 #include "books/PlayerStatsUpdate.h"
 
 #include "support/NumberedRecord.h"
-
-#include <gmock/gmock.h>
+#include "support/Test.h"
 
 namespace iceline {
 namespace {
 
-constexpr TeamIndex Boston{0};
-constexpr TeamIndex Montreal{10};
+using namespace test;
+
 constexpr int FullSeason = 82;
 
 TEST(SpecialGoals, CountsPowerPlayAndShorthandedGoalsByScorer) {
@@ -38,7 +37,7 @@ TEST(SpecialGoals, CountsPowerPlayAndShorthandedGoalsByScorer) {
 /// A line in which every field holds its own place, and a real number a half more, but for six games played.
 template <class Stats>
 Stats sixGames() {
-    auto line = test::numberedRecord<Stats>();
+    auto line = numberedRecord<Stats>();
     line.GP = 6;
     return line;
 }

@@ -1,12 +1,11 @@
 #include "books/RecordsUpdate.h"
 
-#include <gmock/gmock.h>
+#include "support/Test.h"
 
 namespace iceline {
 namespace {
 
-constexpr TeamIndex Boston{0};
-constexpr TeamIndex Montreal{10};
+using namespace test;
 
 Roster rosterOf(const std::string& team) {
     Roster roster;

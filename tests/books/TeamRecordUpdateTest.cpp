@@ -1,18 +1,14 @@
 #include "books/TeamRecordUpdate.h"
 
-#include "support/ErrorMessage.h"
 #include "support/NumberedRecord.h"
-
-#include <gmock/gmock.h>
+#include "support/Test.h"
 
 #include <limits>
 
 namespace iceline {
 namespace {
 
-constexpr TeamIndex Boston{0};    // Wales
-constexpr TeamIndex Montreal{10}; // Wales
-constexpr TeamIndex Calgary{2};   // Campbell
+using namespace test;
 
 GameSheet game(TeamIndex home, int homeGoals, TeamIndex away, int awayGoals) {
     GameSheet sheet(home, away);
@@ -72,7 +68,7 @@ TeamRecord after(const GameSheet& sheet, Side side, TeamRecord record = {}, bool
 /// A game on top of a line in which every field holds its own place, 1 to 113, and a real number a half more.
 /// All that the game does not move stays, and hardly a quotient is even.
 TEST(TeamRecordUpdate, AGameMovesTheseFieldsOfTheLine) {
-    auto before = test::numberedRecord<TeamRecord>();
+    auto before = numberedRecord<TeamRecord>();
     before.ArenaMeter = CrowdMeterAtStart;
     EXPECT_EQ(lineOf("", after(busyGame(Boston, 3, Montreal), Side::Home, before)),
               R"(2,2,3,6,0.286,7,10,9,1.43,1.29,0.14,2.06,14,"",16,16,17,19,0.842,23,22,1.21,1.16,)"
@@ -146,7 +142,7 @@ TEST(TeamRecordUpdate, ASumThatTheFileCannotHoldIsAnError) {
     full.SOG = std::numeric_limits<int>::max() - 30;
     updateTeamRecord(full, busyGame(Boston, 3, Montreal), Side::Home, false, RecordHolder::Team);
     EXPECT_EQ(
-        test::errorMessage([&] { lineOf("Boston Bruins/Records.txt", full); }),
+        errorMessage([&] { lineOf("Boston Bruins/Records.txt", full); }),
         "Boston Bruins/Records.txt, line 1, item 45 (SOG): 2147483647 is more than the league's files can "
         "hold");
 }

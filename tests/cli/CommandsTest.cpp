@@ -3,6 +3,7 @@
 #include "cli/TextTable.h"
 #include "files/LeagueLock.h"
 #include "shell/Windows.h"
+#include "support/Test.h"
 
 #include <csignal>
 #include <map>
@@ -10,11 +11,9 @@
 namespace iceline::cli {
 namespace {
 
+using namespace test;
+
 namespace fs = std::filesystem;
-using testing::AllOf;
-using testing::EndsWith;
-using testing::HasSubstr;
-using testing::StartsWith;
 
 const std::string Question =
     "Some or all of the required data files are not present,\n"

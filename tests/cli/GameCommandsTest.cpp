@@ -1,14 +1,14 @@
 #include "CliTest.h"
 #include "files/DiskFiles.h"
 #include "samples/SampleGames.h"
+#include "support/Test.h"
 
 namespace iceline::cli {
 namespace {
 
+using namespace test;
+
 namespace fs = std::filesystem;
-using testing::EndsWith;
-using testing::HasSubstr;
-using testing::StartsWith;
 
 const std::string Imported = "The game has been imported and stats have been saved.\n";
 const std::string NoCoach = "Please select at least one coach first to import exhibition game to\n";
@@ -41,7 +41,7 @@ protected:
     }
 
 private:
-    test::TemporaryFolder games_;
+    TemporaryFolder games_;
 };
 
 TEST_F(GameCommandsTest, ReadPrintsTheReportAndChangesNothing) {

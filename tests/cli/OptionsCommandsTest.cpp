@@ -1,10 +1,10 @@
 #include "CliTest.h"
+#include "support/Test.h"
 
 namespace iceline::cli {
 namespace {
 
-using testing::HasSubstr;
-using testing::StartsWith;
+using namespace test;
 
 /// The commands of the options window, and what they leave on the disk.
 class OptionsCommandsTest : public CliLeagueTest {

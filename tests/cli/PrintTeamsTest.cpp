@@ -1,17 +1,16 @@
 #include "cli/WindowPrinters.h"
 #include "players/PlayerStats.h"
 #include "support/NumberedRecord.h"
+#include "support/Test.h"
 #include "support/TestLeague.h"
 #include "teams/TeamView.h"
-
-#include <gmock/gmock.h>
 
 #include <sstream>
 
 namespace iceline::cli {
 namespace {
 
-using testing::HasSubstr;
+using namespace test;
 
 /// What was printed, with each run of blanks as one.
 std::string squeezed(const std::string& printed) {
@@ -27,7 +26,7 @@ std::string squeezed(const std::string& printed) {
 
 TEST(PrintTeamView, EveryFigureIsUnderItsHead) {
     TeamView view;
-    view.record = test::numberedRecord<TeamRecord>();
+    view.record = numberedRecord<TeamRecord>();
     view.streak = {"L", 201};
     view.lastTen = {202, 203, 204};
     view.LeagueMeter = 205;
@@ -55,13 +54,13 @@ TEST(PrintTeamView, EveryFigureIsUnderItsHead) {
 
 TEST(PrintPlayerStats, EveryFigureIsUnderItsHead) {
     constexpr TeamIndex Boston{0};
-    test::TestLeague league;
+    TestLeague league;
     Roster roster;
     roster[0] = {"Gil Keeper", 31, 80, "G"};
     roster[1] = {"Ann First", 99, 70, "F"};
     league.setRoster(Boston, roster);
-    league.setPlayerStats(Boston, PartOfYear::Season, 0, test::numberedRecord<GoalieStats>());
-    league.setPlayerStats(Boston, PartOfYear::Season, 1, test::numberedRecord<SkaterStats>());
+    league.setPlayerStats(Boston, PartOfYear::Season, 0, numberedRecord<GoalieStats>());
+    league.setPlayerStats(Boston, PartOfYear::Season, 1, numberedRecord<SkaterStats>());
     auto& window = static_cast<PlayerStats&>(league.app.windows().use(WindowId::PlayerStats));
     window.PlayersTeamSelect = Boston.number();
     window.PlayersTeamSelect_Click();

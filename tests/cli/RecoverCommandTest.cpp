@@ -2,15 +2,15 @@
 #include "files/Change.h"
 #include "files/Journal.h"
 #include "files/JournalFormat.h"
+#include "support/Test.h"
 
 namespace iceline::cli {
 
 namespace {
 
+using namespace test;
+
 namespace fs = std::filesystem;
-using testing::AllOf;
-using testing::HasSubstr;
-using testing::Not;
 
 constexpr const char* SeasonLength = "Games Until Playoffs.txt";
 

@@ -1,13 +1,12 @@
 #include "cli/Script.h"
 
 #include "CliTest.h"
+#include "support/Test.h"
 
 namespace iceline::cli {
 namespace {
 
-using testing::ElementsAre;
-using testing::HasSubstr;
-using testing::Optional;
+using namespace test;
 
 TEST(ScriptWords, BlanksPartWordsAndDoubleQuotesHoldThemTogether) {
     EXPECT_THAT(wordsOf("import game.gs0 --exhibition\r"),

@@ -1,11 +1,11 @@
 #include "cli/TextTable.h"
 
-#include <gmock/gmock.h>
+#include "support/Test.h"
 
 namespace iceline::cli {
 namespace {
 
-using testing::ElementsAre;
+using namespace test;
 
 TEST(TextTable, ColumnsAreAsWideAsTheirWidestCell) {
     TextTable table({{"Team", TextTable::Align::Left}, {"GP"}, {"Streak", TextTable::Align::Left}});

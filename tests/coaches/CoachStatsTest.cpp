@@ -1,15 +1,11 @@
 #include "coaches/CoachStats.h"
 
+#include "support/Test.h"
 #include "support/TestLeague.h"
-
-#include <gmock/gmock.h>
 
 namespace iceline::test {
 
 namespace {
-
-using testing::ElementsAre;
-using testing::HasSubstr;
 
 TeamRecord recordOf(int games, int points) {
     TeamRecord record;

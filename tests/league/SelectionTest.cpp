@@ -1,6 +1,6 @@
 #include "league/Selection.h"
 
-#include <gmock/gmock.h>
+#include "support/Test.h"
 
 #include <optional>
 #include <random>
@@ -8,7 +8,7 @@
 namespace iceline {
 namespace {
 
-using testing::ElementsAre;
+using namespace test;
 
 /// The league's ordering as it is told: each place by a walk from the last row to the first.
 std::vector<int> orderByWalks(const std::vector<int>& values, Direction direction) {

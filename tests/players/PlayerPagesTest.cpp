@@ -1,16 +1,11 @@
 #include "players/PlayerPages.h"
 
-#include <gmock/gmock.h>
+#include "support/Test.h"
 
 namespace iceline {
 namespace {
 
-using testing::EndsWith;
-using testing::HasSubstr;
-using testing::Not;
-using testing::StartsWith;
-
-constexpr TeamIndex MTL{10};
+using namespace test;
 
 const std::string FrameTitled(const std::string& title) {
     return "<html><head><title>" + title +
@@ -26,7 +21,7 @@ TEST(RosterPage, ListsPlayersUpToTheFirstEmptyRowOrName) {
     roster[2] = {"", 9, 70, "F"};
     roster[3] = {"Below The Gap", 9, 70, "F"};
 
-    const std::string page = rosterPage(MTL, roster);
+    const std::string page = rosterPage(Montreal, roster);
 
     EXPECT_THAT(page, StartsWith(FrameTitled("Iceline - Montreal Canadiens Team Roster")));
     EXPECT_THAT(
@@ -42,7 +37,7 @@ TEST(RosterPage, ListsPlayersUpToTheFirstEmptyRowOrName) {
                        "</table></center></body></html>\r\n"));
 
     roster[1] = {};
-    EXPECT_THAT(rosterPage(MTL, roster), Not(HasSubstr("Below The Gap")));
+    EXPECT_THAT(rosterPage(Montreal, roster), Not(HasSubstr("Below The Gap")));
     EXPECT_EQ(listedPlayers(roster).size(), 1u);
 }
 
@@ -53,7 +48,8 @@ TEST(PlayerPage, AGoaliesFiguresAreItemsOfTheirOwn) {
     stats.Rating = 1.5;
     stats.StarPoints = 15;
 
-    const std::string page = playerPage(PartOfYear::Season, MTL, {"Al Masque", 1, 83, "G"}, stats, "Goalie1");
+    const std::string page =
+        playerPage(PartOfYear::Season, Montreal, {"Al Masque", 1, 83, "G"}, stats, "Goalie1");
 
     EXPECT_THAT(page, StartsWith(FrameTitled("Iceline - Al Masque Player Profile")));
     EXPECT_THAT(
@@ -84,7 +80,7 @@ TEST(PlayerPage, ASkatersHasASecondHeadWithTheFiguresAGame) {
     stats.Rating = -0.5;
 
     const std::string page =
-        playerPage(PartOfYear::Playoffs, MTL, {"Jan Stick", 9, 70, "F"}, stats, "Jan Stick");
+        playerPage(PartOfYear::Playoffs, Montreal, {"Jan Stick", 9, 70, "F"}, stats, "Jan Stick");
 
     EXPECT_THAT(page, StartsWith(FrameTitled("Iceline - Jan Stick Playoff Player Profile")));
     EXPECT_THAT(

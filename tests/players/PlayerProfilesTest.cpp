@@ -1,14 +1,11 @@
 #include "players/PlayerProfiles.h"
 
+#include "support/Test.h"
 #include "support/TestLeague.h"
-
-#include <gmock/gmock.h>
 
 namespace iceline::test {
 
 namespace {
-
-constexpr TeamIndex Boston{0};
 
 std::string shown(const PlayerProfiles& window, std::string_view control) {
     for (const PlayerProfiles::Figure& figure : window.content().player->figures)

@@ -3,18 +3,12 @@
 #include "files/FileError.h"
 #include "players/PlayerFragments.h"
 #include "support/NumberedRecord.h"
+#include "support/Test.h"
 #include "support/TestLeague.h"
-
-#include <gmock/gmock.h>
 
 namespace iceline::test {
 
 namespace {
-
-using testing::ElementsAre;
-using testing::HasSubstr;
-
-constexpr TeamIndex Boston{0};
 
 /// A team of two goalies and four forwards, the last of whom stands below an empty row.
 Roster smallRoster() {

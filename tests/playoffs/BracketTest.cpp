@@ -1,13 +1,10 @@
 #include "playoffs/Bracket.h"
 
 #include "standings/StandingsSupport.h"
-
-#include <gmock/gmock.h>
+#include "support/Test.h"
 
 namespace iceline::test {
 namespace {
-
-using testing::ElementsAre;
 
 constexpr SeriesIndex Third{3};
 const TeamIndex Boston = team("BOS");

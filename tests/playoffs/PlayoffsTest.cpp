@@ -6,17 +6,11 @@
 #include "files/FileError.h"
 #include "playoffs/SeasonEnd.h"
 #include "standings/StandingsSupport.h"
+#include "support/Test.h"
 #include "support/TestLeague.h"
-
-#include <gmock/gmock.h>
 
 namespace iceline::test {
 namespace {
-
-using testing::Each;
-using testing::ElementsAre;
-using testing::HasSubstr;
-using testing::StartsWith;
 
 constexpr const char* SeasonIsOver = "Regular Season COMPLETE, Playoff Mode now active for the Postseason.";
 

@@ -1,9 +1,7 @@
 #include "preview/SitePreview.h"
 
 #include "support/TemporaryFolder.h"
-
-#include <gmock/gmock.h>
-#include <gtest/gtest.h>
+#include "support/Test.h"
 
 #include <boost/asio/connect.hpp>
 #include <boost/asio/ip/tcp.hpp>
@@ -20,7 +18,6 @@ namespace {
 
 namespace http = boost::beast::http;
 using boost::asio::ip::tcp;
-using testing::StartsWith;
 
 /// A preview that runs, and a browser that keeps its connection.
 class SitePreviewTest : public testing::Test {

@@ -1,15 +1,12 @@
 #include "records/AllTimeRecords.h"
 
 #include "page/PageText.h"
+#include "support/Test.h"
 #include "support/TestLeague.h"
-
-#include <gmock/gmock.h>
 
 namespace iceline::test {
 
 namespace {
-
-using testing::HasSubstr;
 
 TEST(AllTimeRecords, ANewLeagueShowsZerosOfTeamNoughtAndNoCoach) {
     TestLeague league;

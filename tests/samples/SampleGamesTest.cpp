@@ -3,8 +3,7 @@
 #include "games/SaveState.h"
 #include "samples/SaveStateWriter.h"
 #include "support/MemoryFiles.h"
-
-#include <gmock/gmock.h>
+#include "support/Test.h"
 
 #include <algorithm>
 #include <map>
@@ -13,10 +12,7 @@
 namespace iceline {
 namespace {
 
-using test::MemoryFiles;
-using testing::AllOf;
-using testing::Ge;
-using testing::Le;
+using namespace test;
 
 const LeagueRosters& rosters() {
     static const LeagueRosters rosters = builtInRosters();

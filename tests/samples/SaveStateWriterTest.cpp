@@ -1,6 +1,6 @@
 #include "samples/SaveStateWriter.h"
 
-#include <gmock/gmock.h>
+#include "support/Test.h"
 
 #include <cstddef>
 #include <stdexcept>
@@ -9,8 +9,7 @@
 namespace iceline {
 namespace {
 
-constexpr TeamIndex Boston{0};
-constexpr TeamIndex Montreal{10};
+using namespace test;
 
 std::vector<int> bytesAt(const std::string& image, std::size_t offset, std::size_t count) {
     std::vector<int> bytes;

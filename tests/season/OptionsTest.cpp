@@ -4,11 +4,9 @@
 #include "files/FileError.h"
 #include "games/StatExtractor.h"
 #include "page/BoxScoreList.h"
-#include "support/ErrorMessage.h"
 #include "support/FailingFiles.h"
+#include "support/Test.h"
 #include "support/TestLeague.h"
-
-#include <gmock/gmock.h>
 
 #include <array>
 #include <functional>
@@ -18,12 +16,6 @@ namespace iceline::test {
 
 namespace {
 
-using testing::ElementsAre;
-using testing::HasSubstr;
-using testing::IsEmpty;
-
-constexpr TeamIndex Boston{0};
-constexpr TeamIndex Buffalo{1};
 constexpr int AllTeamsEntry = 24;
 
 /// Of the uses of the disk by a deed, about so many are made to fail, the last ones among them.

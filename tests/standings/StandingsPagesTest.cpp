@@ -3,17 +3,12 @@
 #include "standings/StandingsSupport.h"
 #include "store/LeaguePaths.h"
 #include "support/MemoryFiles.h"
-
-#include <gmock/gmock.h>
+#include "support/Test.h"
 
 #include <span>
 
 namespace iceline::test {
 namespace {
-
-using testing::ElementsAre;
-using testing::HasSubstr;
-using testing::StartsWith;
 
 const std::string Bar =
     R"(<p><a href="./index.htm"><b> Home</b></a> | <a href="./BoxScores.htm"><b> Box Scores</b></a> | )"

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "league/TeamTable.h"
-#include "support/Text.h"
+#include "support/Test.h"
 
 #include <string>
 #include <string_view>

@@ -3,16 +3,11 @@
 #include "app/WelcomeWindow.h"
 #include "files/FileError.h"
 #include "standings/StandingsSupport.h"
-#include "support/ErrorMessage.h"
+#include "support/Test.h"
 #include "support/TestLeague.h"
-
-#include <gmock/gmock.h>
 
 namespace iceline::test {
 namespace {
-
-using testing::HasSubstr;
-using testing::StartsWith;
 
 constexpr std::size_t Wales = 0;
 constexpr std::size_t Campbell = 1;

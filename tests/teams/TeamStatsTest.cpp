@@ -2,19 +2,13 @@
 
 #include "files/FileError.h"
 #include "support/NumberedRecord.h"
+#include "support/Test.h"
 #include "support/TestLeague.h"
 #include "teams/TeamFigures.h"
-
-#include <gmock/gmock.h>
 
 namespace iceline::test {
 
 namespace {
-
-using testing::HasSubstr;
-
-constexpr TeamIndex Boston{0};
-constexpr TeamIndex StLouis{18};
 
 std::string lastTen(const TeamStats& window) {
     return teamfigures::LastTenGames.text(*window.content());
