@@ -2,8 +2,7 @@
 
 #include "standings/ClinchMarks.h"
 #include "standings/StandingsSupport.h"
-
-#include <gmock/gmock.h>
+#include "support/Test.h"
 
 namespace iceline::test {
 namespace {
@@ -40,13 +39,13 @@ TEST_F(Seeds, LeadersLevelOnPointsGoToAdamsAndSmythe) {
     of("CHI") = {.Wins = 5, .Points = 10};
     of("CGY") = {.Wins = 2, .Points = 10};
     order();
-    EXPECT_THAT(wales(), testing::StartsWith("HFD PIT "));
-    EXPECT_THAT(campbell(), testing::StartsWith("CGY CHI "));
+    EXPECT_THAT(wales(), StartsWith("HFD PIT "));
+    EXPECT_THAT(campbell(), StartsWith("CGY CHI "));
     of("PIT").Points = 11;
     of("CHI").Points = 11;
     order();
-    EXPECT_THAT(wales(), testing::StartsWith("PIT HFD "));
-    EXPECT_THAT(campbell(), testing::StartsWith("CHI CGY "));
+    EXPECT_THAT(wales(), StartsWith("PIT HFD "));
+    EXPECT_THAT(campbell(), StartsWith("CHI CGY "));
 }
 
 /// The Wales Conference near the end of a season of 20 games. In its order by points, which makes the first
@@ -81,14 +80,14 @@ protected:
 TEST_F(Clinching, FinishedSeasonMarksEightTeamsBothLeadersAndTheFirst) {
     mark();
     EXPECT_EQ(walesMarks(), "zyxxxxxx----");
-    EXPECT_THAT(state.CampbellSeeds, testing::Each(testing::ResultOf(
-                                         [this](TeamIndex team) { return state.ClinchMark[team]; }, "")));
+    EXPECT_THAT(state.CampbellSeeds,
+                Each(testing::ResultOf([this](TeamIndex team) { return state.ClinchMark[team]; }, "")));
 }
 
 TEST_F(Clinching, NothingIsClinchedBeforeTheFirstGame) {
     state.StandingsTable = {};
     mark();
-    EXPECT_THAT(state.ClinchMark, testing::Each(""));
+    EXPECT_THAT(state.ClinchMark, Each(""));
 }
 
 TEST_F(Clinching, TeamThatCanStillBeEqualledHasNotClinched) {
@@ -100,53 +99,37 @@ TEST_F(Clinching, TeamThatCanStillBeEqualledHasNotClinched) {
     EXPECT_EQ(walesMarks(), "zyxxxxxx----");
 }
 
-TEST_F(Clinching, LevelAtTheEndMoreWinsMakeATeamSafe) {
-    of("PHI") = {.Wins = 7, .Points = 14, .GP = 20};
-    of("OTA") = {.Wins = 6, .Points = 14, .GP = 20};
-    mark();
-    EXPECT_EQ(markOf("PHI"), "x");
-    EXPECT_EQ(markOf("OTA"), "");
-}
-
-TEST_F(Clinching, MoreWinsAreNotEnoughWhileGamesAreLeft) {
-    of("PHI") = {.Wins = 7, .Points = 14, .GP = 19};
-    of("OTA") = {.Wins = 6, .Points = 14, .GP = 20};
-    mark();
-    EXPECT_EQ(markOf("PHI"), "");
-}
-
-TEST_F(Clinching, MoreWinsMustMakeATeamSafeFromAllFour) {
-    of("PHI") = {.Wins = 7, .Points = 14, .GP = 20};
-    of("OTA") = {.Wins = 6, .Points = 14, .GP = 20};
-    of("WSH").GP = 16;
-    mark();
-    EXPECT_EQ(markOf("PHI"), "");
-}
-
-TEST_F(Clinching, LevelOnPointsAndWinsTheTieBreaksDecideAgainstOneTeamAlone) {
-    of("WSH").GP = 10; // can still pass PHI
-    for (const std::string_view abbr : {"PHI", "OTA"})
-        of(abbr) = {.Wins = 7, .Points = 14, .GP = 20, .GF = 60, .GA = 50, .PowerRanking = 4000};
-    of("OTA").GF = 59;
-    of("OTA").GA = 49;
-    mark();
-    EXPECT_EQ(markOf("PHI"), "x") << "as good a difference, more goals";
-
-    state.ClinchMark = {};
-    of("OTA").GF = 60;
-    of("PHI").GA = 48;
-    mark();
-    EXPECT_EQ(markOf("PHI"), "x") << "a better difference";
-
-    state.ClinchMark = {};
-    of("OTA").GA = 48;
-    mark();
-    EXPECT_EQ(markOf("PHI"), "") << "level in everything";
-
-    of("OTA").PowerRanking = 3999;
-    of("PHI").GF = 10;
-    mark();
-    EXPECT_EQ(markOf("PHI"), "x") << "a better power ranking";
+TEST_F(Clinching, LevelTeamsGoByWinsAndOnceThoseAreLevelByTheTieBreaksAgainstOneTeamAlone) {
+    struct Case {
+        TeamStanding phi, ota;
+        int wshGames;
+        const char* marks;
+    };
+    const TeamStanding moreWins{.Wins = 7, .Points = 14, .GP = 20};
+    const TeamStanding fewerWins{.Wins = 6, .Points = 14, .GP = 20};
+    const auto with = [&moreWins](int goalsFor, int goalsAgainst, int powerRanking) {
+        TeamStanding level = moreWins;
+        level.GF = goalsFor;
+        level.GA = goalsAgainst;
+        level.PowerRanking = powerRanking;
+        return level;
+    };
+    for (const Case& each : {
+             Case{moreWins, fewerWins, 20, "zyxxxxxx----"},
+             Case{{.Wins = 7, .Points = 14, .GP = 19}, fewerWins, 20, "zyxxxxx-----"}, // a game is left
+             Case{moreWins, fewerWins, 16, "zyxxxxx-----"}, // not safe from all four: WSH reaches 16
+             Case{with(60, 50, 4000), with(59, 49, 4000), 10, "z------x----"}, // as good a difference
+             Case{with(60, 48, 4000), with(60, 49, 4000), 10, "z------x----"}, // a better difference
+             Case{with(60, 48, 4000), with(60, 48, 4000), 10, "z-----------"}, // level in everything
+             Case{with(10, 48, 4000), with(60, 48, 3999), 10, "z------x----"}, // a better power ranking
+         }) {
+        state.ClinchMark = {};
+        of("PHI") = each.phi;
+        of("OTA") = each.ota;
+        of("WSH").GP = each.wshGames;
+        mark();
+        EXPECT_EQ(walesMarks(), each.marks) << each.phi.GF << " " << each.ota.GF;
+    }
 }
 
 TEST_F(Clinching, ClinchedDivisionMarksTheFirstSeedToo) {
@@ -158,23 +141,18 @@ TEST_F(Clinching, ClinchedDivisionMarksTheFirstSeedToo) {
     EXPECT_EQ(markOf("BOS"), "y");
 }
 
-TEST_F(Clinching, MarkOnceEarnedStays) {
+TEST_F(Clinching, ASeasonEndedByHandGivesNoMarksAndTakesNone) {
+    state.SeasonLength = SeasonEndedByHand;
+    mark();
+    EXPECT_THAT(state.ClinchMark, Each(""));
+    state.SeasonLength = 20;
     mark();
     mark();
     EXPECT_EQ(walesMarks(), "zyxxxxxx----");
-
     state.StandingsTable = {};
     state.SeasonLength = SeasonEndedByHand;
     mark();
-    EXPECT_EQ(markOf("BOS"), "z");
-    EXPECT_EQ(markOf("LI"), "y");
-    EXPECT_EQ(markOf("PHI"), "x");
-}
-
-TEST_F(Clinching, SeasonEndedByHandGivesNoMarks) {
-    state.SeasonLength = SeasonEndedByHand;
-    mark();
-    EXPECT_THAT(state.ClinchMark, testing::Each(""));
+    EXPECT_EQ(markOf("BOS") + markOf("LI") + markOf("PHI"), "zyx");
 }
 
 } // namespace
