@@ -37,10 +37,14 @@ protected:
 
     void save(const std::string& path, const GameSheet& game) { files().files[path] = saveStateBytes(game); }
 
+    void select(const std::string& path) {
+        league.platform.chosen.push_back(path);
+        window().LoadStats_Click();
+    }
+
     void select(const GameSheet& game) {
         save("Games/game.gs0", game);
-        league.platform.chosen.push_back("Games/game.gs0");
-        window().LoadStats_Click();
+        select("Games/game.gs0");
     }
 
     void import(const GameSheet& game) {
@@ -55,6 +59,17 @@ protected:
         state().PlayoffSeries = {};
         state().PlayoffSeries[series] = {winsA, winsB, Boston, Montreal};
         files().files[paths::PlayoffRecords] = textOf(state().PlayoffSeries);
+    }
+
+    /// Makes the season one game long, which all teams but Boston and Montreal have played.
+    void finishSeasonOfTheOthers() {
+        TeamRecord done;
+        done.GP = 1;
+        for (const TeamIndex team : AllLeagueTeams)
+            if (team != Boston && team != Montreal)
+                league.setRecord(team, PartOfYear::Season, done);
+        window();
+        state().SeasonLength = 1;
     }
 
     std::string content(const std::string& path) { return files().read(path); }

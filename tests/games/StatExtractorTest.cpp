@@ -1,11 +1,7 @@
 #include "games/StatExtractor.h"
 
 #include "files/FileError.h"
-#include "samples/SaveStateWriter.h"
-#include "support/Test.h"
-#include "support/TestLeague.h"
-
-#include <map>
+#include "games/ImportLeague.h"
 
 namespace iceline {
 namespace {
@@ -21,28 +17,7 @@ GameSheet overtimeWin() {
     return game;
 }
 
-class StatExtractorTest : public testing::Test {
-protected:
-    void save(const std::string& path, const GameSheet& game) {
-        league.files.files[path] = saveStateBytes(game);
-    }
-
-    void select(const std::string& path) {
-        league.platform.chosen.push_back(path);
-        window().LoadStats_Click();
-    }
-
-    void import(const std::string& path) {
-        state().SaveStatePath = path;
-        window().GameLoaded = true;
-        window().ImportStats_Click();
-    }
-
-    StatExtractor& window() { return StatExtractor::in(league.app); }
-    ApplicationState& state() { return league.app.state; }
-
-    TestLeague league;
-};
+class StatExtractorTest : public ImportLeague {};
 
 TEST_F(StatExtractorTest, LoadListsTheCoachesAfterNoCoach) {
     league.addCoach("beth");
@@ -62,7 +37,7 @@ TEST_F(StatExtractorTest, LoadTurnsAFinishedSeasonToThePlayoffs) {
 
 TEST_F(StatExtractorTest, SelectedGameFillsTheWindowAndWritesNothing) {
     save("games/one.gs0", overtimeWin());
-    const auto before = league.files.files;
+    const auto before = files().files;
     int changes = 0;
     window().onChange = [&] { ++changes; };
     select("  games/one.gs0 ");
@@ -80,7 +55,7 @@ TEST_F(StatExtractorTest, SelectedGameFillsTheWindowAndWritesNothing) {
 
     EXPECT_TRUE(window().GameLoaded);
     EXPECT_EQ(state().GameLastPeriod, 4);
-    EXPECT_EQ(league.files.files, before);
+    EXPECT_EQ(files().files, before);
 }
 
 TEST_F(StatExtractorTest, GameWithoutEntriesKeepsTheLastPeriod) {
@@ -98,8 +73,8 @@ TEST_F(StatExtractorTest, NothingChangesWhenNoGameIsRead) {
     save("one.gs0", overtimeWin());
     select("one.gs0");
     save("all-stars.gs0", GameSheet(TeamIndex(24), Boston));
-    league.files.makeFolder("games");
-    league.files.files["Boston Bruins/Players List.txt"] = "only,1,2,F\r\n";
+    files().makeFolder("games");
+    files().files["Boston Bruins/Players List.txt"] = "only,1,2,F\r\n";
     save("no-roster.gs0", GameSheet(Boston, StLouis));
 
     league.platform.chosen.push_back(std::nullopt);
@@ -122,7 +97,9 @@ TEST_F(StatExtractorTest, ImportedGameIsPublishedAndNotShown) {
     save("evening/one.gs0", overtimeWin());
     window().T1Coach_Click(2);
     window().T2Coach_Click(0);
-    import("evening/one.gs0");
+    state().SaveStatePath = "evening/one.gs0";
+    window().GameLoaded = true;
+    window().ImportStats_Click();
 
     EXPECT_EQ(window().content().report, std::nullopt);
     EXPECT_THAT(league.page("BoxScores/one.htm"), HasSubstr("BOS 1 , STL 2 </title>"));
@@ -130,35 +107,7 @@ TEST_F(StatExtractorTest, ImportedGameIsPublishedAndNotShown) {
     EXPECT_THAT(league.page("BoxScores/one.htm"), HasSubstr("<th>First Star</th><td><center>"
                                                             "<img src=\"../BannerMinis/STL.gif\">"));
     EXPECT_THAT(league.page("BoxScores.htm"), HasSubstr("<td><b>E</b></td>"));
-    EXPECT_THAT(league.files.files["Last 10 Box.txt"], HasSubstr("\"one.htm\""));
-}
-
-/// Files that count how often each save state is read.
-class CountingFiles : public MemoryFiles {
-public:
-    explicit CountingFiles(const MemoryFiles& league) : MemoryFiles(league) {}
-
-    std::string readFirst(const std::string& path, std::size_t limit) override {
-        ++timesRead[path];
-        return MemoryFiles::readFirst(path, limit);
-    }
-
-    std::map<std::string, int> timesRead;
-};
-
-TEST_F(StatExtractorTest, AFolderRunReadsEachGameOnce) {
-    save("evening/one.gs0", overtimeWin());
-    league.files.makeFolder("evening");
-    CountingFiles files(league.files);
-    Application app(files, league.siteTemplate, league.platform, windowCatalogue());
-    app.state.SeasonLength = 82;
-    StatExtractor& counted = StatExtractor::in(app);
-    counted.Exhibition = false;
-    counted.Season = true;
-    league.platform.chosen.push_back("evening");
-    counted.ImportFolder_Click();
-    EXPECT_EQ(counted.ImportCount, 1);
-    EXPECT_EQ(files.timesRead["evening/one.gs0"], 1);
+    EXPECT_THAT(files().files["Last 10 Box.txt"], HasSubstr("\"one.htm\""));
 }
 
 TEST_F(StatExtractorTest, OptionButtonsDecideTheKindOfGame) {

@@ -161,8 +161,6 @@ protected:
         selectStars(state, readGame(files, "game.gs0"));
     }
 
-    static constexpr TeamIndex Boston{0};
-    static constexpr TeamIndex StLouis{18};
     GameSheet game{StLouis, Boston};
     GameRosters rosters;
     MemoryFiles files;
