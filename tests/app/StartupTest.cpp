@@ -1,7 +1,8 @@
 #include "app/Startup.h"
 
 #include "app/Catalogue.h"
-#include "files/FileError.h"
+#include "files/Change.h"
+#include "files/Journal.h"
 #include "files/JournalFormat.h"
 #include "store/LeagueFiles.h"
 #include "support/Test.h"
@@ -194,93 +195,19 @@ TEST(LaterRun, BringsTheSiteUpToDateButForWhatTheLeagueHasChanged) {
     EXPECT_EQ(files.writes, writes);
 }
 
-TEST(LaterRun, AnEmptiedFileCountsAsExisting) {
-    TestLeague league;
-    league.files.files["Boston Bruins/Streak.txt"].clear();
-    ProgramRun run(league.files);
-    ASSERT_TRUE(startUp(run.app));
-    EXPECT_THAT(run.platform.messages, IsEmpty());
-    EXPECT_EQ(league.files.read("Boston Bruins/Streak.txt"), "");
-}
-
-TEST(LaterRun, AnEmptiedSeasonLengthEndsTheStart) {
-    TestLeague league;
-    league.files.files["Games Until Playoffs.txt"].clear();
-    ProgramRun run(league.files);
-    try {
-        startUp(run.app);
-        FAIL() << "the start went on";
-    } catch (const FileError& error) {
-        EXPECT_THAT(error.what(), HasSubstr("Games Until Playoffs.txt"));
-    }
-    EXPECT_FALSE(run.app.state.StartupDone);
-}
-
-TEST(LaterRun, RestoresThePlayoffsWithoutAWord) {
-    TestLeague league;
-    league.files.files["Games Until Playoffs.txt"] = "2\r\n";
-    TeamRecord done;
-    done.GP = 2;
-    for (const TeamIndex team : AllLeagueTeams)
-        league.setRecord(team, PartOfYear::Season, done);
-    ProgramRun run(league.files);
-    ASSERT_TRUE(startUp(run.app));
-    EXPECT_THAT(run.platform.messages, IsEmpty());
-    EXPECT_TRUE(run.app.state.PlayoffMode);
-    EXPECT_EQ(run.app.state.SeasonFolder, "/Post Season");
-
-    done.GP = 1;
-    league.setRecord(TeamIndex(23), PartOfYear::Season, done);
-    ProgramRun oneGameLeft(league.files);
-    ASSERT_TRUE(startUp(oneGameLeft.app));
-    EXPECT_FALSE(oneGameLeft.app.state.PlayoffMode);
-}
-
-TEST(LaterRun, ASeasonEndedByHandStaysEnded) {
-    TestLeague league;
-    league.files.files["Games Until Playoffs.txt"] = "-1\r\n";
-    ProgramRun run(league.files);
-    ASSERT_TRUE(startUp(run.app));
-    EXPECT_TRUE(run.app.state.PlayoffMode);
-    EXPECT_EQ(run.app.state.SeasonLength, -1);
-}
-
-/// A disk on which one file cannot be written.
-class DiskWithABadFile : public MemoryFiles {
-public:
-    using MemoryFiles::MemoryFiles;
-
-    void write(const std::string& path, std::string_view content, Durability durability) override {
-        if (path == badFile)
-            throw FileError::about(path, "cannot be written");
-        MemoryFiles::write(path, content, durability);
-    }
-
-    std::string badFile;
-};
-
 TEST(UnfinishedChange, IsFinishedAtTheNextStartWhenItsJournalIsWhole) {
-    const TestLeague league;
-    DiskWithABadFile disk;
-    disk.files = league.files.files;
-    disk.folders = league.files.folders;
-    disk.badFile = "Last 10 Box.txt";
-    {
-        ProgramRun broken(disk);
-        Operation operation(broken.app);
-        broken.app.files().write("Games Until Playoffs.txt", "60\r\n");
-        broken.app.files().write("Last 10 Box.txt", "0,1\r\n3,2\r\n\"BOS3.htm\"\r\n");
-        EXPECT_THROW(operation.commit(), FileError);
-    }
-    disk.badFile.clear();
-
-    ProgramRun next(disk);
+    TestLeague league;
+    const std::string length = league.files.read(paths::GamesUntilPlayoffs);
+    league.files.files[Journal::FileName] =
+        std::string(JournalHeading) +
+        journalEntry({{Change::Kind::Write, paths::GamesUntilPlayoffs, 0, "60\r\n"}},
+                     {{true, length.size(), checksum(length)}});
+    ProgramRun next(league.files);
     ASSERT_TRUE(startUp(next.app));
     EXPECT_THAT(next.platform.said(),
                 ElementsAre("The last change to the league was interrupted. It has now been finished."));
     EXPECT_EQ(next.app.state.SeasonLength, 60);
-    EXPECT_EQ(disk.read("Last 10 Box.txt"), "0,1\r\n3,2\r\n\"BOS3.htm\"\r\n");
-    EXPECT_FALSE(disk.isFile(Journal::FileName));
+    EXPECT_FALSE(league.files.isFile(Journal::FileName));
 }
 
 TEST(UnfinishedChange, IsDroppedAtTheNextStartWhenItsJournalIsTorn) {
