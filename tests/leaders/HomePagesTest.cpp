@@ -1,15 +1,15 @@
 #include "LeadersSupport.h"
 #include "store/LeagueFiles.h"
+#include "support/NumberedRecord.h"
 #include "support/Test.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace iceline {
 namespace {
 
 using namespace test;
-
-const std::string BlockBreak = "</table></td><td></td></font></center>";
 
 /// The lines of a page after the one that holds `head`, up to the end of its table.
 std::vector<std::string> rowsAfter(const std::string& page, const std::string& head) {
@@ -32,48 +32,28 @@ TEST(LeagueHomePage, OfAnEmptyLeagueHoldsHeadsAlone) {
     EXPECT_EQ(lines[0], "<html><head><title>Rinkstar - League Home Page</title><link rel=\"stylesheet\" "
                         "href=\"./styles.css\" type =\"Text/css\"></head>");
     EXPECT_EQ(lines[1], "<body link = BLACK vlink = BLACK alink = RED><font face = arial size = 2><center>");
-    const std::vector<std::string> expected{
+    std::vector<std::string> expected{
         "<br/><br/><table><tr><td><img src=\"./Headers/Iceline-Logo.gif\"></img></p></td><td>",
         "<table border = 1><tr><th colspan = 6>Last 10 Game Results</th></tr>",
         "<tr><td colspan=6>No Games</td></tr>",
         "</table></td></tr></table><br/><br/>",
         "<table border = 1><tr><th colspan = 4>Three Star Points Leaders</th></tr>",
-        "</table></td></tr></table><table border=1><tr><th colspan = 10>Player League Leaders</th></tr><tr>"
-        "</font></center>",
-        "<td><table border = 1><tr><th colspan = 4>Points</th></tr>",
-        BlockBreak,
-        "<td><table border = 1><tr><th colspan = 4>Goals</th></tr>",
-        BlockBreak,
-        "<td><table border = 1><tr><th colspan = 4>Assists</th></tr>",
-        BlockBreak,
-        "<td><table border = 1><tr><th colspan = 4>Shots on Goal</th></tr>",
-        BlockBreak,
-        "<td><table border = 1><tr><th colspan = 4>Penalty Minutes</th></tr>",
-        "</table></td></tr></table><table border=1><tr><th colspan = 10>Goalie League Leaders</th></tr><tr>"
-        "</font></center>",
-        "<td><table border = 1><tr><th colspan = 4>Goals Against Average</th></tr>",
-        BlockBreak,
-        "<td><table border = 1><tr><th colspan = 4>Wins</th></tr>",
-        BlockBreak,
-        "<td><table border = 1><tr><th colspan = 4>Save Percentage</th></tr>",
-        BlockBreak,
-        "<td><table border = 1><tr><th colspan = 4>Shutouts</th></tr>",
-        BlockBreak,
-        "<td><table border = 1><tr><th colspan = 4>Goals Allowed</th></tr>",
-        "</table></td></tr></table><table border=1><tr><th colspan = 10>Team Leaders</th></tr><tr>"
-        "</font></center>",
-        "<td><table border = 1><tr><th colspan = 4 width = 100%>Power Ranking</th></tr>",
-        BlockBreak,
-        "<td><table border = 1><tr><th colspan = 4>Points</th></tr>",
-        BlockBreak,
-        "<td><table border = 1><tr><th colspan = 4>Win Percentage</th></tr>",
-        BlockBreak,
-        "<td><table border = 1><tr><th colspan = 4>Goals Per Game</th></tr>",
-        BlockBreak,
-        "<td><table border = 1><tr><th colspan = 4>SOG Per Game</th></tr>",
-        "</table></td></tr></font></center>",
-        "</table></body></html>",
     };
+    const auto expectBlocks = [&expected](const std::string& title, const std::vector<std::string>& heads) {
+        std::string before = "</table></td></tr></table><table border=1><tr><th colspan = 10>" + title +
+                             "</th></tr><tr></font></center>";
+        for (const std::string& head : heads) {
+            expected.push_back(std::exchange(before, "</table></td><td></td></font></center>"));
+            expected.push_back("<td><table border = 1><tr><th colspan = 4" + head + "</th></tr>");
+        }
+    };
+    expectBlocks("Player League Leaders",
+                 {">Points", ">Goals", ">Assists", ">Shots on Goal", ">Penalty Minutes"});
+    expectBlocks("Goalie League Leaders",
+                 {">Goals Against Average", ">Wins", ">Save Percentage", ">Shutouts", ">Goals Allowed"});
+    expectBlocks("Team Leaders", {" width = 100%>Power Ranking", ">Points", ">Win Percentage",
+                                  ">Goals Per Game", ">SOG Per Game"});
+    expected.insert(expected.end(), {"</table></td></tr></font></center>", "</table></body></html>"});
     EXPECT_EQ(std::vector(lines.begin() + 3, lines.end()), expected);
 }
 
@@ -94,17 +74,9 @@ TEST(LeagueHomePage, ListsTheLastGamesWithTheAwayTeamFirst) {
 
 TEST(LeagueHomePage, EachBlockShowsTheFigureOfItsHead) {
     TestLeague league;
-    setSkater(league, Boston, 2, "Jo Skate", {.GP = 8, .G = 2, .A = 3, .Pts = 5, .SOG = 16, .PIM = 4});
-    GoalieStats goalie{.GP = 10, .GA = 25, .SO = 1, .A = 2, .GW = 6, .GL = 3, .GT = 7, .SA = 250};
-    goalie.GAA = 2.62;
-    goalie.SvPct = 0.905;
-    setGoalie(league, Buffalo, 0, "Al Masque", goalie);
-    TeamRecord record = teamRecord(8, 15, 29, 20);
-    record.PowerRanking = 21.37;
-    record.WinPercent = 0.875;
-    record.SOGPG = 30.5;
-    record.SOGAPG = 25.1;
-    league.setRecord(Montreal, PartOfYear::Season, record);
+    setSkater(league, Boston, 2, "Jo Skate", numberedRecord<SkaterStats>());
+    setGoalie(league, Buffalo, 0, "Al Masque", numberedRecord<GoalieStats>());
+    league.setRecord(Montreal, PartOfYear::Season, numberedRecord<TeamRecord>());
 
     publishRankings(league);
 
@@ -121,8 +93,8 @@ TEST(LeagueHomePage, EachBlockShowsTheFigureOfItsHead) {
         shown.push_back(figureUnder(page, head));
     for (const char* head : {"Power Ranking", "Points", "Win Percentage", "Goals Per Game", "SOG Per Game"})
         shown.push_back(figureUnder(teams, head));
-    EXPECT_THAT(shown, ElementsAre("5", "2", "3", "16", "4", "2.62", "6", "0.905", "1", "25", "21.37", "15",
-                                   "0.875", "3.62", "30.5"));
+    EXPECT_THAT(shown, ElementsAre("6", "2", "4", "8", "11", "9.5", "5", "10.5", "3", "2", "12.5", "4", "5.5",
+                                   "1.17", "46.5"));
 }
 
 TEST(LeagueHomePage, PlayerBlocksHoldFiveRowsUnderTheLeadersPicture) {
@@ -198,7 +170,7 @@ TEST(LeagueHomePage, TeamBlocksBeginWithABannerUnlessTheFirstTurnGaveNoRow) {
 
     // By power ranking the first five turns go to teams without games, whose ranking of 0 is higher.
     const std::string page = league.page("index.htm");
-    EXPECT_THAT(rowsAfter(page, "Power Ranking"), testing::IsEmpty());
+    EXPECT_THAT(rowsAfter(page, "Power Ranking"), IsEmpty());
     EXPECT_THAT(rowsAfter(page, "Win Percentage"),
                 ElementsAre("<tr><td colspan = 4><center><img src=\"./BannerMinis/MTL.gif\"></center></td>"
                             "</tr>",
@@ -222,7 +194,7 @@ TEST(PlayoffHomePage, OpensWithoutTheRootTagAndWithALinkList) {
     publishRankings(league, PartOfYear::Playoffs);
 
     const std::vector<std::string> lines = linesOf(league.page("Playoffs.htm"));
-    EXPECT_THAT(lines[0], testing::StartsWith("<head><title>Rinkstar - Playoffs</title>"));
+    EXPECT_THAT(lines[0], StartsWith("<head><title>Rinkstar - Playoffs</title>"));
     EXPECT_EQ(lines[3], "<br/><br/><p><img src=\"Headers/Playoffs.gif\"></img></p><br/><br/>");
     EXPECT_EQ(lines[4], "<p><a href=\"./PlayoffTree.htm\"><b>Playoff Tree</b></a></p>");
     EXPECT_EQ(lines[8], "<p><a href=\"./PlayoffAllTimeRecords.htm\"><b>Playoff All-Time Records</b></a></p>");

@@ -1,4 +1,5 @@
 #include "LeadersSupport.h"
+#include "support/NumberedRecord.h"
 #include "support/Test.h"
 
 namespace iceline {
@@ -6,64 +7,35 @@ namespace {
 
 using namespace test;
 
-TEST(PlayerFragment, RowToTheLetter) {
+TEST(Fragments, RowsToTheLetter) {
     TestLeague league;
-    SkaterStats stats{.GP = 12, .G = 3, .A = 4, .Pts = 7, .SOG = 30, .PIM = 8, .PPG = 2, .SHG = 1};
-    stats.PtsPG = 0.58;
-    stats.ShotPct = 10;
-    stats.Rating = 1.125;
-    setSkater(league, Montreal, 4, "Jan O'Neil", stats);
+    setSkater(league, Montreal, 4, "Jan O'Neil", numberedRecord<SkaterStats>());
+    setGoalie(league, Boston, 0, "Al Masque", numberedRecord<GoalieStats>());
+    TeamRecord record = numberedRecord<TeamRecord>();
+    record.HomePowerRanking = -1.5;
+    league.setRecord(Montreal, PartOfYear::Season, record);
 
     publishRankings(league);
 
     EXPECT_EQ(league.page("Rankings/Normal2.php"),
               "<tr><td><center><b>1</b></center></td><td><center><img src=\"../LogoMinis/MTL.gif\"></center>"
-              "</td><td>Jan O'Neil<td><center>1.125</center></td><td><center>3</center></td><td><center>4"
-              "</center></td><td><center>7</center></td><td><center>0.58</center></td><td><center>2</center>"
-              "</td><td><center>1</center></td><td><center>30</center></td><td><center>10</center></td>"
-              "<td><center>8</center></td><td><center>12</center></td></tr>\r\n");
-}
-
-TEST(GoalieFragment, RowToTheLetter) {
-    TestLeague league;
-    GoalieStats stats{.GP = 10, .GA = 25, .SO = 4, .A = 2, .GW = 6, .GL = 3, .GT = 1, .SA = 250};
-    stats.GAA = 2.5;
-    stats.SvPct = 0.9;
-    stats.Rating = 0.75;
-    setGoalie(league, Boston, 0, "Al Masque", stats);
-
-    publishRankings(league);
-
+              "</td><td>Jan O'Neil<td><center>15.5</center></td><td><center>2</center></td><td><center>4"
+              "</center></td><td><center>6</center></td><td><center>7.5</center></td><td><center>12</center>"
+              "</td><td><center>13</center></td><td><center>8</center></td><td><center>10.5</center></td>"
+              "<td><center>11</center></td><td><center>1</center></td></tr>\r\n");
     EXPECT_EQ(
         league.page("Rankings/Goalies6.php"),
         "<tr><td><b>1</b></center></td><td><img src=\"../LogoMinis/BOS.gif\"></td></center><td>"
-        "Al Masque<td><center>0.75</center></td><td><center>10</center></td><td><center>6</center></td>"
-        "<td><center>3</center></td><td><center>1</center></td><td><center>2.5</center></td><td><center>"
-        "4</center></td><td><center>0.9</center></td><td><center>250</center></td><td><center>25"
-        "</center></td><td><center>2</center></td></tr>\r\n");
-}
-
-TEST(TeamFragment, RowToTheLetter) {
-    TestLeague league;
-    TeamRecord record = teamRecord(8, 15, 30, 20);
-    record.WinPercent = 0.875;
-    record.PowerRanking = 21.37;
-    record.HomePowerRanking = -1.5;
-    record.AwayPowerRanking = 20;
-    record.PPPct = 33.3;
-    record.PKPct = 80;
-    record.SOGPG = 30.5;
-    record.SOGAPG = 25.1;
-    league.setRecord(Montreal, PartOfYear::Season, record);
-
-    publishRankings(league);
-
+        "Al Masque<td><center>15.5</center></td><td><center>1</center></td><td><center>5</center></td>"
+        "<td><center>6</center></td><td><center>7</center></td><td><center>9.5</center></td><td><center>"
+        "3</center></td><td><center>10.5</center></td><td><center>8</center></td><td><center>2"
+        "</center></td><td><center>4</center></td></tr>\r\n");
     EXPECT_EQ(league.page("Rankings/Teams2.php"),
               "<tr><td><center><b>1</b></center></td><td><center><img src=\"../LogoMinis/MTL.gif\"></img>"
-              "</center></td><td><center>8</center></td><td><center>21.37</center></td><td><center>-1.5"
-              "</center></td><td><center>20</center></td><td><center>15</center></td><td><center>0.875"
-              "</center></td><td><center>3.75</center></td><td><center>2.5</center></td><td><center>33.3"
-              "</center></td><td><center>80</center></td><td><center>30.5</center></td><td><center>25.1"
+              "</center></td><td><center>6</center></td><td><center>12.5</center></td><td><center>-1.5"
+              "</center></td><td><center>36.5</center></td><td><center>4</center></td><td><center>5.5"
+              "</center></td><td><center>1.17</center></td><td><center>1.33</center></td><td><center>54.5"
+              "</center></td><td><center>72.5</center></td><td><center>46.5</center></td><td><center>48.5"
               "</center></td></tr>\r\n");
 }
 
@@ -83,15 +55,6 @@ TEST(StarFragment, RowToTheLetterInBothOrders) {
     EXPECT_THAT(fewest, ElementsAre(HasSubstr("Fewest"), HasSubstr("Most")));
 }
 
-/// The order of two teams' rows in a fragment, by a text that one row of each holds.
-std::string orderIn(TestLeague& league, const std::string& fragment, const std::string& one,
-                    const std::string& other) {
-    const std::string text = league.page(fragment);
-    const auto places = std::pair(text.find(one), text.find(other));
-    EXPECT_TRUE(places.first != std::string::npos && places.second != std::string::npos) << text;
-    return places.first < places.second ? one : other;
-}
-
 TEST(Fragments, AreNumberedByColumnHighestFirstThenLowestFirst) {
     TestLeague league;
     GoalieStats leaky{.GP = 5, .GW = 1};
@@ -107,30 +70,32 @@ TEST(Fragments, AreNumberedByColumnHighestFirstThenLowestFirst) {
 
     publishRankings(league);
 
-    const auto goalieFirst = [&](const std::string& number) {
-        return orderIn(league, "Rankings/Goalies" + number + ".php", "Leaky", "Tight");
+    struct Case {
+        const char* fragment;
+        const char* first;
+        const char* second;
     };
-    EXPECT_EQ(goalieFirst("0"), "Leaky");
-    EXPECT_EQ(goalieFirst("1"), "Tight");
-    EXPECT_EQ(goalieFirst("4"), "Leaky");
-    EXPECT_EQ(goalieFirst("15"), "Tight");
-    EXPECT_EQ(goalieFirst("11"), "Tight");
-    const auto skaterFirst = [&](const std::string& number) {
-        return orderIn(league, "Rankings/Normal" + number + ".php", "Shooter", "Passer");
-    };
-    EXPECT_EQ(skaterFirst("0"), "Shooter");
-    EXPECT_EQ(skaterFirst("11"), "Passer");
-    EXPECT_EQ(skaterFirst("10"), "Passer");
-    EXPECT_EQ(skaterFirst("21"), "Shooter");
-    const auto teamFirst = [&](const std::string& number) {
-        return orderIn(league, "Rankings/Teams" + number + ".php", "BOS", "MTL");
-    };
-    EXPECT_EQ(teamFirst("0"), "BOS");  // natural order
-    EXPECT_EQ(teamFirst("1"), "BOS");  // games
-    EXPECT_EQ(teamFirst("2"), "MTL");  // points
-    EXPECT_EQ(teamFirst("13"), "MTL"); // natural order turned round
-    EXPECT_EQ(teamFirst("14"), "MTL");
-    EXPECT_EQ(teamFirst("15"), "BOS");
+    for (const Case& each : {
+             Case{"Goalies0", "Leaky", "Tight"},
+             Case{"Goalies1", "Tight", "Leaky"},
+             Case{"Goalies4", "Leaky", "Tight"},
+             Case{"Goalies15", "Tight", "Leaky"},
+             Case{"Goalies11", "Tight", "Leaky"},
+             Case{"Normal0", "Shooter", "Passer"},
+             Case{"Normal11", "Passer", "Shooter"},
+             Case{"Normal10", "Passer", "Shooter"},
+             Case{"Normal21", "Shooter", "Passer"},
+             Case{"Teams0", "BOS", "MTL"},  // natural order
+             Case{"Teams1", "BOS", "MTL"},  // games
+             Case{"Teams2", "MTL", "BOS"},  // points
+             Case{"Teams13", "MTL", "BOS"}, // natural order turned round
+             Case{"Teams14", "MTL", "BOS"},
+             Case{"Teams15", "BOS", "MTL"},
+         }) {
+        const std::string text = league.page(std::string("Rankings/") + each.fragment + ".php");
+        EXPECT_LT(text.find(each.first), text.find(each.second)) << each.fragment;
+        EXPECT_THAT(text, HasSubstr(each.second)) << each.fragment;
+    }
 }
 
 TEST(Fragments, EveryOrderHasAllRowsAndEmptyTablesGiveEmptyFiles) {
