@@ -1,6 +1,7 @@
 #include "standings/Elimination.h"
 
 #include "standings/Alignment.h"
+#include "standings/StandingsSupport.h"
 #include "support/Test.h"
 
 #include <random>
@@ -82,6 +83,14 @@ TEST(Elimination, AnswersAsTheFiveStagesDoOnAnyTable) {
         picksFromWhatWasHeld += stages.picksFromWhatWasHeld;
     }
     EXPECT_GT(picksFromWhatWasHeld, 5000);
+}
+
+TEST(Elimination, NegativePointsAndWinsStillGiveEveryTeamOnePlace) {
+    LeagueTable table;
+    for (const std::string_view abbr : {"BOS", "BUF", "HFD"})
+        table[team(abbr)] = {.Wins = -1, .Points = -2};
+    table[team("MTL")] = {.Wins = -1};
+    EXPECT_EQ(abbrs(eliminationOrder(table, teamsOf(Division::Adams))), "QUE OTA MTL HFD BUF BOS");
 }
 
 } // namespace

@@ -117,10 +117,11 @@ TEST_F(Clinching, LevelTeamsGoByWinsAndOnceThoseAreLevelByTheTieBreaksAgainstOne
     for (const Case& each : {
              Case{moreWins, fewerWins, 20, "zyxxxxxx----"},
              Case{{.Wins = 7, .Points = 14, .GP = 19}, fewerWins, 20, "zyxxxxx-----"}, // a game is left
-             Case{moreWins, fewerWins, 16, "zyxxxxx-----"}, // not safe from all four: WSH reaches 16
-             Case{with(60, 50, 4000), with(59, 49, 4000), 10, "z------x----"}, // as good a difference
-             Case{with(60, 48, 4000), with(60, 49, 4000), 10, "z------x----"}, // a better difference
-             Case{with(60, 48, 4000), with(60, 48, 4000), 10, "z-----------"}, // level in everything
+             Case{with(60, 50, 4000), fewerWins, 16, "zyxxxxx-----"},                  // WSH reaches 16
+             Case{with(60, 50, 4000), with(59, 49, 4000), 10, "z------x----"},         // as good a difference
+             Case{with(60, 48, 4000), with(60, 49, 4000), 10, "z------x----"},         // a better difference
+             Case{with(60, 48, 4000), with(60, 48, 4000), 10, "z-----------"},         // level in everything
+             Case{with(60, 48, 4000), with(60, 48, 4000), 20, "zyxxxxx-----"},         // nor is it more wins
              Case{with(10, 48, 4000), with(60, 48, 3999), 10, "z------x----"}, // a better power ranking
          }) {
         state.ClinchMark = {};
@@ -133,12 +134,14 @@ TEST_F(Clinching, LevelTeamsGoByWinsAndOnceThoseAreLevelByTheTieBreaksAgainstOne
 }
 
 TEST_F(Clinching, ClinchedDivisionMarksTheFirstSeedToo) {
-    of("LI") = {.Wins = 14, .Points = 28, .GP = 20};
+    of("NJ").GP = 15; // 24 points, can pass LI
+    mark();
+    EXPECT_EQ(walesMarks(), "yxxxxxxx----");
+    state.ClinchMark = {};
+    of("NJ").GP = 20;
     of("BUF").GP = 15; // 26 points, can pass BOS
     mark();
-    EXPECT_EQ(state.WalesSeeds[0], team("BOS"));
-    EXPECT_EQ(markOf("LI"), "y");
-    EXPECT_EQ(markOf("BOS"), "y");
+    EXPECT_EQ(walesMarks(), "yyxxxxxx----");
 }
 
 TEST_F(Clinching, ASeasonEndedByHandGivesNoMarksAndTakesNone) {
