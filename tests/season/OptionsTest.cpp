@@ -201,38 +201,13 @@ struct Deed {
 };
 
 const std::array Deeds{
-    Deed{"create",
-         [](Options& window) {
-             window.NewC = "Cy";
-             window.Command1_Click();
-         }},
     Deed{"rename",
          [](Options& window) {
              window.Combo1 = 0;
              window.NewC = "Bea";
              window.Command2_Click();
          }},
-    Deed{"delete",
-         [](Options& window) {
-             window.Combo1 = 0;
-             window.DeleteCoach_Click();
-         }},
-    Deed{"clear coach",
-         [](Options& window) {
-             window.Combo1 = 0;
-             window.CoachTeam_Click();
-         }},
-    Deed{"season length",
-         [](Options& window) {
-             window.SeasonLength = "40";
-             window.EnterSeasonLength_Click();
-         }},
     Deed{"go to the play-offs", [](Options& window) { window.GoToPlayoffs_Click(); }},
-    Deed{"clear team",
-         [](Options& window) {
-             window.ClearTeamSelect = Boston;
-             window.Command8_Click();
-         }},
     Deed{"clear league",
          [](Options& window) {
              window.ClearTeamSelect = AllTeamsEntry;
