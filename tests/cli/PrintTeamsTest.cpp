@@ -53,7 +53,6 @@ TEST(PrintTeamView, EveryFigureIsUnderItsHead) {
 }
 
 TEST(PrintPlayerStats, EveryFigureIsUnderItsHead) {
-    constexpr TeamIndex Boston{0};
     TestLeague league;
     Roster roster;
     roster[0] = {"Gil Keeper", 31, 80, "G"};
