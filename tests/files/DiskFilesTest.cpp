@@ -4,11 +4,8 @@
 #include "support/TemporaryFolder.h"
 #include "support/Test.h"
 
-#include <atomic>
-#include <chrono>
 #include <filesystem>
 #include <fstream>
-#include <thread>
 
 namespace iceline::test {
 
@@ -93,26 +90,6 @@ TEST_F(DiskFilesTest, SyncsWhatHasGoneSince) {
     }
     files.sync();
     EXPECT_EQ(files.foldersIn("Coaches").size(), 20u);
-}
-
-TEST_F(DiskFilesTest, AReaderSeesTheOldFileOrTheNew) {
-    const std::string a(100'000, 'a'), b(200'000, 'b');
-    files.write("page.htm", a);
-    std::atomic<bool> done = false;
-    std::jthread writer([&] {
-        for (int i = 0; i < 100; ++i)
-            files.write("page.htm", i % 2 == 0 ? b : a, Durability::Unsynced);
-        done = true;
-    });
-    DiskFiles reader(folder.path());
-    bool whole = true;
-    while (!done && whole) {
-        const std::string page = reader.read("page.htm");
-        whole = page == a || page == b;
-        std::this_thread::sleep_for(std::chrono::milliseconds(2));
-    }
-    writer.join();
-    EXPECT_TRUE(whole);
 }
 
 } // namespace iceline::test
