@@ -38,6 +38,7 @@ protected:
 TEST_F(StandingsWindow, LeagueThatHasPlayedNothing) {
     const Standings::Content& content = open().content();
     EXPECT_EQ(teamsOfRows(content.divisions[0]), "QUE OTA MTL HFD BUF BOS");
+    EXPECT_EQ(teamsOfRows(content.divisions[3]), "WPG VAN SJ LA EDM CGY");
     EXPECT_EQ(teamsOfRows(content.conferences[Campbell]), "WPG TOR VAN TB STL SJ MIN LA EDM DET CHI CGY");
     EXPECT_THAT(teamsOfRows(content.homeAway.home), StartsWith("BOS BUF CGY CHI"));
     EXPECT_THAT(teamsOfRows(content.homeAway.away), StartsWith("BOS BUF CGY CHI"));
