@@ -1,8 +1,11 @@
 #include "games/GameSheetReader.h"
 
+#include "games/TeamSheetFields.h"
 #include "samples/SaveStateWriter.h"
 
 #include <gmock/gmock.h>
+
+#include <span>
 
 namespace iceline {
 namespace {
@@ -18,16 +21,18 @@ TEST(GameSheetReader, ReadsWhatTheWriterHasWritten) {
     game.addPenalty(2, 10, Side::Home, Infraction::Boarding, 3);
     game.crowdMeter = 97;
     game.awayPPTime = 261;
+    int figure = 0;
+    for (const auto& fields : {std::span<const TeamSheetField>(FirstBlockFields),
+                               std::span<const TeamSheetField>(SecondBlockFields)})
+        for (const TeamSheetField& field : fields) {
+            game.home.*field.figure = ++figure;
+            game.away.*field.figure = 100 + figure;
+        }
     game.home.AttackZone = 605;
-    game.away.AttackZone = 59;
-    game.home.PairCMade = 12;
-    game.away.PairCMade = 13;
-    game.away.PPAux = 14;
-    game.away.PassComp = 60;
     const GameSheet read = readBack(game);
     EXPECT_EQ(saveStateBytes(read), saveStateBytes(game));
     EXPECT_EQ(read.home.AttackZone, 605);
-    EXPECT_EQ(read.away.PairCMade, 13);
+    EXPECT_EQ(read.away.PairCMade, 119);
     EXPECT_EQ(read.away.G[24], 1);
 }
 

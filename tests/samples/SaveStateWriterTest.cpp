@@ -25,12 +25,14 @@ TEST(SaveStateWriter, PutsEverythingAtItsPlace) {
     game.addPenalty(2, 10, Side::Home, Infraction::Boarding, 3);
     game.addPenalty(3, 1200, Side::Away, Infraction::FightInstigator, 24);
     game.crowdMeter = 97;
-    game.home.Shots = 31;
-    game.home.AttackZone = 605;
-    game.home.PassComp = 88;
+    static_cast<TeamFigures&>(game.home) = {31, 2, 5, 4, 11, 605, 6, 22, 17, 90, 60};
     game.home.G[0] = 4;
     game.home.PIM[24] = 17;
     game.home.PPAux = 1;
+    game.home.PairAMade = 7;
+    game.home.PairBAtt = 8;
+    game.home.PairBMade = 9;
+    game.home.PairCAtt = 10;
     game.home.PairCMade = 2;
     game.away.Shots = 29;
     game.away.AttackZone = game.away.PassComp = 300;
@@ -47,9 +49,7 @@ TEST(SaveStateWriter, PutsEverythingAtItsPlace) {
         {59277, {97}},
         {59319, {12, 0x02, 0x57, 3, 7, 11, 0, 0xC1, 0x2C, 130, 24, 255, 255}},
         {59501, {8, 0x40, 0x0A, 18, 3, 0x84, 0xB0, 170, 24}},
-        {59743, {31}},
-        {59752, {2, 93}},
-        {59763, {88}},
+        {59742, {0, 31, 0, 2, 0, 5, 0, 4, 0, 11, 2, 93, 0, 6, 0, 22, 0, 17, 0, 90, 0, 60}},
         {59922, {4}},
         {60024, {17}},
         {60161, {29}},
@@ -57,8 +57,7 @@ TEST(SaveStateWriter, PutsEverythingAtItsPlace) {
         {60180, {1, 44}},
         {60390, {5}},
         {60393, {6}},
-        {61083, {1}},
-        {61097, {2}},
+        {61083, {1, 0, 0, 0, 0, 0, 7, 0, 8, 0, 9, 0, 10, 0, 2}},
         {61948, {2, 3}},
         {61953, {3}},
         {61955, {4}},
