@@ -1,5 +1,6 @@
 #include "coaches/CoachStats.h"
 
+#include "support/NumberedRecord.h"
 #include "support/Test.h"
 #include "support/TestLeague.h"
 
@@ -8,22 +9,9 @@ namespace iceline::test {
 namespace {
 
 TeamRecord recordOf(int games, int points) {
-    TeamRecord record;
+    auto record = numberedRecord<TeamRecord>();
     record.GP = record.GameCount = games;
     record.Points = points;
-    record.WinPercent = 0.583;
-    record.GF = 7;
-    record.GA = 5;
-    record.Wins = 6;
-    record.Losses = 2;
-    record.Ties = 1;
-    record.PowerRanking = 21.37;
-    record.HomePowerRanking = -1.5;
-    record.AwayPowerRanking = 20;
-    record.PPPct = 33.3;
-    record.PKPct = 80;
-    record.SOGPG = 30.5;
-    record.SOGAPG = 25.1;
     return record;
 }
 
@@ -66,12 +54,12 @@ TEST_F(CoachStatsTest, TheTableOfAllCoachesHasThoseWithoutGamesToo) {
     EXPECT_THAT(page, HasSubstr("<img src='Headers/CoachingStats.gif'></img>"));
     EXPECT_THAT(
         page, HasSubstr("<tr><td><a href=\"./CStats/Ann.htm\" ><b>Ann</b></a></td><td><center>3</center></td>"
-                        "<td><center>6</center></td><td><center>2</center></td><td><center>1</center></td>"
-                        "<td><center>0.583</center></td><td><center>21.37</center></td>"
-                        "<td><center>-1.5</center></td><td><center>20</center></td>"
-                        "<td><center>2.33</center></td><td><center>1.67</center></td>"
-                        "<td><center>33.3</center></td><td><center>80</center></td>"
-                        "<td><center>30.5</center></td><td><center>25.1</center></td>\r\n"));
+                        "<td><center>1</center></td><td><center>2</center></td><td><center>3</center></td>"
+                        "<td><center>5.5</center></td><td><center>12.5</center></td>"
+                        "<td><center>25.5</center></td><td><center>36.5</center></td>"
+                        "<td><center>2.33</center></td><td><center>2.67</center></td>"
+                        "<td><center>54.5</center></td><td><center>72.5</center></td>"
+                        "<td><center>46.5</center></td><td><center>48.5</center></td>\r\n"));
     EXPECT_THAT(page,
                 HasSubstr("<tr><th><b>Coach</b></th><th><b>GP</b></th><th><b>W</b></th><th><b>L</b></th>"
                           "<th><b>T</b></th><th><b>Win%</b></th><th><b>P Rank</b></th>"));

@@ -1,5 +1,6 @@
 #include "players/PlayerPages.h"
 
+#include "support/NumberedRecord.h"
 #include "support/Test.h"
 
 namespace iceline {
@@ -42,11 +43,8 @@ TEST(RosterPage, ListsPlayersUpToTheFirstEmptyRowOrName) {
 }
 
 TEST(PlayerPage, AGoaliesFiguresAreItemsOfTheirOwn) {
-    GoalieStats stats{.GP = 10, .GA = 25, .SO = 1, .A = 2, .GW = 6, .GL = 3, .GT = 1, .SA = 250};
-    stats.GAA = 2.5;
+    auto stats = numberedRecord<GoalieStats>();
     stats.SvPct = 0.912;
-    stats.Rating = 1.5;
-    stats.StarPoints = 15;
 
     const std::string page =
         playerPage(PartOfYear::Season, Montreal, {"Al Masque", 1, 83, "G"}, stats, "Goalie1");
@@ -64,19 +62,13 @@ TEST(PlayerPage, AGoaliesFiguresAreItemsOfTheirOwn) {
                  "<br><table border=1><tr><th>GP</th><th>Pow.Rank</th><th>W</th><th>L</th><th>T</th>"
                  "<th>GAA</th><th>Sv%</th><th>SHO</th><th>SF</th><th>GA</th><th>A</th>"
                  "<th>Three Star Pts.</tr>\r\n"
-                 "<tr><td> 10 </td><td> 1.5 </td><td> 6 </td><td> 3 </td><td> 1 </td><td> 2.5 </td>"
-                 "<td> .912 </td><td> 1 </td><td> 250 </td><td> 25 </td><td> 2 </td><td> 15 </td></tr>\r\n"
+                 "<tr><td> 1 </td><td> 15.5 </td><td> 5 </td><td> 6 </td><td> 7 </td><td> 9.5 </td>"
+                 "<td> .912 </td><td> 3 </td><td> 8 </td><td> 2 </td><td> 4 </td><td> 16 </td></tr>\r\n"
                  "</table></center></body></html>\r\n"));
 }
 
 TEST(PlayerPage, ASkatersHasASecondHeadWithTheFiguresAGame) {
-    SkaterStats stats{.GP = 8, .G = 2, .A = 3, .Pts = 5, .SOG = 20, .PIM = 4, .PPG = 1, .StarPoints = 5};
-    stats.GPG = 0.25;
-    stats.APG = 0.38;
-    stats.PtsPG = 0.62;
-    stats.SOGPG = 2.5;
-    stats.ShotPct = 10;
-    stats.PIMPG = 0.5;
+    auto stats = numberedRecord<SkaterStats>();
     stats.Rating = -0.5;
 
     const std::string page =
@@ -87,11 +79,11 @@ TEST(PlayerPage, ASkatersHasASecondHeadWithTheFiguresAGame) {
         page,
         EndsWith("<br><table border=1><tr><th>GP</th><th>Pow.Rank</th><th>G</th><th>A</th><th>Pts.</th>"
                  "<th>PP</th><th>SH</th><th>SOG</th><th>S%</th><th>PIM</th><th>Three Star Pts.</th></tr>\r\n"
-                 "<tr><td> 8 </td><td> -.5 </td><td> 2 </td><td> 3 </td><td> 5 </td><td> 1 </td>"
-                 "<td> 0 </td><td> 20 </td><td> 10 </td><td> 4 </td><td> 5 </td></tr>\r\n"
+                 "<tr><td> 1 </td><td> -.5 </td><td> 2 </td><td> 4 </td><td> 6 </td><td> 12 </td>"
+                 "<td> 13 </td><td> 8 </td><td> 10.5 </td><td> 11 </td><td> 16 </td></tr>\r\n"
                  "<tr><th></th><th></th><th>GPG</th><th>APG</th><th>PPG</th><th></th><th></th><th>SOGPG</th>"
-                 "<th></th><th>PIMPG</th></tr><tr><td></td><td></td><td> .25 </td><td> .38 </td>"
-                 "<td> .62 </td><td></td><td></td><td> 2.5 </td><td></td><td> .5 </td></tr>\r\n"
+                 "<th></th><th>PIMPG</th></tr><tr><td></td><td></td><td> 3.5 </td><td> 5.5 </td>"
+                 "<td> 7.5 </td><td></td><td></td><td> 9.5 </td><td></td><td> 14.5 </td></tr>\r\n"
                  "</table></center></body></html>\r\n"));
 }
 

@@ -77,16 +77,6 @@ TEST_F(PlayerStatsTest, OpensOnPowerRankingAndTurnsAColumnRound) {
     EXPECT_THAT(namesOf(window.content().skaters), ElementsAre("Ann First", "Bo Second", "Cy Third"));
 }
 
-TEST_F(PlayerStatsTest, ShowsAGoaliesRankingAtATenth) {
-    PlayerStats& window = open();
-    window.PlayersTeamSelect = Boston;
-    window.PlayersTeamSelect_Click();
-    const PlayerTableRow& goalie = window.content().goalies.front();
-    EXPECT_EQ(goalie.Name, "Gil Keeper");
-    EXPECT_THAT(std::vector(goalie.texts.begin(), goalie.texts.begin() + 3), ElementsAre("G", "31", "0.725"));
-    EXPECT_EQ(goalie.texts[7], "0.912");
-}
-
 TEST_F(PlayerStatsTest, EveryFigureIsInItsColumn) {
     Roster roster;
     roster[0] = {"Gil Keeper", 31, 80, "G"};
@@ -184,20 +174,13 @@ TEST_F(PlayerStatsTest, WritesTheFragmentsOfEveryOrder) {
               "<tr><td><center> 5 </center></td><td><center> 0 </center></td><td><center> 0 "
               "</center></td><td><center> 0 "
               "</center></td><td><center> .625 </center></td><td><center> 0 </center></td></tr>\r\n");
-    EXPECT_TRUE(
-        league.page("PStats/BOS_N2.php")
-            .starts_with(
-                "<tr><td><center>1</center></td><td><center>F</center></td><td><center>4</center></td>\r\n"
-                "<td><a href=\"../Profiles/BOS/Cy Third.htm\">Cy "
-                "Third</a></td><td><center>6.125</center></td>\r\n"
-                "<td><center>0</center></td>\r\n"));
-    EXPECT_TRUE(league.page("PStats/BOS_N2.php").ends_with("<td><center>2</center></td></tr>\r\n\r\n"));
-    EXPECT_THAT(league.page("PStats/BOS_G2.php"),
-                HasSubstr("Gil Keeper</a></td>\r\n<td><center>0.725</center></td>\r\n"));
+    EXPECT_THAT(league.page("PStats/BOS_N2.php"),
+                StartsWith("<tr><td><center>1</center></td><td><center>F</center></td><td><center>4<"));
+    EXPECT_THAT(league.page("PStats/BOS_G2.php"), HasSubstr("<td><center>0.725</center></td>\r\n"));
     EXPECT_THAT(league.page("PStats/BOS_N16.php"),
-                testing::StartsWith("<tr><td><center>1</center></td><td><center>D"));
+                StartsWith("<tr><td><center>1</center></td><td><center>D"));
     EXPECT_THAT(league.page("PStats/BOS_N27.php"),
-                testing::StartsWith("<tr><td><center>1</center></td><td><center>F"));
+                StartsWith("<tr><td><center>1</center></td><td><center>F"));
     EXPECT_THAT(league.page("PStats/BOS_leaders.php"),
                 HasSubstr("<tr><th colspan = 2><center><b>Pts. Per Game</th></tr>\r\n<tr><td>Ann First</td>"
                           "<td><center>0</center></td></tr>\r\n"));
@@ -211,8 +194,8 @@ TEST_F(PlayerStatsTest, ATeamWithoutSkatersHasEmptyLeaders) {
     open();
     EXPECT_EQ(league.page("PStats/BOS_N0.php"), "");
     EXPECT_THAT(league.page("PStats/BOS_leaders.php"),
-                testing::StartsWith("<tr><th colspan = 2><center><b>Goals</th></tr>\r\n"
-                                    "<tr><td></td><td><center>0</center></td></tr>\r\n"));
+                StartsWith("<tr><th colspan = 2><center><b>Goals</th></tr>\r\n"
+                           "<tr><td></td><td><center>0</center></td></tr>\r\n"));
 }
 
 } // namespace
