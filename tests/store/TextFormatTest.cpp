@@ -1,25 +1,22 @@
 #include "store/TextFormat.h"
 
-#include "files/FileError.h"
 #include "store/Fields.h"
 #include "store/PlayerFiles.h"
-
-#include <gmock/gmock.h>
+#include "support/Test.h"
 
 #include <functional>
 
 namespace iceline {
 namespace {
 
+using namespace test;
+
 /// The message with which `read` refuses a file of that content.
 std::string refusal(std::string_view content, const std::function<void(ItemReader&)>& read) {
-    try {
+    return errorMessage([&] {
         ItemReader reader("Some File.txt", content);
         read(reader);
-    } catch (const FileError& error) {
-        return error.what();
-    }
-    return "no error";
+    });
 }
 
 TEST(ItemReader, TakesItemsAcrossLinesWithEitherLineEnd) {
@@ -90,8 +87,7 @@ TEST(ItemReader, RefusesATornTextAndAFileThatIsCut) {
     const auto text = [](ItemReader& reader) { reader.text("Name"); };
     EXPECT_EQ(refusal("\"Jo\r\n", text),
               "Some File.txt, line 1, item 1 (Name): the text has no closing quote");
-    EXPECT_THAT(refusal("\"Jo\"x,1\r\n", text),
-                testing::StartsWith("Some File.txt, line 1, item 1 (Name): "));
+    EXPECT_THAT(refusal("\"Jo\"x,1\r\n", text), StartsWith("Some File.txt, line 1, item 1 (Name): "));
     EXPECT_EQ(refusal("1,2", text), "Some File.txt: the file is cut: its last line has no end");
     ItemReader roster("Players List.txt", "Jo,9", LastLine::MayLackEnd);
     EXPECT_EQ(roster.text("Name"), "Jo");
@@ -117,12 +113,7 @@ TEST(LineWriter, WritesWhatTheReaderTakes) {
 std::string refusalOf(const std::function<void(LineWriter&)>& write) {
     LineWriter writer("Some File.txt");
     writer.endLine().integer(1).integer(2);
-    try {
-        write(writer);
-    } catch (const FileError& error) {
-        return error.what();
-    }
-    return "no error";
+    return errorMessage([&] { write(writer); });
 }
 
 TEST(LineWriter, NamesFileLineItemAndFieldOfWhatTheFileCannotHold) {
@@ -130,10 +121,8 @@ TEST(LineWriter, NamesFileLineItemAndFieldOfWhatTheFileCannotHold) {
     EXPECT_EQ(refusalOf([](LineWriter& w) { w.integer16("Pts", 32768); }),
               here + "(Pts): 32768 is more than the league's files can hold");
     EXPECT_EQ(refusalOf([](LineWriter& w) { w.integer16("Pts", 32767).integer16("G", -32768); }), "no error");
-    EXPECT_THAT(refusalOf([](LineWriter& w) { w.text("Name", "a\"b"); }),
-                testing::StartsWith(here + "(Name): "));
-    EXPECT_THAT(refusalOf([](LineWriter& w) { w.text("Name", "a\nb"); }),
-                testing::StartsWith(here + "(Name): "));
+    EXPECT_THAT(refusalOf([](LineWriter& w) { w.text("Name", "a\"b"); }), StartsWith(here + "(Name): "));
+    EXPECT_THAT(refusalOf([](LineWriter& w) { w.text("Name", "a\nb"); }), StartsWith(here + "(Name): "));
 }
 
 TEST(Fields, AreReadUpToTheCount) {
