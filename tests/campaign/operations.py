@@ -110,6 +110,8 @@ class Workshop:
                  if not path.startswith(SITE) or content is None or path.count("/") < 2 or "/BoxScores/" in path}
         game = ["import", games[0], *coaches]
         left = self.unfinished(light, game)
+        two = self.league_after(light, game)
+        first, second = "3", "4"  # the games' numbers in the history, after the two coaches
         clear = ["clear", "Boston Bruins"]
         run = [[["import", one, *coaches] for one in games[:count]] for count in range(4)]
         return [
@@ -123,6 +125,10 @@ class Workshop:
             self.operation("coach clear", light, ["coach", "clear", "Ann"], success="have been cleared"),
             self.operation("season-length", light, ["season-length", "30"], success="has been updated"),
             self.operation("go-to-playoffs", light, ["go-to-playoffs"], success="is now over"),
+            self.operation("undo", two, ["undo", first], success="Undone"),
+            self.operation("redo", self.league_after(two, ["undo", first]), ["redo"], success="Done again"),
+            self.operation("correct", two, ["correct", second, "--home-coach", "Bo", "--away-coach", "none"],
+                           success="Corrected"),
             self.operation("publish", light, ["publish"], pages=False, every=10),
             self.operation("init", {}, ["--yes", "init"], [[], [["init"]]]),
             self.operation("recover", left, ["recover"], [[], []]),

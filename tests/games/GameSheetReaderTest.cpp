@@ -1,6 +1,6 @@
 #include "games/GameSheetReader.h"
 
-#include "games/TeamSheetFields.h"
+#include "league/TeamSheetFields.h"
 #include "samples/SaveStateWriter.h"
 
 #include <gmock/gmock.h>
@@ -25,8 +25,8 @@ TEST(GameSheetReader, ReadsWhatTheWriterHasWritten) {
     for (const auto& fields : {std::span<const TeamSheetField>(FirstBlockFields),
                                std::span<const TeamSheetField>(SecondBlockFields)})
         for (const TeamSheetField& field : fields) {
-            game.home.*field.figure = ++figure;
-            game.away.*field.figure = 100 + figure;
+            game.home.*field.member = ++figure;
+            game.away.*field.member = 100 + figure;
         }
     game.home.AttackZone = 605;
     const GameSheet read = readBack(game);
