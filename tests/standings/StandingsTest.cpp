@@ -125,9 +125,9 @@ class VersusTables : public StandingsWindow {
 protected:
     VersusTables() {
         for (const std::string_view abbr : {"WPG", "MTL"})
-            set(abbr, record(2, 1, 3, 0, 0, 1));
+            set(abbr, record(3, 8, 5, 0, 0, 1));
         for (const std::string_view abbr : {"CGY", "QUE"})
-            set(abbr, record(0, 2, 0, 1, 1, 0));
+            set(abbr, record(0, 2, 0, 5, 9, 2));
     }
 
     static TeamRecord record(int ownW, int ownL, int ownT, int otherW, int otherL, int otherT) {
@@ -147,9 +147,9 @@ TEST_F(VersusTables, FiguresAreUnderTheConferenceTheyWerePlayedAgainst) {
     const auto against = [&content](std::size_t conference, std::size_t place) {
         return content.versus[conference][place].against;
     };
-    EXPECT_THAT(against(Wales, 0), ElementsAre(SplitRecord{2, 1, 3, 333, 6}, SplitRecord{0, 0, 1, 0, 1}));
-    EXPECT_THAT(against(Campbell, 0), ElementsAre(SplitRecord{0, 0, 1, 0, 1}, SplitRecord{2, 1, 3, 333, 6}));
-    EXPECT_THAT(against(Campbell, 1), ElementsAre(SplitRecord{1, 1, 0, 500, 2}, SplitRecord{0, 2, 0, 0, 2}));
+    EXPECT_THAT(against(Wales, 0), ElementsAre(SplitRecord{3, 8, 5, 188, 16}, SplitRecord{0, 0, 1, 0, 1}));
+    EXPECT_THAT(against(Campbell, 0), ElementsAre(SplitRecord{0, 0, 1, 0, 1}, SplitRecord{3, 8, 5, 188, 16}));
+    EXPECT_THAT(against(Campbell, 1), ElementsAre(SplitRecord{5, 9, 2, 312, 16}, SplitRecord{0, 2, 0, 0, 2}));
 }
 
 TEST_F(VersusTables, ClicksRankWithoutTouchingAFile) {
@@ -165,7 +165,7 @@ TEST_F(VersusTables, ClicksRankWithoutTouchingAFile) {
     EXPECT_THAT(teamsOfRows(content.versus[Wales]), StartsWith("QUE BOS BUF"));
     EXPECT_THAT(teamsOfRows(content.versus[Campbell]), StartsWith("CGY CHI"));
     EXPECT_THAT(content.versusRankedBy, ElementsAre(Conference::Campbell, Conference::Wales));
-    EXPECT_EQ(content.versus[Wales][0].against[Campbell].WinPercent, 500);
+    EXPECT_EQ(content.versus[Wales][0].against[Campbell].WinPercent, 312);
 
     window.EvE_Click();
     window.WvW_Click();
@@ -205,6 +205,7 @@ TEST_F(StandingsWindow, PagesBearTheMarksOfTheRunBefore) {
         return std::string();
     };
     EXPECT_EQ(publish().divisions[0].front().mark, "z");
+    EXPECT_EQ(Standings::in(league.app).content().conferences[Wales].front().mark, "z");
     EXPECT_THAT(row("DivisionStandings.htm", "BOS"), StartsWith("<tr><td><b></b></td>"));
     EXPECT_THAT(row("ConferenceStandings.htm", "BOS"), StartsWith("<tr><center><td><b></b></td>"));
     publish();
