@@ -27,6 +27,20 @@ std::string shown(const Records& records, Kind kind) {
     return shown(records[static_cast<std::size_t>(kind)]);
 }
 
+/// The records after a game, the home team's players first.
+AllTimePlayerRecords after(const GameSheet& game, AllTimePlayerRecords records = {}) {
+    updatePlayerRecords(records, game, Side::Home, Rosters);
+    updatePlayerRecords(records, game, Side::Away, Rosters);
+    return records;
+}
+
+AllTimeGoalieRecords goaliesAfter(const GameSheet& game) {
+    AllTimeGoalieRecords records;
+    updateGoalieRecords(records, game, Side::Home, Rosters);
+    updateGoalieRecords(records, game, Side::Away, Rosters);
+    return records;
+}
+
 TEST(PlayerRecords, FallToTheFirstWhoIsStrictlyGreater) {
     GameSheet game(Boston, Montreal);
     game.home.G[3] = game.home.G[7] = 4;
@@ -35,8 +49,7 @@ TEST(PlayerRecords, FallToTheFirstWhoIsStrictlyGreater) {
     AllTimePlayerRecords records;
     records[0] = {TeamIndex(7), "holder", 3};
     records[5] = {TeamIndex(7), "holder", 0};
-    updatePlayerRecords(records, game, Side::Home, Rosters);
-    updatePlayerRecords(records, game, Side::Away, Rosters);
+    records = after(game, records);
     EXPECT_EQ(shown(records, PlayerRecordOf::Goals), "0 Boston 3 4");
     EXPECT_EQ(shown(records, PlayerRecordOf::Assists), "10 Montreal 9 5");
     EXPECT_EQ(shown(records, PlayerRecordOf::Points), "10 Montreal 9 5");
@@ -47,8 +60,7 @@ TEST(PlayerRecords, AreNotTheGoalies) {
     GameSheet game(Boston, Montreal);
     game.home.G[0] = 9;
     game.home.PIM[1] = 10;
-    AllTimePlayerRecords records;
-    updatePlayerRecords(records, game, Side::Home, Rosters);
+    const AllTimePlayerRecords records = after(game);
     EXPECT_EQ(shown(records, PlayerRecordOf::Goals), "0  0");
     EXPECT_EQ(shown(records, PlayerRecordOf::PenaltyMinutes), "0  0");
 }
@@ -72,9 +84,7 @@ TEST(GoalieRecords, CountSavesAndAskTheTeamForAShutout) {
     game.away.SOG[1] = 40;
     game.away.G[1] = 3;
     game.away.A[1] = 1;
-    AllTimeGoalieRecords records;
-    updateGoalieRecords(records, game, Side::Home, Rosters);
-    updateGoalieRecords(records, game, Side::Away, Rosters);
+    const AllTimeGoalieRecords records = goaliesAfter(game);
     EXPECT_EQ(shown(records, GoalieRecordOf::Saves), "10 Montreal 1 37");
     EXPECT_EQ(shown(records, GoalieRecordOf::ShutoutSaves), "0 Boston 0 30");
     EXPECT_EQ(shown(records, GoalieRecordOf::GoalsAllowed), "10 Montreal 1 3");
@@ -86,9 +96,7 @@ TEST(GoalieRecords, AScorelessTieIsAShutoutForBoth) {
     GameSheet game(Boston, Montreal);
     game.home.SOG[0] = 20;
     game.away.SOG[0] = 21;
-    AllTimeGoalieRecords records;
-    updateGoalieRecords(records, game, Side::Home, Rosters);
-    updateGoalieRecords(records, game, Side::Away, Rosters);
+    const AllTimeGoalieRecords records = goaliesAfter(game);
     EXPECT_EQ(shown(records, GoalieRecordOf::ShutoutSaves), "10 Montreal 0 21");
 }
 
@@ -115,7 +123,7 @@ TEST_F(LeagueRecords, EachIsContestedByItsOwnFigure) {
     std::vector<int> values;
     for (const LeagueRecord& record : teams)
         values.push_back(record.Value);
-    EXPECT_THAT(values, testing::ElementsAre(108, 109, 110, 111, 112, 113, 101, 102, 103, 104, 105, 106, 80));
+    EXPECT_THAT(values, ElementsAre(108, 109, 110, 111, 112, 113, 101, 102, 103, 104, 105, 106, 80));
 }
 
 TEST_F(LeagueRecords, FallToTheAwayTeamWhereBothReachThem) {

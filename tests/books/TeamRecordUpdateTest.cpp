@@ -19,41 +19,17 @@ GameSheet game(TeamIndex home, int homeGoals, TeamIndex away, int awayGoals) {
 
 /// A game whose figures all differ.
 GameSheet busyGame(TeamIndex home, int homeGoals, TeamIndex away) {
-    GameSheet sheet = game(home, homeGoals, away, 1);
+    GameSheet sheet(home, away);
     const auto set = [](TeamSheet& team, const TeamFigures& figures, const std::array<int, 8>& secondBlock) {
-        const int goals = team.Goals;
         static_cast<TeamFigures&>(team) = figures;
-        team.Goals = goals;
         constexpr std::array Fields{&TeamSheet::PPAux,     &TeamSheet::AuxFor,   &TeamSheet::PairAAtt,
                                     &TeamSheet::PairAMade, &TeamSheet::PairBAtt, &TeamSheet::PairBMade,
                                     &TeamSheet::PairCAtt,  &TeamSheet::PairCMade};
         for (std::size_t field = 0; field < Fields.size(); ++field)
             team.*Fields[field] = secondBlock[field];
     };
-    set(sheet.home,
-        {.Shots = 31,
-         .PPG = 2,
-         .PPA = 5,
-         .Penalties = 8,
-         .PenM = 9,
-         .AttackZone = 605,
-         .FaceoffsWon = 20,
-         .BodyChecks = 11,
-         .PassAtt = 90,
-         .PassComp = 61},
-        {4, 6, 8, 7, 12, 10, 14, 13});
-    set(sheet.away,
-        {.Shots = 25,
-         .PPG = 1,
-         .PPA = 16,
-         .Penalties = 18,
-         .PenM = 18,
-         .AttackZone = 300,
-         .FaceoffsWon = 21,
-         .BodyChecks = 22,
-         .PassAtt = 88,
-         .PassComp = 23},
-        {24, 26, 28, 27, 31, 29, 33, 32});
+    set(sheet.home, {31, 2, 5, 8, 9, 605, homeGoals, 20, 11, 90, 61}, {4, 6, 8, 7, 12, 10, 14, 13});
+    set(sheet.away, {25, 1, 16, 18, 18, 300, 1, 21, 22, 88, 23}, {24, 26, 28, 27, 31, 29, 33, 32});
     sheet.awayPPTime = 131;
     sheet.crowdMeter = 97;
     return sheet;
