@@ -15,30 +15,10 @@ std::string text(SeriesPlace place) {
     return std::to_string(place.series.number()) + (place.team == SeriesTeam::A ? "A" : "B");
 }
 
-/// The lines of a conference's bracket: round, series and side, and in the first round the seed.
-std::vector<std::string> lines(Conference conference) {
-    std::vector<std::string> lines;
-    for (const auto& [round, place, seed] : bracketSlots(conference))
-        lines.push_back(std::to_string(round) + ":" + text(place) +
-                        (round == 0 ? " seed " + std::to_string(seed) : ""));
-    return lines;
-}
-
 PlayoffSeriesTable tableWith(SeriesIndex series, const PlayoffSeriesRecord& record) {
     PlayoffSeriesTable table;
     table[series] = record;
     return table;
-}
-
-TEST(Bracket, LinesOfBothConferences) {
-    EXPECT_THAT(lines(Conference::Wales),
-                ElementsAre("0:0A seed 1", "1:8A", "0:0B seed 8", "2:12A", "0:1A seed 4", "1:8B",
-                            "0:1B seed 5", "3:14A", "0:2A seed 3", "1:9A", "0:2B seed 6", "2:12B",
-                            "0:3A seed 2", "1:9B", "0:3B seed 7"));
-    EXPECT_THAT(lines(Conference::Campbell),
-                ElementsAre("0:4A seed 1", "1:10A", "0:4B seed 8", "2:13A", "0:5A seed 4", "1:10B",
-                            "0:5B seed 5", "3:14B", "0:6A seed 3", "1:11A", "0:6B seed 6", "2:13B",
-                            "0:7A seed 2", "1:11B", "0:7B seed 7"));
 }
 
 TEST(Bracket, BetterSeedsAreTheFirstTeamsOfTheFirstRound) {
