@@ -2,8 +2,7 @@
 
 #include "league/TeamTable.h"
 #include "store/PlayerFiles.h"
-
-#include <gmock/gmock.h>
+#include "support/Test.h"
 
 #include <algorithm>
 #include <set>
@@ -11,6 +10,8 @@
 
 namespace iceline {
 namespace {
+
+using namespace test;
 
 constexpr FirstRows<TeamIndex> AllBuiltIn{AllTeams.number() + 1};
 
@@ -25,28 +26,20 @@ std::string positions(const Roster& roster) {
     return positions;
 }
 
-TEST(DefaultRosters, EveryRowIsATextOf25LinesWithoutALastLineEnd) {
+TEST(DefaultRosters, AreWholeTextsOfGoaliesForwardsDefencemenAndEmptyRows) {
     for (const TeamIndex row : AllBuiltIn) {
+        SCOPED_TRACE(TeamAbbr[row]);
         const std::string text(defaultRoster(row));
-        EXPECT_EQ(std::ranges::count(text, '\n'), RosterRows - 1) << TeamAbbr[row];
-        EXPECT_EQ(std::ranges::count(text, '\r'), RosterRows - 1) << TeamAbbr[row];
-        EXPECT_THAT(text, testing::Not(testing::EndsWith("\n"))) << TeamAbbr[row];
-    }
-}
-
-TEST(DefaultRosters, GoaliesComeFirstThenForwardsDefencemenAndEmptyRows) {
-    for (const TeamIndex row : AllBuiltIn)
-        EXPECT_THAT(positions(builtIn(row)), testing::MatchesRegex("GGG?F+D+-+")) << TeamAbbr[row];
-}
-
-TEST(DefaultRosters, NumbersAreUniqueInATeamAndRatingsInTheGamesRange) {
-    for (const TeamIndex row : AllBuiltIn) {
+        EXPECT_EQ(std::ranges::count(text, '\n'), RosterRows - 1);
+        EXPECT_EQ(std::ranges::count(text, '\r'), RosterRows - 1);
+        EXPECT_THAT(text, Not(EndsWith("\n")));
+        EXPECT_THAT(positions(builtIn(row)), testing::MatchesRegex("GGG?F+D+-+"));
         std::set<int> numbers;
         for (const RosterRow& player : builtIn(row)) {
             if (player.isEmpty())
                 continue;
-            EXPECT_TRUE(numbers.insert(player.Number).second) << TeamAbbr[row] << ' ' << player.Number;
-            EXPECT_THAT(player.Rating, testing::AllOf(testing::Ge(40), testing::Le(99))) << player.Name;
+            EXPECT_TRUE(numbers.insert(player.Number).second) << player.Number;
+            EXPECT_THAT(player.Rating, AllOf(Ge(40), Le(99))) << player.Name;
         }
     }
 }
@@ -56,7 +49,7 @@ TEST(DefaultRosters, NoPlayerOfTheLeagueStandsInTwoTeams) {
     for (const TeamIndex team : AllLeagueTeams)
         for (const RosterRow& player : builtIn(team))
             EXPECT_TRUE(player.isEmpty() || names.insert(player.Name).second) << player.Name;
-    EXPECT_THAT(names, testing::Contains("J.-P. O'Neil"));
+    EXPECT_THAT(names, Contains("J.-P. O'Neil"));
 }
 
 TEST(DefaultRosters, RowsOutsideTheBuiltInOnesAreRefused) {
