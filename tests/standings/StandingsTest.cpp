@@ -82,18 +82,31 @@ TEST_F(StandingsWindow, PowerRankingsOfALongSeasonRankToTheHundredth) {
     EXPECT_EQ(adams(), "HFD BOS BUF QUE OTA MTL");
 }
 
-TEST_F(StandingsWindow, ClickInTheCatalogueBringsAnOpenWindowUpToDate) {
-    const Standings& window = open();
+TEST_F(StandingsWindow, ClickInTheCatalogueAndAChangeOfTheBooksBringAnOpenWindowUpToDate) {
+    Standings& window = open();
     int redrawn = 0;
-    Standings::in(league.app).onChange = [&redrawn] { ++redrawn; };
+    window.onChange = [&redrawn] { ++redrawn; };
+    window.DivisionStandingsUpdate();
+    EXPECT_EQ(redrawn, 1);
+    window.HomeAwayStandingsUpdate();
+    EXPECT_EQ(redrawn, 2);
     TeamRecord record;
     record.Points = 2;
     record.HWinPercent = 1;
     set("MTL", record);
     open();
-    EXPECT_GT(redrawn, 0);
+    EXPECT_GT(redrawn, 2);
     EXPECT_EQ(window.content().divisions[0].front().team, team("MTL"));
     EXPECT_EQ(window.content().homeAway.home.front().team, team("MTL"));
+
+    record.Points = 3;
+    record.SameConfW = 1;
+    record.AWinPercent = 1;
+    set("BUF", record);
+    window.renew();
+    EXPECT_EQ(window.content().divisions[0].front().team, team("BUF"));
+    EXPECT_EQ(window.content().homeAway.away.front().team, team("BUF"));
+    EXPECT_EQ(window.content().versus[Wales].front().team, team("BUF"));
 }
 
 TEST_F(StandingsWindow, HomeAndAwayRankByWinsAloneAndTiesGoByTheTeamTable) {
