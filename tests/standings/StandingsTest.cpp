@@ -172,8 +172,11 @@ TEST_F(VersusTables, ClicksRankWithoutTouchingAFile) {
     EXPECT_THAT(teamsOfRows(content.versus[Campbell]), StartsWith("WPG CGY CHI"));
 
     const int reads = league.files.reads;
+    int redrawn = 0;
+    window.onChange = [&redrawn] { ++redrawn; };
     window.EvW_Click();
     window.WvE_Click();
+    EXPECT_EQ(redrawn, 2);
     EXPECT_EQ(league.files.reads, reads);
     EXPECT_THAT(teamsOfRows(content.versus[Wales]), StartsWith("QUE BOS BUF"));
     EXPECT_THAT(teamsOfRows(content.versus[Campbell]), StartsWith("CGY CHI"));
