@@ -13,17 +13,11 @@ using namespace test;
 /// Figures that are all different, `by` more on one side than on the other.
 TeamGameStats figures(int goals, int by) {
     const std::string mark = std::to_string(by);
-    TeamGameStats stats;
-    stats.Goals = goals;
-    stats.Shots = 25 + by;
-    stats.PPG = 1 + by;
-    stats.PPA = 4 + by;
-    stats.Penalties = 11 + by;
-    stats.PenM = 16 + by;
-    stats.FaceoffsWon = 33 + by;
-    stats.BodyChecks = 44 + by;
-    stats.PassAtt = 80 + by;
-    stats.PassComp = 57 + by;
+    TeamGameStats stats{{25, 1, 4, 11, 16, 0, goals, 33, 44, 80, 57}, "", "", "", ""};
+    for (int TeamFigures::*figure : {&TeamFigures::Shots, &TeamFigures::PPG, &TeamFigures::PPA,
+                                     &TeamFigures::Penalties, &TeamFigures::PenM, &TeamFigures::FaceoffsWon,
+                                     &TeamFigures::BodyChecks, &TeamFigures::PassAtt, &TeamFigures::PassComp})
+        stats.*figure += by;
     stats.ShootingPct = "S" + mark;
     stats.FaceWinPct = "F" + mark;
     stats.PassAcc = "P" + mark;

@@ -29,28 +29,24 @@ GameReport game() {
     return report;
 }
 
-std::string goalLine(const ScoringEntry& goal) {
+GameReport with(const ScoringEntry& goal) {
     GameReport report = game();
     report.goals = {goal};
-    return scoringSummaryText(report).substr(ScoringHead.size());
+    return report;
+}
+
+GameReport with(const PenaltyEntry& penalty) {
+    GameReport report = game();
+    report.penalties = {penalty};
+    return report;
+}
+
+std::string goalLine(const ScoringEntry& goal) {
+    return scoringSummaryText(with(goal)).substr(ScoringHead.size());
 }
 
 std::string penaltyLine(const PenaltyEntry& penalty) {
-    GameReport report = game();
-    report.penalties = {penalty};
-    return penaltySummaryText(report).substr(PenaltyHead.size());
-}
-
-std::string goalRow(const ScoringEntry& goal) {
-    GameReport report = game();
-    report.goals = {goal};
-    return scoringRows(report);
-}
-
-std::string penaltyRow(const PenaltyEntry& penalty) {
-    GameReport report = game();
-    report.penalties = {penalty};
-    return penaltyRows(report);
+    return penaltySummaryText(with(penalty)).substr(PenaltyHead.size());
 }
 
 TEST(SummaryText, GameWithoutEntriesHasTheHeadsAlone) {
@@ -86,7 +82,7 @@ TEST(SummaryText, PenaltyStandsInColumnsWithTheMinutesOfItsKind) {
 
 TEST(SummaryText, EmptyRosterRowHasNoNameInTheWindow) {
     EXPECT_EQ(goalLine({1, 60, 2, 7, 8, None}), " 1  1:00  LA   , \r\n");
-    EXPECT_EQ(goalRow({1, 60, 2, 7, 8, None}),
+    EXPECT_EQ(scoringRows(with(ScoringEntry{1, 60, 2, 7, 8, None})),
               "<tr><td><center>1</td><td><center>1:00</td><td><center>LA</td><td>-----------, -----------"
               "</td><td><center>&nbsp;</td></tr>\r\n");
 }
@@ -99,19 +95,21 @@ TEST(SummaryText, TypeOfNoKindShowsPeriodAndTimeAlone) {
 }
 
 TEST(SummaryRows, GoalAndPenaltyAreOneRowEach) {
-    EXPECT_EQ(goalRow({2, 599, 132, 5, 0, None}),
+    EXPECT_EQ(scoringRows(with(ScoringEntry{2, 599, 132, 5, 0, None})),
               "<tr><td><center>2</td><td><center>9:59</td><td><center>BOS</td>"
               "<td>Maximilian Vanderhoeven-Castellano, Bo</td><td><center>PP2</td></tr>\r\n");
-    EXPECT_EQ(penaltyRow({4, 61, 42, 3}),
+    EXPECT_EQ(penaltyRows(with(PenaltyEntry{4, 61, 42, 3})),
               "<tr><td><center>OT</td><td><center>1:01</td><td><center>LA</td><td>Ann Lee</td>"
               "<td><center>Fight Instigator</td><td><center>5:00</td></tr>\r\n");
 }
 
 TEST(SummaryRows, TypeOfNoKindClosesItsRowWithEmptyCells) {
-    EXPECT_EQ(goalRow({2, 600, 5, 3, 24, None}), "<tr><td><center>2</td><td><center>10:00</td><td><center>"
-                                                 "</td><td></td><td><center></td></tr>\r\n");
-    EXPECT_EQ(penaltyRow({2, 600, 20, 3}), "<tr><td><center>2</td><td><center>10:00</td><td><center>"
-                                           "</td><td></td><td><center></td><td><center></td></tr>\r\n");
+    EXPECT_EQ(scoringRows(with(ScoringEntry{2, 600, 5, 3, 24, None})),
+              "<tr><td><center>2</td><td><center>10:00</td><td><center>"
+              "</td><td></td><td><center></td></tr>\r\n");
+    EXPECT_EQ(penaltyRows(with(PenaltyEntry{2, 600, 20, 3})),
+              "<tr><td><center>2</td><td><center>10:00</td><td><center>"
+              "</td><td></td><td><center></td><td><center></td></tr>\r\n");
 }
 
 TEST(SummaryRows, ShorterTableIsFilledToTheHeightOfTheOther) {

@@ -114,15 +114,14 @@ TEST_F(OptionsTest, DeletesAndClearsACoachAfterAQuestion) {
 }
 
 TEST_F(OptionsTest, TakesWholeSeasonLengthsInRange) {
-    struct Case {
-        const char* typed;
-        const char* stored;
-    };
-    for (const Case& each : {Case{"20", "20\r\n"}, Case{" 41.5 ", "42\r\n"}, Case{"40.5", "40\r\n"},
-                             Case{"-1", "-1\r\n"}, Case{"32767", "32767\r\n"}}) {
-        window().SeasonLength = each.typed;
+    for (const auto& [typed, stored] : {std::pair("20", "20\r\n"),
+                                        {" 41.5 ", "42\r\n"},
+                                        {"40.5", "40\r\n"},
+                                        {"-1", "-1\r\n"},
+                                        {"32767", "32767\r\n"}}) {
+        window().SeasonLength = typed;
         window().EnterSeasonLength_Click();
-        EXPECT_EQ(league.files.files[paths::GamesUntilPlayoffs], each.stored) << each.typed;
+        EXPECT_EQ(league.files.files[paths::GamesUntilPlayoffs], stored) << typed;
         EXPECT_EQ(league.said().back(), "The Season Length has been updated.");
     }
     for (const char* typed : {"", " ", "ten", "-2", "-1.6", "32767.5", "1e3", "12x", "nan", "inf"}) {
