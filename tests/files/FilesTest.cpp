@@ -12,56 +12,47 @@ namespace iceline::test {
 
 namespace {
 
-/// Files of one kind together with what is under them. What holds for one kind holds for all.
-struct Kind {
-    virtual ~Kind() = default;
-    virtual Files& files() = 0;
-};
-
-struct OnDisk : Kind {
-    Files& files() override { return disk; }
-
-    TemporaryFolder folder;
-    DiskFiles disk{folder.path()};
-};
-
-struct InMemory : Kind {
-    Files& files() override { return memory; }
-
-    MemoryFiles memory;
-};
-
-template <class Base>
-struct StagedOn : Kind {
-    Files& files() override { return staged; }
-
-    Base base;
-    StagedFiles staged{base.files()};
-};
-
-template <class K>
-std::unique_ptr<Kind> make() {
-    return std::make_unique<K>();
+std::shared_ptr<Files> onDisk() {
+    struct OnDisk {
+        TemporaryFolder folder;
+        DiskFiles disk{folder.path()};
+    };
+    const auto kept = std::make_shared<OnDisk>();
+    return {kept, &kept->disk};
 }
 
-struct NamedKind {
-    const char* name;
-    std::unique_ptr<Kind> (*make)();
+std::shared_ptr<Files> inMemory() {
+    return std::make_shared<MemoryFiles>();
+}
 
-    friend void PrintTo(const NamedKind& kind, std::ostream* out) { *out << kind.name; }
+template <auto Base>
+std::shared_ptr<Files> stagedOn() {
+    struct Staged {
+        std::shared_ptr<Files> base = Base();
+        StagedFiles staged{*base};
+    };
+    const auto kept = std::make_shared<Staged>();
+    return {kept, &kept->staged};
+}
+
+/// Files of one kind. What holds for one kind holds for all.
+struct Kind {
+    const char* name;
+    std::shared_ptr<Files> (*make)();
+
+    friend void PrintTo(const Kind& kind, std::ostream* out) { *out << kind.name; }
 };
 
-class AllFiles : public testing::TestWithParam<NamedKind> {
+class AllFiles : public testing::TestWithParam<Kind> {
 protected:
-    std::unique_ptr<Kind> kind = GetParam().make();
-    Files& files = kind->files();
+    std::shared_ptr<Files> kept = GetParam().make();
+    Files& files = *kept;
 };
 
 INSTANTIATE_TEST_SUITE_P(Kinds, AllFiles,
-                         testing::Values(NamedKind{"OnDisk", make<OnDisk>},
-                                         NamedKind{"InMemory", make<InMemory>},
-                                         NamedKind{"StagedInMemory", make<StagedOn<InMemory>>},
-                                         NamedKind{"StagedOnDisk", make<StagedOn<OnDisk>>}),
+                         testing::Values(Kind{"OnDisk", onDisk}, Kind{"InMemory", inMemory},
+                                         Kind{"StagedInMemory", stagedOn<inMemory>},
+                                         Kind{"StagedOnDisk", stagedOn<onDisk>}),
                          [](const auto& kind) { return kind.param.name; });
 
 } // namespace
