@@ -39,9 +39,11 @@ function make(tag, properties = {}, ...children) {
 const crest = (team) =>
   make('img', {src: siteLink(`LogoMinis/${team}.gif`).href, alt: '', width: 24, height: 24, loading: 'lazy'});
 
+const teamAddress = (team, part = 'season') =>
+  siteLink(`${part === 'playoffs' ? 'PlayoffPStats' : 'PStats'}/team.htm?team=${team}`).href;
+
 /** The page of a team of the league; null for the teams of All-Star games. */
-const teamPage = (names, team, part = 'season') => names.has(team) ?
-  siteLink(`${part === 'playoffs' ? 'PlayoffPStats' : 'PStats'}/team.htm?team=${team}`).href : null;
+const teamPage = (names, team, part) => names.has(team) ? teamAddress(team, part) : null;
 
 /** A team with its crest: its name, or its abbreviation where room is short. */
 function teamLink(names, team, part) {

@@ -1,11 +1,11 @@
 /*
- * Fills the tables of the landing pages from the row fragments that Generate Webpages writes, one file for each
- * sort order; rows.js reads those.
+ * Fills the tables of the landing pages: the leaders from the site's data (leaders.js), and those of a team from the
+ * row fragments that Generate Webpages writes, one file for each sort order (rows.js).
  *
  * A table names its fragment in data-fragment: {order} stands for the number of the order, {team} for the team that
  * the address asks for. A head that sorts gives the numbers of its two orders in data-descending and data-ascending;
- * data-order of the table is the order it opens in. The orders chosen stand in the address, each under the id of its
- * table, and so does what the rows are filtered by, so that a link leads to what is on view:
+ * data-order of the table is the order it opens in. The orders chosen are in the address, each under the id of its
+ * table, and so is what the rows are filtered by, so that a link leads to what is on view:
  * LeagueLeaders.htm?players=0&goalies=15&team=BOS&name=smith.
  *
  * Nothing from the address reaches a path, and nothing but the text of the filter the page: an order counts only when
@@ -13,15 +13,15 @@
  */
 'use strict';
 
-const NO_MATCH = 'No player matches the team and the name above.';
+const NO_MATCH = 'No player matches what is asked for above.';
 
 /** So many rows are shown until a visitor asks for all. */
 const FIRST_ROWS = 50;
 
 const narrow = matchMedia('(max-width: 720px)');
 const page = {
-  tables: [...document.querySelectorAll('table[data-fragment]')],
-  filters: document.querySelector('.filters'),
+  tables: [...document.querySelectorAll('table:is([data-fragment], [data-rows])')],
+  filters: document.getElementById('filters'),
   /** The team links of a page of one team, by abbreviation; empty on every other page. */
   teams: new Map([...document.querySelectorAll('.team-strip a')].map((link) =>
     [new URL(link.href).searchParams.get('team'), link])),
@@ -29,8 +29,9 @@ const page = {
 
 const heads = (table) => [...table.querySelectorAll('th[data-descending], th[data-ascending]')];
 
-/** What is known of each table: its heads in the order of the fragments' columns, and the rows that have come. */
-const states = new Map(page.tables.map((table) => [table, {columns: [...table.tHead?.rows[0].cells ?? []]}]));
+/** What is known of each table: its heads from left to right as the page has them, and the rows that have come. */
+const states = new Map(page.tables.map((table) =>
+  [table, {columns: [...table.tHead?.rows[0].cells ?? []], isNear: !table.dataset.rows}]));
 
 const asked = () => new URL(location.href).searchParams;
 
@@ -39,6 +40,12 @@ function chosenOrder(table) {
   const known = heads(table).some(({dataset}) => order !== null &&
     (dataset.descending === order || dataset.ascending === order));
   return known ? order : table.dataset.order;
+}
+
+/** The column that an order is by, and whether it has the lowest first. */
+function orderOf(table, order) {
+  const head = heads(table).find(({dataset}) => order === dataset.descending || order === dataset.ascending);
+  return {column: head.textContent, ascending: order === head.dataset.ascending};
 }
 
 /** The order that a click on `head` leads to: its opening order, or the other way round when it is on view. */
@@ -92,32 +99,19 @@ function columnsOnView({columns}) {
   return [...inPlace.slice(0, name + 1), sorted, ...inPlace.slice(name + 1).filter((column) => column !== sorted)];
 }
 
-/** Puts the cells of a row in the order of `columns`, with the focus where it was. */
-function arrange(row, cells, columns) {
-  const arranged = columns.flatMap((column) => cells[column] ?? []);
-  if (arranged.every((cell, i) => cell === row.cells[i])) {
-    return;
+/** The row of `cells`, put in the order of `columns`, with the focus where it was. */
+function arranged(cells, columns) {
+  const row = cells[0].parentElement;
+  const inOrder = columns.flatMap((column) => cells[column] ?? []);
+  if (inOrder.some((cell, i) => cell !== row.cells[i])) {
+    const focused = row.contains(document.activeElement) ? document.activeElement : null;
+    row.append(...inOrder);
+    focused?.focus({preventScroll: true});
   }
-  const focused = row.contains(document.activeElement) ? document.activeElement : null;
-  row.append(...arranged);
-  focused?.focus({preventScroll: true});
+  return row;
 }
 
 /* Rows */
-
-/** Letters alone, so that a name is found without its accents, too. */
-const plain = (text) => text.normalize('NFD').replace(/\p{M}/gu, '').toLowerCase();
-
-function matchingRows({rows, columns}) {
-  const name = columns.findIndex((head) => head.matches('.name'));
-  if (!page.filters || name < 0) {
-    return rows;
-  }
-  const [team, part] = filterFields().map(({value}) => value);
-  const wanted = plain(part.trim());
-  return rows.filter(({team: own, cells}) => (team === '' || own === team) &&
-    (wanted === '' || plain(cells[name].textContent).includes(wanted)));
-}
 
 function messageRow({columns}, message) {
   const row = document.createElement('tr');
@@ -129,53 +123,44 @@ function messageRow({columns}, message) {
   return row;
 }
 
-/** Loads what the table is to show, unless it has it, and shows it; done when the rows are there. */
+/** Loads what the table is to show and shows it; done when the rows are there. A later call ends this one. */
 async function showRows(table, team, order) {
+  const state = states.get(table);
+  const wanted = state.wanted = {};
+  table.setAttribute('aria-busy', 'true');
+  const content = await (table.dataset.rows ? leaderRows(table, order) : fragmentRows(table, team, order));
+  if (state.wanted === wanted) {
+    await drawRows(table, Object.assign(state, {rows: [], message: null, isFirstPart: false}, content));
+  }
+}
+
+const fragments = new Map();
+
+/** The rows of the fragment that the table names, each a function that gives its cells, or the message in their place. */
+async function fragmentRows(table, team, order) {
   const path = table.dataset.fragment.replace('{team}', team).replace('{order}', order);
   const address = new URL(path, location.href).href;
-  const state = states.get(table);
-  if (state.address !== address) {
-    Object.assign(state, {address, rows: null, message: null});
-    table.setAttribute('aria-busy', 'true');
-    const {rows, message} = await loadedRows(address);
-    if (state.address !== address) {
-      return;
-    }
-    rows?.forEach(nameTeam);
-    rows?.forEach((row) => linkNames(table, row, team));
-    if (rows && order) {
-      alignFigures(rows);
-    }
-    state.rows = rows?.map((row) => ({row, cells: [...row.cells], team: teamOf(row)}));
-    state.message = message;
-    state.address = message === UNREACHABLE ? null : address;
+  if (!fragments.has(address)) {
+    fragments.set(address, loadedRows(address).then(({rows, message}) => {
+      rows?.forEach((row) => linkNames(table, row, team));
+      if (rows && order) {
+        alignFigures(rows);
+      }
+      return message ? {message} : {rows: rows.map(({cells}) => [...cells]).map((cells) => () => cells)};
+    }));
   }
-  if (state.rows || state.message) {
-    await drawRows(table, state);
+  const content = await fragments.get(address);
+  if (content.message === UNREACHABLE) {
+    fragments.delete(address);
   }
+  return content;
 }
 
-/** Leads a player's name to his page, and a team of the leaders to its own, unless the row does so. */
+/** Leads the name of a team's leader to his page. */
 function linkNames(table, row, team) {
-  const part = table.dataset.fragment.startsWith('./Playoff') || location.pathname.includes('/PlayoffPStats/') ?
-    'playoffs' : 'season';
-  if (table.matches('.players')) {
-    linkPlayer(row.cells[2], part, teamOf(row));
-  } else if (table.matches('.team-leaders') && row.cells[0].matches('td')) {
-    linkPlayer(row.cells[0], part, team);
-  } else if (table.matches('.leaders')) {
-    const logo = row.querySelector('img');
-    const link = make('a', {href: siteLink(`${part === 'playoffs' ? 'Playoff' : ''}PStats/team.htm?team=${logo.alt}`).href});
-    link.dataset.team = logo.alt;
-    delete logo.parentElement.dataset.team;
-    logo.replaceWith(link);
-    link.append(logo);
-  }
-}
-
-function linkPlayer(cell, part, team) {
-  const name = cell?.querySelector('center') ?? cell;
-  if (name && !name.firstElementChild) {
+  const part = location.pathname.includes('/PlayoffPStats/') ? 'playoffs' : 'season';
+  const [name] = row.cells;
+  if (table.matches('.team-leaders') && name.matches('td') && !name.firstElementChild) {
     name.replaceChildren(make('a', {href: playerPage(part, team, name.textContent.trim())}, name.textContent.trim()));
   }
 }
@@ -189,53 +174,48 @@ const turn = () => {
 };
 let lastTurn = Promise.resolve();
 
-/** Draws the rows that match, the first of them or all. A later drawing of the same table ends this one. */
+/** Draws the rows, the first of them or all. */
 async function drawRows(table, state) {
-  const drawing = state.drawing = {};
-  table.setAttribute('aria-busy', 'true');
+  const {wanted, rows} = state;
   const columns = columnsOnView(state);
-  const matching = state.rows ? matchingRows(state) : [];
-  const shown = table.matches('.leaders') && !state.all ? matching.slice(0, FIRST_ROWS) : matching;
+  const shown = table.matches('.leaders') && !state.all ? rows.slice(0, FIRST_ROWS) : rows;
   for (let i = 0; i === 0 || i < shown.length; i += ROWS_AT_A_TIME) {
     await turn();
-    if (state.drawing !== drawing) {
+    if (state.wanted !== wanted) {
       return;
     }
-    const part = shown.slice(i, i + ROWS_AT_A_TIME);
-    part.forEach(({row, cells}) => arrange(row, cells, columns));
-    const rows = shown.length > 0 ? part.map(({row}) => row) : [messageRow(state, state.message ?? NO_MATCH)];
+    const part = shown.slice(i, i + ROWS_AT_A_TIME).map((cells) => arranged(cells(), columns));
     if (i > 0) {
-      table.tBodies[0].append(...rows);
+      table.tBodies[0].append(...part);
       continue;
     }
     if (state.columns.length > 0) {
-      arrange(table.tHead.rows[0], state.columns, columns);
+      arranged(state.columns, columns);
     }
-    table.tBodies[0].replaceChildren(...rows);
-    showCount(table, shown.length, matching.length);
+    table.tBodies[0].replaceChildren(...shown.length > 0 ? part : [messageRow(state, state.message ?? NO_MATCH)]);
+    showCount(table, state, shown.length);
   }
   table.removeAttribute('aria-busy');
 }
 
 const countOf = (table) => document.querySelector(`[data-count="${table.id}"]`);
 
-function showCount(table, shown, matching) {
+function showCount(table, {rows, isFirstPart}, shown) {
   const count = countOf(table);
   if (count) {
     const [text, all] = count.children;
-    text.textContent = shown === 0 ? '' : `${shown} of ${matching}`;
-    all.hidden = shown === matching;
+    text.textContent = shown === 0 ? '' : isFirstPart ? `The first ${shown}` : `${shown} of ${rows.length}`;
+    all.hidden = shown === rows.length && !isFirstPart;
   }
 }
 
 async function showAll(table) {
-  const state = states.get(table);
-  state.all = true;
-  await drawRows(table, state);
+  states.get(table).all = true;
+  await showTable(table);
   table.closest('.scroller').focus();
 }
 
-/* The filters: a team and a part of a name */
+/* The filters */
 
 const filterFields = () => [...page.filters.querySelectorAll('select, input')];
 
@@ -291,11 +271,27 @@ async function showTables() {
   if (page.teams.size > 0 && !showTeam(team)) {
     return;
   }
-  await Promise.all(page.tables.map((table) => {
-    const order = chosenOrder(table);
-    showHeads(table, order);
-    return showRows(table, team, order);
-  }));
+  page.tables.forEach((table) => showHeads(table, chosenOrder(table)));
+  await Promise.all(page.tables.filter((table) => states.get(table).isNear).map(showTable));
+}
+
+const showTable = (table) => showRows(table, asked().get('team'), chosenOrder(table));
+
+/** Shows the leaders' tables when they come near the window, so that what nobody looks at is not loaded. */
+function watch(tables) {
+  const near = new IntersectionObserver((entries) => {
+    entries.filter(({isIntersecting}) => isIntersecting).forEach(({target}) => showNear(target));
+  }, {rootMargin: '25%'});
+  tables.forEach((table) => near.observe(table));
+  window.addEventListener('beforeprint', () => tables.forEach(showNear));
+}
+
+function showNear(table) {
+  const state = states.get(table);
+  if (!state.isNear) {
+    state.isNear = true;
+    showTable(table);
+  }
 }
 
 /** Shows a note that says what is missing when the page that its links need has not been written yet. */
@@ -310,6 +306,7 @@ if (page.filters) {
   readFilters();
   page.filters.addEventListener('input', takeFilters);
 }
+watch(page.tables.filter((table) => table.dataset.rows));
 showTables().then(() => document.getElementById(location.hash.slice(1))?.scrollIntoView());
 window.addEventListener('popstate', () => {
   if (page.filters) {

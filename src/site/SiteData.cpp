@@ -10,6 +10,7 @@
 #include "shell/Application.h"
 #include "shell/LeaderColumns.h"
 #include "site/DataTable.h"
+#include "site/FirstLeaders.h"
 #include "standings/PointsStandings.h"
 #include "standings/StandingsColumns.h"
 #include "store/TeamFiles.h"
@@ -244,6 +245,7 @@ void writeSiteData(Application& app) {
     for (const PartOfYear part : Parts) {
         writeTeams(files, part);
         writePlayers(files, part);
+        writeData(files, ofPart(part, "leaders"), firstLeaders(files, part));
         writeRecords(files, part);
     }
     writeSearchIndex(files);

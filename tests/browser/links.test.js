@@ -29,11 +29,18 @@ const teamsOf = (document) =>
 
 const ofTeams = (link, teams) => link.includes('{team}') ? teams.map((team) => link.replace('{team}', team)) : [link];
 
+/** The files of rows whose numbers the orders of a table have; leaders.js makes the same of the site's data. */
+function fragmentsOf({attribs}) {
+  const ranked = {players: 'Normal', goalies: 'Goalies', teams: 'Teams', stars: 'Star'}[attribs.id];
+  const folder = attribs['data-rows']?.startsWith('playoff-') ? 'PlayoffRankings' : 'Rankings';
+  return attribs['data-fragment'] ?? (attribs['data-rows'] && `./${folder}/${ranked}{order}.php`);
+}
+
 /** The tables of a page that tables.js fills: their opening order, their fragments, and the orders of their heads. */
 const filledTables = (document) => DomUtils.getElementsByTagName('table', document)
-  .filter(({attribs}) => attribs['data-fragment']).map((table) => ({
+  .filter(fragmentsOf).map((table) => ({
     opening: table.attribs['data-order'] ?? '',
-    fragments: ofTeams(table.attribs['data-fragment'], teamsOf(document)),
+    fragments: ofTeams(fragmentsOf(table), teamsOf(document)),
     heads: DomUtils.getElementsByTagName('th', table).map((head, column) => ({
       column,
       caption: DomUtils.textContent(head),

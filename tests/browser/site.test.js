@@ -69,7 +69,10 @@ const tableOnView = (table) => table.evaluate((element) => ({
 
 const allDrawn = (page) => page.waitForFunction(() => !document.querySelector('[aria-busy]'));
 
+/** Shows all rows of all tables, those too that wait for the visitor to come near. */
 async function showAllRows(page) {
+  await page.evaluate(() => dispatchEvent(new Event('beforeprint')));
+  await allDrawn(page);
   await page.locator('.count button').evaluateAll((buttons) =>
     buttons.filter(({hidden}) => !hidden).forEach((button) => button.click()));
   await allDrawn(page);
@@ -213,20 +216,33 @@ function checkPages(url) {
     '<b onclick=acted=1 style="position:fixed">C</b>', '<img src=http://elsewhere.invalid/a.gif>'];
   const rows = NAMES.map((name) => `<tr><td>1</td><td><img src="../LogoMinis/BOS.gif"></td><td>${name}</td></tr>`);
 
+  /** What names bring into a table: the elements with their attributes, and the hosts that links lead to. */
+  const broughtInto = async (page, table) => {
+    assert.equal(await page.evaluate(() => globalThis.acted), undefined);
+    assert.equal(await page.locator(`${table} tbody tr`).count(), NAMES.length);
+    return page.locator(`${table} tbody`).evaluate((body) => ({
+      parts: [...new Set([...body.querySelectorAll('*')].flatMap(({localName, attributes}) =>
+        [localName, ...[...attributes].map(({name}) => `${localName} ${name}`)]))].sort(),
+      hosts: [...new Set([...body.querySelectorAll('[href], [src]')].map((link) => new URL(link.href ?? link.src).host))],
+    }));
+  };
+
   test('a name that is markup becomes text', async () => {
     const page = await browser.newPage({bypassCSP: true});
-    await page.route('**/Rankings/Normal2.php', (route) => route.fulfill({body: rows.join('')}));
+    const {host} = new URL(url(''));
+    await page.route('**/PStats/BOS_N2.php', (route) => route.fulfill({body: rows.join('')}));
+    await page.goto(url('PStats/team.htm?team=BOS'), {waitUntil: 'networkidle'});
+    assert.deepEqual(await broughtInto(page, '#skaters'),
+      {parts: ['a', 'b', 'img', 'img alt', 'img src', 'td', 'tr'], hosts: [host]});
+
+    await page.route('**/data/leaders.json', async (route) => {
+      const {columns, rows: [leader]} = await (await route.fetch()).json();
+      await route.fulfill({json: {columns, rows: NAMES.map((name) => leader.with(columns.indexOf('name'), name))}});
+    });
     await page.goto(url('LeagueLeaders.htm'), {waitUntil: 'networkidle'});
-    const {acted, parts, links} = await page.locator('#players tbody').evaluate((body) => ({
-      acted: globalThis.acted,
-      parts: [...body.querySelectorAll('*')].flatMap(({localName, attributes}) =>
-        [localName, ...[...attributes].map(({name}) => `${localName} ${name}`)]),
-      links: [...body.querySelectorAll('[href], [src]')].map((link) => new URL(link.href ?? link.src).host),
-    }));
-    assert.equal(acted, undefined);
-    assert.deepEqual([...new Set(parts)].sort(), ['a', 'a href', 'b', 'img', 'img alt', 'img src', 'td', 'td data-team', 'tr']);
-    assert.deepEqual([...new Set(links)], [new URL(url('')).host]);
-    assert.equal(await page.locator('#players tbody tr').count(), NAMES.length);
+    const {parts, hosts} = await broughtInto(page, '#players');
+    assert.deepEqual(parts.filter((part) => !part.startsWith('img ')), ['a', 'a data-team', 'a href', 'b', 'img', 'td', 'tr']);
+    assert.deepEqual(hosts, [host]);
     await page.close();
   });
 
@@ -264,16 +280,24 @@ function checkPages(url) {
     await showAllRows(page);
     assert.ok(await rows.count() > 400);
 
-    const [team, name] = [page.locator('.filters select'), page.locator('.filters input')];
-    const last = (await rows.last().locator('td').nth(2).innerText()).trim();
-    await name.fill(last.slice(1).toUpperCase());
+    const cells = (column) => rows.locator(`td:nth-child(${column})`).allInnerTexts();
+    const last = (await cells(3)).at(-1);
+    await page.getByLabel('Name').fill(last.slice(1).toUpperCase());
     await allDrawn(page);
-    assert.deepEqual(await rows.locator('td:nth-child(3)').allInnerTexts(), [last]);
-    await name.fill('');
-    await team.selectOption('BOS');
+    assert.deepEqual(await cells(3), [last]);
+    await page.getByLabel('Name').fill('');
+    await page.locator('select[name=team]').selectOption('BOS');
+    await page.getByLabel('Position').selectOption('D');
+    await page.getByLabel('At least').fill('10');
     await allDrawn(page);
+    const totals = await cells(5);
+    const games = (await cells(14)).map(Number);
+    assert.ok(games.length > 2 && games.every((played) => played >= 10), `${games}`);
     const logos = await rows.locator('img').evaluateAll((pictures) => pictures.map(({alt}) => alt));
     assert.deepEqual([...new Set(logos)], ['BOS']);
+    await page.getByLabel('Figures').selectOption('game');
+    await allDrawn(page);
+    assert.deepEqual((await cells(5)).sort(), totals.map((goals, i) => (goals / games[i]).toFixed(2)).sort());
 
     const again = await visit(browser, page.url());
     assert.equal(await again.locator('#players tbody').innerText(), await page.locator('#players tbody').innerText());
