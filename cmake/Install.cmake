@@ -7,7 +7,7 @@ endif()
 install(FILES resources/licences.txt DESTINATION . COMPONENT portable)
 file(WRITE ${CMAKE_BINARY_DIR}/portable "With this file beside the program its league lies here, too.\n")
 install(FILES ${CMAKE_BINARY_DIR}/portable DESTINATION . COMPONENT portable)
-install(CODE "set(template_source \"${PROJECT_SOURCE_DIR}/resources/site\")" COMPONENT portable)
+install(CODE "set(template_source \"${site_template}\")" COMPONENT portable)
 install(SCRIPT ${CMAKE_CURRENT_LIST_DIR}/InstallTemplate.cmake COMPONENT portable)
 
 # The component `system` goes where a Unix system looks for programs, their manuals and icons.
@@ -23,7 +23,7 @@ function(install_system)
 endfunction()
 
 install_system(TARGETS iceline iceline-scorebook RUNTIME DESTINATION bin)
-install(DIRECTORY resources/site/ DESTINATION share/iceline-scorebook/site-template COMPONENT system EXCLUDE_FROM_ALL
+install(DIRECTORY ${site_template}/ DESTINATION share/iceline-scorebook/site-template COMPONENT system EXCLUDE_FROM_ALL
     PATTERN .gitkeep EXCLUDE)
 install_system(FILES ${system}/${app}.desktop DESTINATION share/applications)
 configure_file(${system}/${app}.metainfo.xml.in ${made}/${app}.metainfo.xml @ONLY)
