@@ -150,7 +150,7 @@ def write_gif(image, path):
         colours.save(path, "GIF", optimize=True)
         return
     colours.paste(GIF_COLOURS, mask=clear)
-    colours.save(path, "GIF", transparency=GIF_COLOURS, optimize=False)
+    colours.save(path, "GIF", transparency=GIF_COLOURS, optimize=True)
 
 
 def write_ico(images, path):

@@ -49,15 +49,16 @@ HEADERS = {
 
 def names_of_pictures(teams):
     """The style sheet that gives the teams' pictures their names, which the pages' own markup does not."""
-    rules = ["/* What the pictures of the teams show, for who cannot see them; draw.py writes this file. */"]
+    rules = []
     for team in teams:
         full = f'{team["city"]} {team["name"]}'
         for folder, name in (("LogoMinis", team.get("short", team["city"])),
                              ("BannerMinis", team.get("short", team["city"])), ("BigBanners", full)):
             if team["abbr"] != "ALL":
                 file = f'{folder}/{team["abbr"]}.gif'
-                rules.append(f'img[src$="{file}"]:not([alt]) {{\n  content: url("{file}") / "{name}";\n}}')
-    return "\n\n".join(rules) + "\n"
+                rules.append(f'  &[src$="{file}"] {{ content: url({file}) / "{name}"; }}\n')
+    return ("/* What the pictures of the teams show, for who cannot see them; draw.py writes this file. */\n\n"
+            f'img:not([alt]) {{\n{"".join(rules)}}}\n')
 
 
 def draw_site(teams, site):
