@@ -25,6 +25,13 @@ fs::path programFile() {
 #endif
 }
 
+/// What lies beside the program, or where a package of the system puts it.
+fs::path delivered(const char* beside, const char* ofSystem) {
+    const fs::path own = programFolder() / beside;
+    const fs::path shared = programFolder().parent_path() / ofSystem;
+    return fs::exists(own) || !fs::exists(shared) ? own : shared;
+}
+
 } // namespace
 
 fs::path programFolder() {
@@ -32,9 +39,11 @@ fs::path programFolder() {
 }
 
 fs::path siteTemplateFolder() {
-    const fs::path beside = programFolder() / "site-template";
-    const fs::path ofSystem = programFolder().parent_path() / "share/iceline-scorebook/site-template";
-    return fs::exists(beside) || !fs::exists(ofSystem) ? beside : ofSystem;
+    return delivered("site-template", "share/iceline-scorebook/site-template");
+}
+
+fs::path licencesFile() {
+    return delivered("licences.txt", "share/doc/iceline-scorebook/copyright");
 }
 
 #ifdef _WIN32

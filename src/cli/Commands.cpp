@@ -1,5 +1,6 @@
 #include "cli/Commands.h"
 
+#include "app/Version.h"
 #include "cli/Command.h"
 #include "shell/ErrorText.h"
 
@@ -36,7 +37,7 @@ void addAll(CLI::App& program, Call& call, LeagueChoice& choice) {
     program.add_option("--league", choice.folder, "the league folder (default: the current folder)")
         ->type_name("DIR");
     program.add_flag("--yes", choice.yes, "answer questions with OK");
-    program.set_version_flag("--version", "iceline " ICELINE_VERSION);
+    program.set_version_flag("--version", "iceline " + versionText("CLI11 " CLI11_VERSION));
     addScriptableCommands(program, call);
     addRecoverCommand(program, call);
     addPreviewCommand(program, call);

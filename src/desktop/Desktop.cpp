@@ -2,6 +2,7 @@
 
 #include "app/OpenLeague.h"
 #include "app/UnfinishedChange.h"
+#include "app/Version.h"
 #include "desktop/Guard.h"
 #include "desktop/LeagueChoice.h"
 #include "desktop/QtPlatform.h"
@@ -192,7 +193,7 @@ int run(int argc, char** argv) {
     GuardedApplication application(argc, argv);
     QApplication::setOrganizationName(QStringLiteral("Iceline"));
     QApplication::setApplicationName(QStringLiteral("iceline-scorebook"));
-    QApplication::setApplicationVersion(QStringLiteral(ICELINE_VERSION));
+    QApplication::setApplicationVersion(toQt(versionText("Qt " + std::string(qVersion()))));
     QApplication::setQuitOnLastWindowClosed(false);
     applyStyle(application);
     const Arguments arguments = argumentsOf(application);

@@ -1,6 +1,7 @@
 #include "desktop/WelcomeWindow.h"
 
 #include "app/Catalogue.h"
+#include "app/ProgramFolder.h"
 #include "app/WelcomeWindow.h"
 #include "desktop/Controls.h"
 #include "desktop/Guard.h"
@@ -18,6 +19,16 @@
 #include <string>
 
 namespace iceline::desktop {
+
+namespace {
+
+std::string aboutText() {
+    return "Iceline Scorebook " + fromQt(QApplication::applicationVersion()) +
+           "\n\nKeeps the books of a hockey league.\n\nThe licences of the program and of what is in it:\n" +
+           licencesFile().string();
+}
+
+} // namespace
 
 WelcomeWindow::WelcomeWindow(Application& application, PreviewServer& preview)
     : app_(application), preview_(preview), windows_(application), history_(application),
@@ -83,9 +94,8 @@ void WelcomeWindow::makeMenus() {
         history_.showAgain();
     });
     QMenu& help = *menus_->addMenu(QStringLiteral("&Help"));
-    menus_->add(help, QStringLiteral("&About Iceline Scorebook"), {}, [this] {
-        app_.platform().say("Iceline Scorebook " ICELINE_VERSION "\n\nKeeps the books of a hockey league.");
-    });
+    menus_->add(help, QStringLiteral("&About Iceline Scorebook"), {},
+                [this] { app_.platform().say(aboutText()); });
 }
 
 /// The first nine windows have a digit's key.
