@@ -1,6 +1,7 @@
 #include "app/Startup.h"
 
 #include "app/UnfinishedChange.h"
+#include "copies/KeptSeason.h"
 #include "games/FolderRunNote.h"
 #include "playoffs/SeasonEnd.h"
 #include "shell/Application.h"
@@ -27,6 +28,12 @@ void tellOfBrokenRun(Application& app) {
     removeFolderRunNote(app.files());
     operation.commit();
     app.platform().say(note->text());
+}
+
+void tellOfBrokenSeason(Application& app) {
+    if (const auto name = removeBrokenSeason(app.files()))
+        app.platform().say("The new season has not begun: keeping the old one as " + *name +
+                           " was broken off. What there was of the copy has been removed.");
 }
 
 void make(const LeagueEntry& entry, Application& app) {
@@ -68,6 +75,7 @@ bool startUp(Application& app) {
     app.state.ShowWindows = true;
     recoverAtStart(app);
     tellOfBrokenRun(app);
+    tellOfBrokenSeason(app);
     if (!completeLeague(app))
         return false;
     app.state.SeasonLength = readNumber16(app.files(), paths::GamesUntilPlayoffs);

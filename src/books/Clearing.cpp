@@ -20,13 +20,26 @@ void clearTeam(Files& files, TeamIndex team) {
         writeInitial(files, paths::teamFolder(team) + seasonFolder(part), initialTeamFiles());
 }
 
-void clearLeague(Files& files) {
+namespace {
+
+/// All teams, the list of box scores, and the files of the league whose content lasts no longer.
+void clearWhatLasts(Lasts atMost, Files& files) {
     for (const InitialFile& file : initialLeagueFiles())
-        if (file.isCleared)
+        if (file.lasts <= atMost)
             files.write(file.name, file.content());
     files.write(paths::page("BoxScores.htm"), boxScoreListHead());
     for (const TeamIndex team : AllLeagueTeams)
         clearTeam(files, team);
+}
+
+} // namespace
+
+void clearLeague(Files& files) {
+    clearWhatLasts(Lasts::UntilTheLeagueIsCleared, files);
+}
+
+void clearSeason(Files& files) {
+    clearWhatLasts(Lasts::ForTheSeason, files);
 }
 
 void clearCoach(Files& files, const std::string& coach) {

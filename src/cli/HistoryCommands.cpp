@@ -2,7 +2,7 @@
 #include "cli/TextTable.h"
 #include "cli/UseWindow.h"
 #include "cli/WindowPrinters.h"
-#include "history/Backup.h"
+#include "copies/Backup.h"
 #include "history/History.h"
 #include "log/EntryText.h"
 

@@ -38,6 +38,12 @@ Status clearStats(Session& session, const std::string& team) {
     return Status::Done;
 }
 
+Status newSeason(Session& session, const std::string& name) {
+    Options& options = use<Options>(session, WindowId::Options);
+    options.SeasonName = name;
+    return options.NewSeason_Click() ? Status::Done : Status::Refused;
+}
+
 } // namespace
 
 void printOptions(const Options& window, std::ostream& out) {
@@ -55,6 +61,10 @@ void addSeasonCommands(CLI::App& program, Call& call) {
     const auto [clear, team] = addCommand<std::string>(
         program, call, "clear", "Set the statistics of a team or of the league back to nothing", clearStats);
     addArgument(*clear, "TEAM", *team, "the team's full name, or ALL for the league");
+    const auto [begin, name] = addCommand<std::string>(
+        program, call, "new-season", "Keep the season under a name, with its site, and begin a new one",
+        newSeason);
+    addArgument(*begin, "NAME", *name, "the name of the season that is over");
 }
 
 } // namespace iceline::cli

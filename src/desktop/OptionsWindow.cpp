@@ -21,12 +21,17 @@ OptionsWindow::OptionsWindow(Application& application, WindowId id, Options& obj
     grid->addWidget(makeCoaches(), 0, 0, 2, 1);
     grid->addWidget(makeSeason(), 0, 1);
     grid->addWidget(makeClearing(), 1, 1);
-    grid->addWidget(exitButton("Command3", this), 2, 1, Qt::AlignRight);
+    auto* last = new QHBoxLayout;
+    last->addStretch();
+    last->addWidget(makeButton("BackUp", QStringLiteral("Back Up"), &Options::BackUp_Click));
+    last->addWidget(exitButton("Command3", this));
+    grid->addLayout(last, 2, 1);
     follow(object_);
 }
 
+template <class Result>
 QPushButton* OptionsWindow::makeButton(const char* name, const QString& caption,
-                                       void (Options::*procedure)()) {
+                                       Result (Options::*procedure)()) {
     auto* button = new QPushButton(caption, this);
     button->setObjectName(QLatin1String(name));
     connect(button, &QPushButton::clicked, this,
@@ -108,6 +113,10 @@ QGroupBox* OptionsWindow::makeSeason() {
                     1, 2);
     grid->addWidget(
         makeButton("GoToPlayoffs", QStringLiteral("Go to Playoffs"), &Options::GoToPlayoffs_Click), 2, 2);
+    seasonName_ = addField(3, "SeasonNameLabel", QStringLiteral("Name of This Season"), "SeasonName");
+    connect(seasonName_, &QLineEdit::textEdited, this,
+            [this](const QString& text) { object_.SeasonName = fromQt(text); });
+    grid->addWidget(makeButton("NewSeason", QStringLiteral("New Season"), &Options::NewSeason_Click), 3, 2);
     grid->setColumnStretch(3, 1);
     return box;
 }
@@ -157,6 +166,7 @@ void OptionsWindow::refresh() {
         newName_->setFocus();
     create_->setVisible(content.Command1Visible);
     rename_->setVisible(content.Command2Visible);
+    seasonName_->setText(toQt(object_.SeasonName));
     currentLength_->setText(toQt(content.CurrentSeasonLength));
     showClearedTeam();
 }

@@ -12,7 +12,8 @@ class QPushButton;
 
 namespace iceline::desktop {
 
-/// The coaches, the length of the season, the move to the play-offs, and the clearing of statistics.
+/// The coaches, the length of the season, the move to the play-offs, the next season, the clearing of
+/// statistics, and copies of the league.
 class OptionsWindow : public LeagueWindow {
     Q_OBJECT
 
@@ -23,7 +24,8 @@ protected:
     void refresh() override;
 
 private:
-    QPushButton* makeButton(const char* name, const QString& caption, void (Options::*procedure)());
+    template <class Result>
+    QPushButton* makeButton(const char* name, const QString& caption, Result (Options::*procedure)());
     QGroupBox* makeCoaches();
     QLayout* makeInputRow(QGroupBox* box);
     QGroupBox* makeSeason();
@@ -39,6 +41,7 @@ private:
     QPushButton* create_ = nullptr;
     QPushButton* rename_ = nullptr;
     QLineEdit* currentLength_ = nullptr;
+    QLineEdit* seasonName_ = nullptr;
     QComboBox* teams_ = nullptr;
     QLabel* clearedLogo_ = nullptr;
     QLabel* clearedName_ = nullptr;

@@ -30,7 +30,8 @@ void noteRosters(Application& app, GameImported& game) {
 }
 
 std::string alreadyCounted(const CountedGame& game) {
-    return "This game is in the books as game " + std::to_string(game.gameNumber) + ": " +
+    return "This game is in the books as game " + std::to_string(game.gameNumber) +
+           (game.season.empty() ? "" : " of season " + game.season) + ": " +
            std::string(TeamName[game.home]) + " " + std::to_string(game.homeGoals) + ", " +
            std::string(TeamName[game.away]) + " " + std::to_string(game.awayGoals) + ", imported on " +
            game.time.substr(0, game.time.find('T')) + ".";

@@ -1,14 +1,16 @@
 #include "history/HistoryChanges.h"
 
 #include "coaches/Coaches.h"
+#include "copies/Backup.h"
+#include "copies/KeptSeason.h"
 #include "files/FileError.h"
 #include "games/BookEntry.h"
 #include "games/StatExtractor.h"
 #include "games/ThreeStars.h"
-#include "history/Backup.h"
 #include "leaders/Rankings.h"
 #include "log/EntryText.h"
 #include "shell/LoggedChange.h"
+#include "site/OldSeasons.h"
 #include "standings/Standings.h"
 
 #include <algorithm>
@@ -90,6 +92,22 @@ void removeEmptyCoachFolders(Files& files) {
             files.removeFolder(paths::coachFolder(coach));
 }
 
+/// The copies of a season go with the operation that began the next one. False when none has to go.
+bool moveKeptSeasons(Files& files, const std::vector<Step>& now, const std::vector<Step>& then) {
+    bool moved = false;
+    for (std::size_t i = 0; i < now.size(); ++i) {
+        const auto* season = std::get_if<NewSeason>(&now[i].entry.operation);
+        if (!season || now[i].undone == then[i].undone)
+            continue;
+        if (then[i].undone)
+            putSeasonAside(files, *season, now[i].entry.time);
+        else
+            bringSeasonBack(files, *season, now[i].entry.time);
+        moved = true;
+    }
+    return moved;
+}
+
 void takeOver(ApplicationState& state, const ApplicationState& worked) {
     state.SeasonLength = worked.SeasonLength;
     state.PlayoffMode = worked.PlayoffMode;
@@ -112,8 +130,8 @@ std::vector<Step> requireHistory(Application& app) {
     return steps;
 }
 
-/// Adds a line that changes what other lines come to.
-void apply(Application& app, const LoggedOperation& operation) {
+/// Adds a line that changes what other lines come to. True when the kept seasons are others then.
+bool carryOutLogged(Application& app, const LoggedOperation& operation) {
     LoggedChange change(app);
     std::vector<Entry> entries = readLog(app.files());
     const std::vector<Step> now = chronicleOf(entries);
@@ -122,15 +140,25 @@ void apply(Application& app, const LoggedOperation& operation) {
                        .starts = !app.state.Logged,
                        .playoffs = false,
                        .operation = operation});
+    bool movesSeason = false;
     try {
-        const TwoWays ways = workOut(app, now, chronicleOf(entries));
+        const std::vector<Step> then = chronicleOf(entries);
+        const TwoWays ways = workOut(app, now, then);
         writeDifferences(app.files(), ways.asIs->books(), ways.changed->books());
         removeEmptyCoachFolders(app.files());
+        movesSeason = moveKeptSeasons(app.files(), now, then);
         takeOver(app.state, ways.changed->state());
     } catch (const Misfit& misfit) {
         throw HistoryRefusal(misfit.what());
     }
     change.commit(operation);
+    return movesSeason;
+}
+
+/// The same, and brings what shows it up to date.
+void apply(Application& app, const LoggedOperation& operation) {
+    if (carryOutLogged(app, operation))
+        writeSeasons(app.files());
     refreshWindows(app);
 }
 
@@ -278,7 +306,7 @@ void acceptDifferences(Application& app, const Audit& audit) {
 }
 
 void repairDifferences(Application& app, const Audit& audit) {
-    backUp(app);
+    backUpByItself(app);
     Operation operation(app);
     for (const Difference& difference : audit.differences)
         put(app.files(), difference.path, difference.expected);

@@ -2,6 +2,7 @@
 
 #include "files/FileError.h"
 #include "games/BookEntry.h"
+#include "log/ChosenLength.h"
 #include "playoffs/SeasonEnd.h"
 #include "season/SeasonOperations.h"
 
@@ -113,6 +114,7 @@ struct Detail {
     std::string operator()(const StatsCleared& operation) const {
         return " " + std::string(operation.team == AllTeams ? TeamAbbr[AllTeams] : TeamName[operation.team]);
     }
+    std::string operator()(const NewSeason& operation) const { return " " + operation.name; }
     std::string operator()(const ImportRefused& operation) const { return " of " + operation.saveState; }
     std::string operator()(const GameCorrected& operation) const {
         return " " + gameTitle(operation.game, operation.game.gameNumber);
@@ -137,21 +139,24 @@ Misfit::Misfit(const Step& step, const std::string& reason)
                          ", would not hold any more: " + reason + ".") {}
 
 struct Replay::World {
-    explicit World(WindowCatalogue windows) : app(files, nowhere(), platform, windows) {}
+    World(const FileContents& baseline, WindowCatalogue windows)
+        : length(baseline), app(files, nowhere(), platform, windows) {}
     World(const World& other)
-        : files(other.files), app(files, nowhere(), platform, other.app.windows().catalogue()) {
+        : files(other.files), length(other.length),
+          app(files, nowhere(), platform, other.app.windows().catalogue()) {
         app.state = other.app.state;
     }
     World& operator=(const World&) = delete;
     ~World() = default;
 
     mutable LeagueInMemory files;
+    ChosenLength length;
     NoPlatform platform;
     mutable Application app;
 };
 
 Replay::Replay(const FileContents& baseline, WindowCatalogue catalogue)
-    : world_(std::make_unique<World>(catalogue)) {
+    : world_(std::make_unique<World>(baseline, catalogue)) {
     for (const auto& [path, content] : baseline) {
         world_->files.makeFolder(folderOf(path));
         world_->files.write(path, content, Durability::Unsynced);
@@ -173,7 +178,8 @@ namespace {
 /// Carries an operation out in memory, and what the program does of itself after it.
 class Performer {
 public:
-    Performer(Application& app, const Step& step) : app_(app), step_(step) {}
+    Performer(Application& app, const Step& step, int chosenLength)
+        : app_(app), step_(step), chosenLength_(chosenLength) {}
 
     void operator()(const GameImported& operation) const {
         perform(operation);
@@ -183,6 +189,7 @@ public:
     void operator()(const CoachRenamed& operation) const { perform(operation); }
     void operator()(const CoachDeleted& operation) const { perform(operation); }
     void operator()(const CoachCleared& operation) const { perform(operation); }
+    void operator()(const NewSeason& operation) const { perform(operation, chosenLength_); }
     void operator()(const ImportRefused& operation) const { carryOut(app_, operation); }
     void operator()(const SeasonLengthSet& operation) const { carryOut(app_, operation); }
     void operator()(const StatsCleared& operation) const { carryOut(app_, operation); }
@@ -198,15 +205,16 @@ public:
     void operator()(const GameCorrected&) const {}
 
 private:
-    template <class Kind>
-    void perform(const Kind& operation) const {
+    template <class Kind, class... More>
+    void perform(const Kind& operation, More... more) const {
         if (const auto misfit = misfitOf(app_, operation))
             throw Misfit(step_, *misfit);
-        carryOut(app_, operation);
+        carryOut(app_, operation, more...);
     }
 
     Application& app_;
     const Step& step_;
+    int chosenLength_;
 };
 
 } // namespace
@@ -219,7 +227,8 @@ void Replay::carryOut(const Step& step) {
         if (const auto* game = std::get_if<GameImported>(&step.entry.operation))
             takeRosters(app.files(), *game);
         if (!step.undone)
-            std::visit(Performer(app, step), step.entry.operation);
+            std::visit(Performer(app, step, world_->length.games()), step.entry.operation);
+        world_->length.follow(step);
     } catch (const FileError& error) {
         throw Misfit(step, error.what());
     }

@@ -92,6 +92,8 @@ private:
             return baseline->gameNumber;
         if (const auto* cleared = std::get_if<StatsCleared>(&operation))
             return cleared->team == AllTeams ? 0 : number;
+        if (is<NewSeason>(operation))
+            return 0;
         if (const auto* accepted = std::get_if<FilesAccepted>(&operation))
             for (const AcceptedFile& file : accepted->files)
                 if (file.path == paths::OverallGameNumber && file.content)

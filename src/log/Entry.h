@@ -93,6 +93,12 @@ struct StatsCleared {
     TeamIndex team; ///< AllTeams for the league
 };
 
+/// The season was kept under a name, and a new one begun.
+struct NewSeason {
+    static constexpr std::string_view What = "new-season";
+    std::string name; ///< of the season that is over
+};
+
 /// Another operation was taken back, or put in place again.
 struct Undone {
     static constexpr std::string_view What = "undo";
@@ -132,8 +138,8 @@ struct BaselineTaken {
 
 using LoggedOperation =
     std::variant<BaselineTaken, GameImported, ImportRefused, CoachAdded, CoachRenamed, CoachDeleted,
-                 CoachCleared, SeasonLengthSet, GoneToPlayoffs, PlayoffsBegun, StatsCleared, Undone, Redone,
-                 GameCorrected, FilesAccepted>;
+                 CoachCleared, SeasonLengthSet, GoneToPlayoffs, PlayoffsBegun, StatsCleared, NewSeason,
+                 Undone, Redone, GameCorrected, FilesAccepted>;
 
 /// What the log calls an operation.
 std::string_view whatOf(const LoggedOperation& operation);

@@ -109,6 +109,9 @@ template <>
 constexpr auto FieldsOf<StatsCleared> = std::tuple(field("team", &StatsCleared::team));
 
 template <>
+constexpr auto FieldsOf<NewSeason> = std::tuple(field("name", &NewSeason::name));
+
+template <>
 constexpr auto FieldsOf<Undone> = std::tuple(field("of", &Undone::of));
 
 template <>

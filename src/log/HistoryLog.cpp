@@ -88,6 +88,20 @@ std::string gameLine(const GameImported& game, int gameNumber, const std::string
     return line.str();
 }
 
+std::string seasonLine(const NewSeason& season) {
+    return "season " + season.name + "\n";
+}
+
+/// The season whose games end at the first such line from `at` on; "" when it goes on.
+std::string seasonAfter(std::string_view index, std::size_t at) {
+    constexpr std::string_view Beginning = "\nseason ";
+    const auto line = index.find(Beginning, at);
+    if (line == index.npos)
+        return "";
+    const auto name = index.substr(line + Beginning.size());
+    return std::string(name.substr(0, name.find('\n')));
+}
+
 std::string rosterLine(const std::string& abbr, const std::string& content) {
     return "roster " + abbr + " " + checksumText(content) + "\n";
 }
@@ -123,7 +137,7 @@ std::string withoutGames(const std::string& index) {
     std::istringstream lines(index);
     std::string kept;
     for (std::string line; std::getline(lines, line);)
-        if (!line.starts_with("game "))
+        if (!line.starts_with("game ") && !line.starts_with("season "))
             kept += line + "\n";
     return kept;
 }
@@ -172,6 +186,8 @@ void HistoryLog::rebuild(Files& files) {
             index_ += gameLine(*game, step.gameNumber, step.entry.time);
         if (!step.undone && emptiesBooks(step.entry.operation))
             index_ = withoutGames(index_);
+        if (const auto* season = std::get_if<NewSeason>(&step.entry.operation); season && !step.undone)
+            index_ += seasonLine(*season);
     }
     const Entry& entry = steps.back().entry;
     last_ = {entry.number, files.size(paths::HistoryLog), checksum, entry.playoffs};
@@ -224,6 +240,8 @@ void HistoryLog::append(Files& files, Entry entry) {
     }
     if (const auto* game = std::get_if<GameImported>(&entry.operation))
         index_ += rosterLines(*game) + gameLine(*game, game->gameNumber, entry.time);
+    if (const auto* season = std::get_if<NewSeason>(&entry.operation))
+        index_ += seasonLine(*season);
     index_ += lineOfLast();
     if (isRebuilt_)
         writeIndex(files);
@@ -244,6 +262,7 @@ std::optional<CountedGame> HistoryLog::find(Files& files, const std::string& fin
     words >> word >> word >> game.gameNumber >> game.time >> home >> game.homeGoals >> away >> game.awayGoals;
     game.home = TeamIndex(home);
     game.away = TeamIndex(away);
+    game.season = seasonAfter(index_, static_cast<std::size_t>(line.data() - index_.data()));
     return game;
 }
 

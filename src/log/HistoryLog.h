@@ -29,6 +29,7 @@ public:
 
 /// A game that is in the books.
 struct CountedGame {
+    std::string season; ///< the kept season that it is of; "" for the season now
     int gameNumber = 0;
     std::string time; ///< of its import, as in Entry
     TeamIndex home;

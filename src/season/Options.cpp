@@ -1,6 +1,8 @@
 #include "season/Options.h"
 
 #include "coaches/Coaches.h"
+#include "copies/Backup.h"
+#include "copies/KeptSeason.h"
 #include "files/FileError.h"
 #include "leaders/Rankings.h"
 #include "league/Numbers.h"
@@ -164,6 +166,7 @@ void Options::DeleteCoach_Click() {
         return;
     if (!confirms(app_, "Are you sure you want to delete coach " + chosenCoach() + "?"))
         return;
+    backUpByItself(app_);
     changeCoaches(CoachDeleted{chosenCoach()});
     content_.Command2Visible = false;
     changed();
@@ -215,6 +218,7 @@ void Options::Command8_Click() {
     }
     if (!confirms(app_, "Are you sure you want to reset everything back to 0?", "Reset Stats? - Yes or No"))
         return;
+    backUpByItself(app_);
     if (ClearTeamSelect < LeagueTeams)
         clearOneTeam(TeamIndex(ClearTeamSelect));
     else
@@ -227,14 +231,40 @@ void Options::clearOneTeam(TeamIndex team) {
 }
 
 void Options::clearWholeLeague() {
+    clearAll(StatsCleared{AllTeams});
+    app_.platform().say("All stats have been cleared.");
+}
+
+/// Does an operation that clears all teams, and shows the season length as it is then.
+template <class Kind>
+void Options::clearAll(const Kind& operation) {
     int length = 0;
-    perform(app_, StatsCleared{AllTeams}, [&] {
+    perform(app_, operation, [&] {
         length = readNumber16(app_.files(), paths::GamesUntilPlayoffs);
         afterClearing();
     });
     content_.CurrentSeasonLength = std::to_string(length);
     changed();
-    app_.platform().say("All stats have been cleared.");
+}
+
+bool Options::NewSeason_Click() {
+    if (const auto problem = seasonNameProblem(app_.files(), SeasonName)) {
+        app_.platform().say(*problem);
+        return false;
+    }
+    if (!confirms(app_,
+                  "Are you sure you want to keep this season as " + SeasonName + " and begin a new one?"))
+        return false;
+    backUpByItself(app_);
+    keepSeason(app_, SeasonName, [this] { clearAll(NewSeason{SeasonName}); });
+    app_.platform().say("The season is kept as " + SeasonName + ", and a new one has begun.");
+    SeasonName.clear();
+    changed();
+    return true;
+}
+
+void Options::BackUp_Click() {
+    app_.platform().say("The league has been copied to " + backUp(app_) + ".");
 }
 
 /// The tables in memory follow the files.

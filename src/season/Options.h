@@ -14,8 +14,8 @@ namespace iceline {
 /// no number from -1 to 32767.
 std::optional<int> seasonLengthOf(const std::string& typed);
 
-/// The window for what is not a game: the coaches, the length of the season, the move to the play-offs, and
-/// the clearing of statistics.
+/// The window for what is not a game: the coaches, the length of the season, the move to the play-offs, the
+/// next season, the clearing of statistics, and copies of the league.
 class Options : public Window {
 public:
     using Window::Window;
@@ -46,6 +46,10 @@ public:
     void ClearTeamSelect_Click();
     void Command8_Click(); ///< "Clear Stats"
 
+    /// "New Season": the one that is over is kept under the name in SeasonName. False when that is refused.
+    bool NewSeason_Click();
+    void BackUp_Click();
+
     const Content& content() const { return content_; }
 
     /// The coach chosen in Combo1, "" for none.
@@ -54,6 +58,7 @@ public:
     std::string NewC;                ///< text of the name input
     int Combo1 = NotChosen;          ///< position in the coach list
     std::string SeasonLength;        ///< text of the season length input
+    std::string SeasonName;          ///< text of the input for the name of a season that is over
     int ClearTeamSelect = NotChosen; ///< position in the team list: 0 to 23 a team, 24 "ALL"
 
 private:
@@ -64,6 +69,8 @@ private:
     void changeCoaches(const Kind& operation);
     void clearOneTeam(TeamIndex team);
     void clearWholeLeague();
+    template <class Kind>
+    void clearAll(const Kind& operation);
     void afterClearing();
 
     Content content_;

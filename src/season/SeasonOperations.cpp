@@ -2,6 +2,8 @@
 
 #include "books/Clearing.h"
 #include "coaches/Coaches.h"
+#include "copies/KeptSeason.h"
+#include "log/ChosenLength.h"
 #include "playoffs/SeasonEnd.h"
 #include "store/LeagueFiles.h"
 #include "store/LeaguePaths.h"
@@ -60,6 +62,21 @@ void carryOut(Application& app, const StatsCleared& operation) {
     returnToSeason(app);
 }
 
+void carryOut(Application& app, const NewSeason& operation) {
+    carryOut(app, operation, chosenLength(app.files()).games());
+}
+
+void carryOut(Application& app, const NewSeason& operation, int chosenLength) {
+    Files& files = app.files();
+    files.makeFolder(paths::keptSeason(operation.name));
+    settleKeptSeason(files);
+    clearSeason(files);
+    const int length = readNumber16(files, paths::GamesUntilPlayoffs);
+    setSeasonLength(app, length == EndedByHand ? chosenLength : length);
+    app.state.PlayoffSeries = {};
+    returnToSeason(app);
+}
+
 std::optional<std::string> misfitOf(Application& app, const CoachAdded& operation) {
     return ifThere(app, operation.coach);
 }
@@ -77,6 +94,11 @@ std::optional<std::string> misfitOf(Application& app, const CoachDeleted& operat
 
 std::optional<std::string> misfitOf(Application& app, const CoachCleared& operation) {
     return unlessThere(app, operation.coach);
+}
+
+std::optional<std::string> misfitOf(Application& app, const NewSeason& operation) {
+    const bool isThere = seasonNameProblem(app.files(), operation.name).has_value();
+    return isThere ? std::optional("there would be a season " + operation.name + " already") : std::nullopt;
 }
 
 } // namespace iceline

@@ -3,6 +3,7 @@
 #include "files/FileError.h"
 #include "players/PlayerPages.h"
 #include "shell/Application.h"
+#include "site/OldSeasons.h"
 #include "site/ReadCache.h"
 #include "site/SiteData.h"
 #include "site/SiteFeed.h"
@@ -90,6 +91,7 @@ public:
         if (!progress_.next("data/"))
             return false;
         writeSiteData(app_);
+        writeSeasons(app_.files());
         writeFeedAndMap(app_.files(), readSiteSettings(app_.files()),
                         std::chrono::floor<std::chrono::seconds>(std::chrono::system_clock::now()));
         return true;
@@ -111,7 +113,7 @@ private:
 
 } // namespace
 
-void generateWebpages(Application& app) {
+bool writeSite(Application& app) {
     app.requireChangeable();
     requireSite(app);
     bool finished = false;
@@ -123,6 +125,11 @@ void generateWebpages(Application& app) {
         const OpenWindowsAside aside(app.windows(), WindowsOfRun);
         finished = WebpageRun(app).run();
     }
+    return finished;
+}
+
+void generateWebpages(Application& app) {
+    const bool finished = writeSite(app);
     app.platform().say(
         finished ? "All Webpages have been generated and are located in the IcelineWebpages directory."
                  : "The run was stopped before all Webpages were generated.");

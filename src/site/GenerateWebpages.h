@@ -12,4 +12,7 @@ class Application;
 /// ShowWindows is True afterwards in any case.
 void generateWebpages(Application& app);
 
+/// The same without a word at its end; false when the user stopped the run.
+bool writeSite(Application& app);
+
 } // namespace iceline

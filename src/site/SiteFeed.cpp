@@ -1,5 +1,6 @@
 #include "site/SiteFeed.h"
 
+#include "files/FileTree.h"
 #include "league/TeamTable.h"
 #include "page/BoxScoreList.h"
 #include "page/PageFrame.h"
@@ -73,16 +74,6 @@ std::string feedText(const SiteSettings& settings, const std::vector<ListedGame>
     return feed.text();
 }
 
-void addPages(PageText& map, Files& files, const std::string& address, const std::string& folder) {
-    const std::string path = folder.empty() ? paths::WebRoot : paths::page(folder);
-    const std::string prefix = folder.empty() ? "" : folder + "/";
-    for (const std::string& name : files.filesIn(path))
-        if (name.ends_with(".htm"))
-            map.add("<url><loc>{}{}</loc></url>\n", address, linkText(prefix + name));
-    for (const std::string& name : files.foldersIn(path))
-        addPages(map, files, address, prefix + name);
-}
-
 void writeFeed(Files& files, const SiteSettings& settings, std::chrono::sys_seconds now) {
     const std::string feed = paths::page("feed.xml");
     const std::string list = paths::page("BoxScores.htm");
@@ -98,7 +89,9 @@ void writeMap(Files& files, const SiteSettings& settings) {
     PageText map;
     map.add("<?xml version=\"1.0\" encoding=\"utf-8\"?>\n"
             "<urlset xmlns=\"http://www.sitemaps.org/schemas/sitemap/0.9\">\n");
-    addPages(map, files, xmlText(settings.address), "");
+    for (const std::string& path : filesUnder(files, paths::WebRoot))
+        if (path.ends_with(".htm"))
+            map.add("<url><loc>{}{}</loc></url>\n", xmlText(settings.address), linkText(path));
     map.add("</urlset>\n");
     writePage(files, paths::page("sitemap.xml"), map.text());
 }

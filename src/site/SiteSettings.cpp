@@ -4,6 +4,7 @@
 #include "page/PageNames.h"
 #include "shell/Application.h"
 #include "site/SiteTemplate.h"
+#include "store/LeaguePaths.h"
 
 #include <algorithm>
 #include <fmt/core.h>
@@ -13,10 +14,8 @@ namespace iceline {
 
 namespace {
 
-const std::string SettingsFile = "Site Settings.json";
-
 [[noreturn]] void reject(const std::string& wrong) {
-    throw FileError::about(SettingsFile, wrong);
+    throw FileError::about(paths::SiteSettings, wrong);
 }
 
 /// The text between two others in a page, "" when it is not there.
@@ -32,9 +31,9 @@ std::string_view between(std::string_view page, std::string_view begin, std::str
 
 SiteSettings readSiteSettings(Files& files) {
     SiteSettings settings;
-    if (!files.isFile(SettingsFile))
+    if (!files.isFile(paths::SiteSettings))
         return settings;
-    const auto json = nlohmann::json::parse(files.read(SettingsFile), nullptr, false);
+    const auto json = nlohmann::json::parse(files.read(paths::SiteSettings), nullptr, false);
     if (!json.is_object())
         reject("is no JSON object");
     for (const auto& [key, value] : json.items()) {
@@ -66,7 +65,7 @@ void changeSiteSettings(Application& app, const SiteSettings& settings) {
     for (const SiteSetting& setting : AllSiteSettings)
         json[std::string(setting.key)] = settings.*setting.value;
     Operation operation(app);
-    app.files().write(SettingsFile,
+    app.files().write(paths::SiteSettings,
                       json.dump(2, ' ', false, nlohmann::json::error_handler_t::replace) + "\n");
     bringSiteUpToDate(app.siteTemplate(), app.files(), RemovedFiles::StayAway);
     operation.commit();

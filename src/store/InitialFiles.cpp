@@ -11,8 +11,6 @@ namespace iceline {
 
 namespace {
 
-constexpr int SeasonLengthAtStart = 82;
-
 template <int Value>
 std::string number() {
     return numberLine(Value);
@@ -52,15 +50,16 @@ const InitialFile StreakFile{paths::Streak, initialLineOf<Streak>};
 
 std::span<const InitialFile> initialLeagueFiles() {
     using enum PartOfYear;
+    using enum Lasts;
     static const std::array files{
-        InitialFile{paths::Last10Box, nothing},
+        InitialFile{paths::Last10Box, nothing, ForTheSeason},
         InitialFile{paths::GamesUntilPlayoffs, number<SeasonLengthAtStart>},
         InitialFile{paths::CrowdMeter, number<CrowdMeterAtStart>},
-        InitialFile{paths::twin(Playoffs, paths::CrowdMeter), number<CrowdMeterAtStart>, false},
-        InitialFile{"League Records.txt", initialUnusedLeagueRecordsText, false},
-        InitialFile{"Playoff League Records.txt", initialUnusedLeagueRecordsText, false},
-        InitialFile{paths::PlayoffRecords, initialSeries},
-        InitialFile{paths::OverallGameNumber, number<0>},
+        InitialFile{paths::twin(Playoffs, paths::CrowdMeter), number<CrowdMeterAtStart>, Always},
+        InitialFile{"League Records.txt", initialUnusedLeagueRecordsText, Always},
+        InitialFile{"Playoff League Records.txt", initialUnusedLeagueRecordsText, Always},
+        InitialFile{paths::PlayoffRecords, initialSeries, ForTheSeason},
+        InitialFile{paths::OverallGameNumber, number<0>, ForTheSeason},
         InitialFile{paths::allTimeGoalieRecords(Season), initialTextOf<AllTimeGoalieRecords>},
         InitialFile{paths::allTimeGoalieRecords(Playoffs), initialTextOf<AllTimeGoalieRecords>},
         InitialFile{paths::allTimePlayerRecords(Season), initialTextOf<AllTimePlayerRecords>},

@@ -22,6 +22,8 @@ inline const std::string PlayoffRecords = "Playoff Records.txt";
 inline const std::string CrowdMeter = "League Record Crowd Meter.txt";
 inline const std::string Coaches = "Coaches";
 inline const std::string WebRoot = "IcelineWebPages";
+inline const std::string Seasons = "Seasons";
+inline const std::string SiteSettings = "Site Settings.json";
 
 /// Names of the files that a team has once for each part of the year, and a coach once.
 inline const std::string Records = "Records.txt";
@@ -68,9 +70,19 @@ inline std::string coachesLeagueRecords(PartOfYear part) {
     return twin(part, "Coaches League Records.txt");
 }
 
+/// The copy of a season that is over.
+inline std::string keptSeason(const std::string& name) {
+    return Seasons + "/" + name;
+}
+
 /// A page or folder of the web site.
 inline std::string page(const std::string& name) {
     return WebRoot + "/" + name;
+}
+
+/// The site of a season that is over.
+inline std::string oldSeasonSite(const std::string& name) {
+    return page(keptSeason(name));
 }
 
 } // namespace paths

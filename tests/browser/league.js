@@ -11,3 +11,6 @@ export const site = path.join(league, 'IcelineWebPages');
 
 /** Two coaches with games and a page each, and one whom nobody has chosen. */
 export const coaches = {home: 'Ann_Pike', away: 'Bo_Larsen', idle: 'Cy_Moss'};
+
+/** The season that was kept before the one that is played; its name needs every kind of care in a link. */
+export const seasonBefore = '1993 & 94';

@@ -20,7 +20,7 @@ const attributes = (name, nodes) => DomUtils.find((node) => node.attribs?.[name]
 const files = new Set(filesOf(site));
 const textOf = (file) => readFileSync(path.join(site, file), 'utf8');
 /** The pages and the rows; team.php is code that the pages of PHP share. */
-const documents = new Map([...files].filter((file) => /(?<!^team)\.(htm|php)$/.test(file)).map((file) =>
+const documents = new Map([...files].filter((file) => /(?<!^(?:Seasons\/[^/]+\/)?team)\.(htm|php)$/.test(file)).map((file) =>
   [file, parseDocument(textOf(file))]));
 
 /** The teams that a page offers, by abbreviation. */
@@ -82,7 +82,7 @@ test('a link leads to a file, but for the cards of players without one and coach
   const misses = [...targets].flatMap(([file, names]) =>
     [...names].filter((name) => !files.has(name)).map((name) => `${file} -> ${name}`));
   const cards = [...files].flatMap((file) => {
-    const player = /^PlayoffProfiles\/\w+\/(?!index\.htm$)(.+)\.htm$/.exec(file)?.[1];
+    const player = /^(?:Seasons\/[^/]+\/)?PlayoffProfiles\/\w+\/(?!index\.htm$)(.+)\.htm$/.exec(file)?.[1];
     return player && !files.has(`PlayerCards/${player}.gif`) ? [`${file} -> PlayerCards/${player}.gif`] : [];
   });
   assert.ok(cards.length > 400, `${cards.length} play-off profiles`);

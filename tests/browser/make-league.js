@@ -6,7 +6,7 @@ import assert from 'node:assert/strict';
 import {spawnSync} from 'node:child_process';
 import {mkdirSync, rmSync} from 'node:fs';
 import path from 'node:path';
-import {coaches, league, program} from './league.js';
+import {coaches, league, program, seasonBefore} from './league.js';
 
 const CYCLE = 276;
 const games = path.join(league, 'games');
@@ -20,9 +20,12 @@ function iceline(args, {input, status = 0} = {}) {
 rmSync(league, {recursive: true, force: true});
 mkdirSync(league, {recursive: true});
 iceline(['sample-games', games, '--games', String(8 * CYCLE), '--seed', '7']);
+iceline(['sample-games', `${games} before`, '--games', '30', '--seed', '8']);
+iceline(['init']);
+iceline(['import-folder', `${games} before`]);
+iceline(['new-season', seasonBefore]);
 iceline(['script', '-'], {
   input: `
-    init
     season-length 23
     coach add ${coaches.home}
     coach add ${coaches.away}

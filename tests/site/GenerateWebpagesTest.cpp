@@ -93,7 +93,7 @@ TEST(GenerateWebpages, WritesTheWholeSiteAndSaysSo) {
                 ElementsAre(".delivered-versions", "AllTimeRecords.htm", "BoxScores.htm", "CoachingStats.htm",
                             "ConferenceStandings.htm", "DivisionStandings.htm", "HomeAwayStandings.htm",
                             "index.htm", "PlayoffAllTimeRecords.htm", "Playoffs.htm", "PlayoffTree.htm",
-                            "styles.css", "vsConfStandings.htm"));
+                            "Seasons.htm", "styles.css", "vsConfStandings.htm"));
     EXPECT_EQ(filesIn(league, "Rankings"), 70u);
     EXPECT_EQ(filesIn(league, "PlayoffRankings"), 70u);
     EXPECT_EQ(filesIn(league, "PStats"), 24u * 58 + 1);

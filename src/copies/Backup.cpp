@@ -1,4 +1,4 @@
-#include "history/Backup.h"
+#include "copies/Backup.h"
 
 #include "log/EntryText.h"
 #include "playoffs/SeasonEnd.h"
@@ -26,15 +26,19 @@ FileContents wholeLeague(Files& files) {
     return copy;
 }
 
-void dropOldest(Files& files) {
+/// How the names of copies begin: of those that a user asks for, and of those that are made by themselves.
+constexpr std::string_view AskedFor = "League";
+constexpr std::string_view Automatic = "Automatic";
+
+void dropOldestAutomatic(Files& files) {
     std::vector<std::string> names = files.filesIn(BackupFolder);
-    for (std::size_t i = 0; i + BackupsKept < names.size(); ++i)
+    std::erase_if(names, [](const std::string& name) { return !name.starts_with(Automatic); });
+    for (std::size_t i = 0; i + AutomaticBackupsKept < names.size(); ++i)
         files.remove(BackupFolder + "/" + names[i]);
 }
 
 /// A name that no file of the folder has yet.
-std::string freeName(Files& files, const std::string& folder, const std::string& time) {
-    std::string stem = folder + "/League " + time;
+std::string freeName(Files& files, std::string stem) {
     std::ranges::replace(stem, ':', '-');
     std::string path = stem + ".json";
     for (int number = 2; files.isFile(path); ++number)
@@ -51,26 +55,36 @@ FileContents readCopy(Files& files, const std::string& path) {
     return copy;
 }
 
-} // namespace
-
-std::string backUp(Application& app, const std::string& folder) {
+/// Writes a copy whose name begins so, and returns its path.
+std::string writeCopy(Application& app, const std::string& folder, std::string_view beginning) {
     Files& files = app.files();
     FileContents copy = wholeLeague(files);
     copy[ChecksumName] = checksumText(textOfFiles(copy));
     const std::string content = textOfFiles(copy);
     files.makeFolder(folder);
-    std::string path = freeName(files, folder, utcText(app.platform().now()));
+    std::string path =
+        freeName(files, folder + "/" + std::string(beginning) + " " + utcText(app.platform().now()));
     files.write(path, content, Durability::Now);
     if (files.read(path) != content)
         throw FileError::about(path, "what was written there is not what can be read");
-    if (folder == BackupFolder)
-        dropOldest(files);
+    return path;
+}
+
+} // namespace
+
+std::string backUp(Application& app, const std::string& folder) {
+    return writeCopy(app, folder, AskedFor);
+}
+
+std::string backUpByItself(Application& app) {
+    std::string path = writeCopy(app, BackupFolder, Automatic);
+    dropOldestAutomatic(app.files());
     return path;
 }
 
 std::string restore(Application& app, const std::string& copy) {
     const FileContents whole = readCopy(app.files(), copy);
-    std::string former = backUp(app);
+    std::string former = backUpByItself(app);
     Operation operation(app);
     Files& files = app.files();
     for (const auto& [path, content] : wholeLeague(files))

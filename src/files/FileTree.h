@@ -1,0 +1,17 @@
+#pragma once
+
+#include "files/Files.h"
+
+#include <string>
+#include <vector>
+
+namespace iceline {
+
+/// The files in a folder and all folders in it, by their paths within it: of each folder its files before
+/// those of its sub-folders. Empty when there is no such folder.
+std::vector<std::string> filesUnder(Files& files, const std::string& folder);
+
+/// Removes a folder with everything in it; nothing happens when there is none.
+void removeTree(Files& files, const std::string& folder);
+
+} // namespace iceline
