@@ -5,6 +5,7 @@
 #include "copies/Backup.h"
 #include "history/History.h"
 #include "log/EntryText.h"
+#include "page/DataTable.h"
 
 #include <nlohmann/json.hpp>
 
@@ -68,34 +69,32 @@ Json jsonOfRow(const HistoryRow& row) {
     return object;
 }
 
-/// An item of a CSV line: in double quotes where it has to be.
-std::string csvItem(const std::string& text) {
-    if (text.find_first_of(",\"\r\n") == std::string::npos)
-        return text;
-    std::string quoted = "\"";
-    for (const char c : text)
-        quoted += c == '"' ? std::string("\"\"") : std::string(1, c);
-    return quoted + "\"";
+void addField(DataTable& table, const Json& object, std::string_view name) {
+    const auto field = object.find(name);
+    if (field == object.end())
+        table.blank();
+    else if (field->is_string())
+        table.text(field->get<std::string>());
+    else if (field->is_boolean())
+        table.flag(field->get<bool>());
+    else
+        table.number(field->get<double>());
 }
 
 void printCsv(const std::vector<HistoryRow>& rows, std::ostream& out) {
-    static constexpr std::array Columns{"number", "time", "what",      "undone",    "game",      "part",
-                                        "home",   "away", "homeGoals", "awayGoals", "homeCoach", "awayCoach",
-                                        "coach",  "to",   "length",    "team"};
-    for (const char* column : Columns)
-        out << (column == Columns.front() ? "" : ",") << column;
-    out << "\r\n";
+    static constexpr std::array<std::string_view, 16> Columns{
+        "number",    "time",      "what",      "undone",    "game",  "part", "home",   "away",
+        "homeGoals", "awayGoals", "homeCoach", "awayCoach", "coach", "to",   "length", "team"};
+    DataTable table{};
+    for (const std::string_view column : Columns)
+        table.addColumn(column);
     for (const HistoryRow& row : rows) {
         const Json object = jsonOfRow(row);
-        for (const char* column : Columns) {
-            const auto field = object.find(column);
-            const std::string text = field == object.end() ? ""
-                                     : field->is_string()  ? field->get<std::string>()
-                                                           : field->dump();
-            out << (column == Columns.front() ? "" : ",") << csvItem(text);
-        }
-        out << "\r\n";
+        for (const std::string_view column : Columns)
+            addField(table, object, column);
+        table.endRow();
     }
+    out << table.csv();
 }
 
 void printTable(const std::vector<HistoryRow>& rows, std::ostream& out) {

@@ -1,5 +1,6 @@
 #include "app/WelcomeWindow.h"
 #include "cli/Command.h"
+#include "export/DataExport.h"
 #include "site/SiteSettings.h"
 #include "site/SiteTemplate.h"
 #include "store/LeaguePaths.h"
@@ -28,6 +29,12 @@ Status publish(Session& session, const NoArguments&) {
         WelcomeWindow(session.app()).Command1_Click();
         return Status::Done;
     });
+}
+
+Status exportTo(Session& session, const std::string& given) {
+    const std::string folder = absolutePath(given);
+    session.out() << exportData(session.app(), folder) << " files are in " << folder << '\n';
+    return Status::Done;
 }
 
 struct SettingArguments {
@@ -64,6 +71,10 @@ void addLeagueCommands(CLI::App& program, Call& call) {
                "Create what the league lacks, and bring the site's files up to date that it has not changed",
                init);
     addCommand(program, call, "publish", "Rewrite the whole web site from the league's files", publish);
+    const auto [exportCommand, folder] = addCommand<std::string>(
+        program, call, "export", "Write the league's data as CSV and JSON for other programs", exportTo,
+        Works::Looking);
+    addArgument(*exportCommand, "DIR", *folder, "the folder for them, made when missing");
     const auto [command, arguments] = addCommand<SettingArguments>(
         program, call, "site-settings", "Show what the site tells of the league, or set it", siteSettings);
     command->add_option("KEY", arguments->key, "name, address or description")->type_name("");

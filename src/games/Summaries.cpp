@@ -199,6 +199,11 @@ std::string columnText(std::string_view head, const GameReport& report, const st
 
 } // namespace
 
+std::string_view infractionName(int typeByte) {
+    const InfractionText* infraction = infractionText(typeByte);
+    return infraction ? infraction->name : "";
+}
+
 std::string scoringSummaryText(const GameReport& report) {
     return columnText("Per Time Team             Goal/Assist                                     P/S", report,
                       report.goals, windowGoal);

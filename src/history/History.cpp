@@ -1,13 +1,15 @@
 #include "history/History.h"
 
+#include "export/DataExport.h"
 #include "files/FileError.h"
 #include "games/BookEntry.h"
+#include "log/KnownRosters.h"
 #include "shell/Application.h"
-#include "store/PlayerFiles.h"
 #include "text/Names.h"
 
 #include <algorithm>
 #include <iterator>
+#include <set>
 
 namespace iceline {
 
@@ -25,7 +27,7 @@ HistoryRow rowOf(const Step& step) {
 
 /// The coaches that an operation names.
 struct CoachesOf {
-    using Names = std::vector<std::string>;
+    using Names = std::set<std::string>;
 
     Names operator()(const CoachAdded& operation) const { return {operation.coach}; }
     Names operator()(const CoachRenamed& operation) const { return {operation.coach, operation.to}; }
@@ -53,21 +55,19 @@ bool isBy(const HistoryRow& row, const std::string& coach) {
     return std::ranges::any_of(coaches, [&](const auto& name) { return sameName(name, coach); });
 }
 
+/// All coaches that the operations name, in the order of their names.
+std::vector<std::string> coachesOf(const std::vector<HistoryRow>& rows) {
+    std::set<std::string> coaches;
+    for (const HistoryRow& row : rows)
+        coaches.merge(std::visit(CoachesOf(), row.step.entry.operation));
+    coaches.erase("");
+    return {coaches.begin(), coaches.end()};
+}
+
 bool contains(const std::string& text, const std::string& part) {
     const auto sameLetter = [](char a, char b) { return sameName({&a, 1}, {&b, 1}); };
     return std::search(text.begin(), text.end(), part.begin(), part.end(), sameLetter) != text.end() ||
            part.empty();
-}
-
-/// A team's roster as the history knows it when it comes to an operation.
-Roster rosterAt(const std::vector<Step>& steps, const FileContents& baseline, TeamIndex team, int number) {
-    const std::string path = paths::playersList(team);
-    std::string roster = baseline.at(path);
-    for (const Step& step : steps)
-        if (const auto* game = std::get_if<GameImported>(&step.entry.operation);
-            game && step.entry.number <= number && game->rosters.contains(std::string(TeamAbbr[team])))
-            roster = game->rosters.at(std::string(TeamAbbr[team]));
-    return rosterFromText(path, roster);
 }
 
 } // namespace
@@ -84,6 +84,7 @@ void History::Form_Load() {
     for (const Step& step : steps)
         if (isShown(step))
             all_.push_back(rowOf(step));
+    content_.coaches = coachesOf(all_);
     content_.canUndo = lastToUndo(steps).has_value();
     content_.canRedo = lastToRedo(steps).has_value();
     showFiltered();
@@ -128,15 +129,24 @@ bool History::Correct_Click(int number, const Correction& correction) {
     return carryOut([&] { return correct(app_, number, correction); });
 }
 
+void History::Export_Click() {
+    const auto folder = app_.platform().chooseFolder("Select folder to export to");
+    if (!folder)
+        return;
+    const int files = exportData(app_, *folder);
+    app_.platform().say(std::to_string(files) + " files are in " + *folder + ".");
+}
+
 std::optional<GameReport> History::report(int number) {
     const auto row = std::ranges::find(all_, number, &HistoryRow::number);
     const GameImported* game = row == all_.end() ? nullptr : row->game();
     if (!game)
         return std::nullopt;
-    const std::vector<Step> steps = readHistory(app_.files());
-    const FileContents baseline = readBaseline(app_.files());
-    return reportOf(*game, {rosterAt(steps, baseline, game->sheet.home.team, number),
-                            rosterAt(steps, baseline, game->sheet.away.team, number)});
+    KnownRosters rosters(readBaseline(app_.files()));
+    for (const Step& step : readHistory(app_.files()))
+        if (step.entry.number <= number)
+            rosters.take(step);
+    return reportOf(*game, rosters.of(game->sheet));
 }
 
 } // namespace iceline

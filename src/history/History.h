@@ -38,7 +38,8 @@ public:
     using Window::Window;
 
     struct Content {
-        std::vector<HistoryRow> rows; ///< oldest first, those that the filter lets through
+        std::vector<HistoryRow> rows;     ///< oldest first, those that the filter lets through
+        std::vector<std::string> coaches; ///< all that the history names
         bool canUndo = false;
         bool canRedo = false;
     };
@@ -54,6 +55,9 @@ public:
     bool Undo_Click(std::optional<int> number);
     bool Redo_Click();
     bool Correct_Click(int number, const Correction& correction);
+
+    /// Writes the league's data into a folder that the user picks, see exportData(), and says so.
+    void Export_Click();
 
     /// The report of a game as the game window showed it; none when the operation is no game.
     std::optional<GameReport> report(int number);

@@ -86,4 +86,10 @@ std::string itemText(double value) {
     return " " + text + " ";
 }
 
+double leadingNumber(std::string_view text) {
+    double value = 0;
+    std::from_chars(text.data(), text.data() + text.size(), value);
+    return value;
+}
+
 } // namespace iceline

@@ -50,4 +50,7 @@ std::string numberText(double value);
 /// " .875 ".
 std::string itemText(double value);
 
+/// The number that a text begins with; 0 where it begins with none.
+double leadingNumber(std::string_view text);
+
 } // namespace iceline

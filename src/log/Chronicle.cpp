@@ -90,9 +90,7 @@ private:
     static int numberAfter(const LoggedOperation& operation, int number) {
         if (const auto* baseline = std::get_if<BaselineTaken>(&operation))
             return baseline->gameNumber;
-        if (const auto* cleared = std::get_if<StatsCleared>(&operation))
-            return cleared->team == AllTeams ? 0 : number;
-        if (is<NewSeason>(operation))
+        if (emptiesBooks(operation))
             return 0;
         if (const auto* accepted = std::get_if<FilesAccepted>(&operation))
             for (const AcceptedFile& file : accepted->files)
@@ -130,6 +128,22 @@ std::optional<int> lastToRedo(const std::vector<Step>& steps) {
             if (steps.at(static_cast<std::size_t>(undo->of)).undone)
                 return undo->of;
     return std::nullopt;
+}
+
+bool emptiesBooks(const LoggedOperation& operation) {
+    const auto* cleared = std::get_if<StatsCleared>(&operation);
+    return is<NewSeason>(operation) || (cleared && cleared->team == AllTeams);
+}
+
+std::vector<const Step*> gamesInBooks(const std::vector<Step>& steps) {
+    std::vector<const Step*> games;
+    for (const Step& step : steps) {
+        if (gameAt(step))
+            games.push_back(&step);
+        if (!step.undone && emptiesBooks(step.entry.operation))
+            games.clear();
+    }
+    return games;
 }
 
 const GameImported* gameAt(const Step& step) {

@@ -27,6 +27,12 @@ bool canBeUndone(const LoggedOperation& operation);
 std::optional<int> lastToUndo(const std::vector<Step>& steps);
 std::optional<int> lastToRedo(const std::vector<Step>& steps);
 
+/// Whether the operation takes all games out of the books.
+bool emptiesBooks(const LoggedOperation& operation);
+
+/// The steps of the games that are in the books after the last of them all.
+std::vector<const Step*> gamesInBooks(const std::vector<Step>& steps);
+
 /// The import in place at that step; null when the step is none, or undone.
 const GameImported* gameAt(const Step& step);
 

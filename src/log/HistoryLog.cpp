@@ -102,6 +102,18 @@ std::string seasonAfter(std::string_view index, std::size_t at) {
     return std::string(name.substr(0, name.find('\n')));
 }
 
+CountedGame gameOfLine(std::string_view line) {
+    std::istringstream words{std::string(line)};
+    std::string word;
+    CountedGame game;
+    int home = 0;
+    int away = 0;
+    words >> word >> word >> game.gameNumber >> game.time >> home >> game.homeGoals >> away >> game.awayGoals;
+    game.home = TeamIndex(home);
+    game.away = TeamIndex(away);
+    return game;
+}
+
 std::string rosterLine(const std::string& abbr, const std::string& content) {
     return "roster " + abbr + " " + checksumText(content) + "\n";
 }
@@ -122,15 +134,15 @@ std::string_view lastLineWith(std::string_view index, const std::string& beginni
     return index.substr(at, index.find('\n', at) - at);
 }
 
-bool emptiesBooks(const LoggedOperation& operation) {
-    const auto* cleared = std::get_if<StatsCleared>(&operation);
-    return cleared && cleared->team == AllTeams;
-}
-
 /// Whether the line says something about lines before it.
 bool changesOthers(const LoggedOperation& operation) {
     return std::holds_alternative<Undone>(operation) || std::holds_alternative<Redone>(operation) ||
            std::holds_alternative<GameCorrected>(operation);
+}
+
+/// Whether no game of before counts as known any more. Those of an older season do.
+bool forgetsGames(const LoggedOperation& operation) {
+    return emptiesBooks(operation) && !std::holds_alternative<NewSeason>(operation);
 }
 
 std::string withoutGames(const std::string& index) {
@@ -184,7 +196,7 @@ void HistoryLog::rebuild(Files& files) {
             index_ += rosterLines(*game);
         if (const GameImported* game = gameAt(step))
             index_ += gameLine(*game, step.gameNumber, step.entry.time);
-        if (!step.undone && emptiesBooks(step.entry.operation))
+        if (!step.undone && forgetsGames(step.entry.operation))
             index_ = withoutGames(index_);
         if (const auto* season = std::get_if<NewSeason>(&step.entry.operation); season && !step.undone)
             index_ += seasonLine(*season);
@@ -234,7 +246,7 @@ void HistoryLog::append(Files& files, Entry entry) {
     }
     last_ = {entry.number, files.size(paths::HistoryLog), line.checksum, entry.playoffs};
     const std::uintmax_t known = files.size(paths::HistoryIndex);
-    if (emptiesBooks(entry.operation)) {
+    if (forgetsGames(entry.operation)) {
         index_ = withoutGames(index_);
         isRebuilt_ = true;
     }
@@ -254,16 +266,28 @@ std::optional<CountedGame> HistoryLog::find(Files& files, const std::string& fin
     const std::string_view line = lastLineWith(index_, "game " + fingerprint + " ");
     if (line.empty())
         return std::nullopt;
-    std::istringstream words{std::string(line)};
-    std::string word;
-    CountedGame game;
-    int home = 0;
-    int away = 0;
-    words >> word >> word >> game.gameNumber >> game.time >> home >> game.homeGoals >> away >> game.awayGoals;
-    game.home = TeamIndex(home);
-    game.away = TeamIndex(away);
+    CountedGame game = gameOfLine(line);
     game.season = seasonAfter(index_, static_cast<std::size_t>(line.data() - index_.data()));
     return game;
+}
+
+GameTimes HistoryLog::timesOfGames(Files& files) {
+    GameTimes times;
+    try {
+        open(files);
+    } catch (const DamagedHistory&) {
+        return times;
+    }
+    std::istringstream lines(index_);
+    for (std::string line; std::getline(lines, line);) {
+        if (line.starts_with("game ")) {
+            const CountedGame game = gameOfLine(line);
+            times[game.gameNumber] = game.time;
+        } else if (line.starts_with("season ")) {
+            times.clear();
+        }
+    }
+    return times;
 }
 
 bool HistoryLog::playoffs(Files& files) {

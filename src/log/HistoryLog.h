@@ -7,6 +7,7 @@
 #include "log/Entry.h"
 
 #include <cstdint>
+#include <map>
 #include <optional>
 #include <string>
 #include <vector>
@@ -20,6 +21,9 @@ inline const std::string HistoryLog = "History/Log.jsonl";
 inline const std::string HistoryBaseline = "History/Baseline.json";
 inline const std::string HistoryIndex = "History/Index.txt";
 } // namespace paths
+
+/// When each game in the books was imported, as in Entry, by its number.
+using GameTimes = std::map<int, std::string>;
 
 /// The log or what belongs to it is not as it was written. what() names the line and the reason.
 class DamagedHistory : public FileError {
@@ -55,6 +59,9 @@ public:
 
     /// The game of these figures, when it is in the books.
     std::optional<CountedGame> find(Files& files, const std::string& fingerprint);
+
+    /// The times of all games in the books whose import the log tells of; none where the log is damaged.
+    GameTimes timesOfGames(Files& files);
 
     /// Whether the play-offs were on at the last line.
     bool playoffs(Files& files);

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "league/PartOfYear.h"
-#include "site/DataTable.h"
+#include "page/DataTable.h"
 
 namespace iceline {
 

@@ -90,9 +90,10 @@ public:
         }
         if (!progress_.next("data/"))
             return false;
-        writeSiteData(app_);
+        const GameTimes times = app_.log().timesOfGames(app_.files());
+        writeSiteData(app_, times);
         writeSeasons(app_.files());
-        writeFeedAndMap(app_.files(), readSiteSettings(app_.files()),
+        writeFeedAndMap(app_.files(), readSiteSettings(app_.files()), times,
                         std::chrono::floor<std::chrono::seconds>(std::chrono::system_clock::now()));
         return true;
     }

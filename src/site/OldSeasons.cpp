@@ -3,7 +3,7 @@
 #include "files/FileTree.h"
 #include "page/PageFrame.h"
 #include "page/PageNames.h"
-#include "site/DataTable.h"
+#include "page/DataTable.h"
 #include "site/SiteSettings.h"
 #include "store/LeaguePaths.h"
 

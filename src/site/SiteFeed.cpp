@@ -1,10 +1,12 @@
 #include "site/SiteFeed.h"
 
 #include "files/FileTree.h"
+#include "league/Numbers.h"
 #include "league/TeamTable.h"
 #include "page/BoxScoreList.h"
 #include "page/PageFrame.h"
 #include "page/PageNames.h"
+#include "shell/LoggedChange.h"
 #include "store/LeaguePaths.h"
 
 #include <algorithm>
@@ -16,15 +18,6 @@ namespace iceline {
 namespace {
 
 constexpr std::ptrdiff_t GamesInFeed = 20;
-
-std::string timeText(std::chrono::sys_seconds time) {
-    const auto days = std::chrono::floor<std::chrono::days>(time);
-    const std::chrono::year_month_day date(days);
-    const std::chrono::hh_mm_ss clock(time - days);
-    return fmt::format("{:04}-{:02}-{:02}T{:02}:{:02}:{:02}Z", static_cast<int>(date.year()),
-                       static_cast<unsigned>(date.month()), static_cast<unsigned>(date.day()),
-                       clock.hours().count(), clock.minutes().count(), clock.seconds().count());
-}
 
 /// The times of the games in a feed, by their entries' ids.
 std::map<std::string, std::string> timesIn(std::string_view feed) {
@@ -48,17 +41,31 @@ std::string_view fullName(std::string_view abbr) {
     return index < TeamName.size() ? TeamName[TeamIndex(static_cast<int>(index))] : abbr;
 }
 
+/// When games were imported, or told of first.
+struct TimesOfFeed {
+    const GameTimes& imported;
+    std::map<std::string, std::string> told; ///< by the ids of the feed's entries
+    std::string now;
+
+    std::string of(std::string_view number, const std::string& id) const {
+        if (const auto known = imported.find(static_cast<int>(leadingNumber(number)));
+            known != imported.end())
+            return known->second;
+        const auto known = told.find(id);
+        return known != told.end() ? known->second : now;
+    }
+};
+
 /// There is a game at least.
 std::string feedText(const SiteSettings& settings, const std::vector<ListedGame>& games,
-                     const std::map<std::string, std::string>& known, const std::string& now) {
+                     const TimesOfFeed& times) {
     const std::string address = xmlText(settings.address);
     PageText entries;
     std::string latest;
     for (auto game = games.rbegin(); game != games.rend() && game - games.rbegin() < GamesInFeed; ++game) {
         const std::string page = markup("{}BoxScores/{}", address, game->page);
         const std::string id = markup("{}#{}", page, game->number);
-        const auto told = known.find(id);
-        const std::string& time = told != known.end() ? told->second : now;
+        const std::string time = times.of(game->number, id);
         latest = std::max(latest, time);
         entries.add("<entry>\n<id>{}</id>\n<updated>{}</updated>\n", id, time);
         entries.add("<title>{} {}, {} {}</title>\n", fullName(game->away), game->awayGoals,
@@ -74,7 +81,8 @@ std::string feedText(const SiteSettings& settings, const std::vector<ListedGame>
     return feed.text();
 }
 
-void writeFeed(Files& files, const SiteSettings& settings, std::chrono::sys_seconds now) {
+void writeFeed(Files& files, const SiteSettings& settings, const GameTimes& times,
+               std::chrono::sys_seconds now) {
     const std::string feed = paths::page("feed.xml");
     const std::string list = paths::page("BoxScores.htm");
     const std::string listText = files.isFile(list) ? files.read(list) : "";
@@ -82,7 +90,7 @@ void writeFeed(Files& files, const SiteSettings& settings, std::chrono::sys_seco
     if (games.empty())
         return;
     const std::string before = files.isFile(feed) ? files.read(feed) : "";
-    writePage(files, feed, feedText(settings, games, timesIn(before), timeText(now)));
+    writePage(files, feed, feedText(settings, games, {times, timesIn(before), utcText(now)}));
 }
 
 void writeMap(Files& files, const SiteSettings& settings) {
@@ -98,10 +106,11 @@ void writeMap(Files& files, const SiteSettings& settings) {
 
 } // namespace
 
-void writeFeedAndMap(Files& files, const SiteSettings& settings, std::chrono::sys_seconds now) {
+void writeFeedAndMap(Files& files, const SiteSettings& settings, const GameTimes& times,
+                     std::chrono::sys_seconds now) {
     if (settings.name.empty() || settings.address.empty())
         return;
-    writeFeed(files, settings, now);
+    writeFeed(files, settings, times, now);
     writeMap(files, settings);
 }
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "files/Files.h"
+#include "log/HistoryLog.h"
 #include "site/SiteSettings.h"
 
 #include <chrono>
@@ -8,8 +8,10 @@
 namespace iceline {
 
 /// Writes `feed.xml`, an Atom feed of the latest games, and `sitemap.xml`, the addresses of all pages, for a
-/// league that has given the name and the address of its site. A game's time in the feed is that of the first
-/// run that told of it, which is `now` for a new one.
-void writeFeedAndMap(Files& files, const SiteSettings& settings, std::chrono::sys_seconds now);
+/// league that has given the name and the address of its site. A game's time in the feed is that of its
+/// import; where `times` does not know it, that of the first run that told of the game, which is `now` for a
+/// new one.
+void writeFeedAndMap(Files& files, const SiteSettings& settings, const GameTimes& times,
+                     std::chrono::sys_seconds now);
 
 } // namespace iceline

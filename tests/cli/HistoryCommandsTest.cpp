@@ -63,5 +63,52 @@ TEST_F(HistoryCommandsTest, AnEveningIsMended) {
     EXPECT_EQ(read("Overall Game Number.txt"), "2\r\n");
 }
 
+TEST_F(HistoryCommandsTest, TheExportedTablesAgreeWithEachOther) {
+    ASSERT_EQ(iceline({"coach", "add", "Stone, Ann"}).status, 0);
+    for (const int number : {1, 2, 3})
+        ASSERT_EQ(iceline({"import", game(number), "--home-coach", "Stone, Ann"}).status, 0);
+    ASSERT_EQ(iceline({"undo"}).status, 0);
+    const std::string folder = league().string() + "/data";
+    ASSERT_EQ(iceline({"export", folder}).status, 0);
+
+    const auto table = [&](const std::string& name) {
+        return nlohmann::json::parse(read("data/" + name + ".json"));
+    };
+    /// A column's values, row by row.
+    const auto column = [](const nlohmann::json& from, const std::string& name) {
+        const auto& columns = from.at("columns");
+        const auto index =
+            static_cast<std::size_t>(std::find(columns.begin(), columns.end(), name) - columns.begin());
+        std::vector<nlohmann::json> values;
+        for (const auto& row : from.at("rows"))
+            values.push_back(row.at(index));
+        return values;
+    };
+    const auto sum = [&](const std::string& name, const std::string& of) {
+        int total = 0;
+        for (const auto& value : column(table(name), of))
+            total += value.get<int>();
+        return total;
+    };
+    EXPECT_THAT(column(table("games"), "number"), testing::ElementsAre(1, 2)) << "the third is undone";
+    const int goals = sum("games", "home goals") + sum("games", "away goals");
+    EXPECT_EQ(table("goals").at("rows").size(), static_cast<std::size_t>(goals));
+    EXPECT_EQ(sum("standings", "GF"), goals);
+    EXPECT_EQ(sum("skaters", "G"), goals);
+    EXPECT_EQ(sum("penalties", "minutes"),
+              sum("games", "home penalty minutes") + sum("games", "away penalty minutes"));
+    EXPECT_THAT(column(table("coaches"), "coach"), testing::ElementsAre("Stone,_Ann"));
+    EXPECT_THAT(read("data/coaches.csv"), HasSubstr("\r\n\"Stone,_Ann\",1,1,0,2,"));
+
+    ASSERT_EQ(iceline({"publish"}).status, 0);
+    const auto published = nlohmann::json::parse(read("IcelineWebPages/data/games.json"));
+    EXPECT_EQ(column(published, "date"), column(table("games"), "time"));
+
+    write("data/games.csv", "mine");
+    write("History/Log.jsonl", "damaged");
+    EXPECT_EQ(iceline({"export", folder}).status, 1);
+    EXPECT_EQ(read("data/games.csv"), "mine");
+}
+
 } // namespace
 } // namespace iceline::cli

@@ -1,29 +1,20 @@
-#include "site/DataTable.h"
+#include "page/DataTable.h"
 
-#include "files/Files.h"
 #include "league/Numbers.h"
-#include "page/PageFrame.h"
-#include "store/LeaguePaths.h"
+#include "text/Text.h"
 
 #include <fmt/core.h>
+#include <nlohmann/json.hpp>
 
 namespace iceline {
 
 namespace {
 
-std::string jsonText(std::string_view text) {
-    std::string quoted = "\"";
-    for (const char c : text) {
-        if (c == '"' || c == '\\')
-            quoted += '\\';
-        if (static_cast<unsigned char>(c) < 0x20)
-            quoted += fmt::format("\\u{:04x}", static_cast<unsigned>(c));
-        else
-            quoted += c;
-    }
-    return quoted += '"';
+std::string jsonText(const std::string& text) {
+    return nlohmann::json(text).dump();
 }
 
+/// An item of a CSV line: in double quotes where it has to be.
 std::string csvText(std::string_view text) {
     if (text.find_first_of(",\"\r\n") == std::string_view::npos)
         return std::string(text);
@@ -36,7 +27,7 @@ std::string csvText(std::string_view text) {
 } // namespace
 
 void DataTable::addColumn(std::string_view name) {
-    columns_ += (columns_.empty() ? "" : ", ") + jsonText(name);
+    columns_ += (columns_.empty() ? "" : ", ") + jsonText(std::string(name));
     csv_.insert(csv_.empty() ? 0 : csv_.size() - 2, (csv_.empty() ? "" : ",") + csvText(name));
     if (!csv_.ends_with("\r\n"))
         csv_ += "\r\n";
@@ -48,7 +39,8 @@ DataTable& DataTable::number(double value) {
 }
 
 DataTable& DataTable::text(std::string_view value) {
-    return add(jsonText(value), csvText(value));
+    const std::string text = textOfFile(std::string(value));
+    return add(jsonText(text), csvText(text));
 }
 
 DataTable& DataTable::add(std::string_view json, std::string_view csv) {
@@ -69,12 +61,6 @@ DataTable& DataTable::endRow() {
 
 std::string DataTable::json() const {
     return fmt::format("{{\"columns\": [{}],\n\"rows\": [\n{}\n]}}\n", columns_, rows_);
-}
-
-void writeData(Files& files, const std::string& name, const DataTable& table) {
-    const std::string stem = paths::page("data/" + name);
-    writePage(files, stem + ".json", table.json());
-    writePage(files, stem + ".csv", table.csv());
 }
 
 } // namespace iceline
