@@ -1,6 +1,9 @@
 #include "page/DataTable.h"
 
+#include "files/Files.h"
 #include "league/Numbers.h"
+#include "page/PageFrame.h"
+#include "store/LeaguePaths.h"
 #include "text/Text.h"
 
 #include <fmt/core.h>
@@ -61,6 +64,12 @@ DataTable& DataTable::endRow() {
 
 std::string DataTable::json() const {
     return fmt::format("{{\"columns\": [{}],\n\"rows\": [\n{}\n]}}\n", columns_, rows_);
+}
+
+void writeData(Files& files, const std::string& name, const DataTable& table) {
+    const std::string stem = paths::page("data/" + name);
+    writePage(files, stem + ".json", table.json());
+    writePage(files, stem + ".csv", table.csv());
 }
 
 } // namespace iceline

@@ -6,6 +6,8 @@
 
 namespace iceline {
 
+class Files;
+
 /// A table of the league's data for other programs, row by row, as JSON and as CSV (RFC 4180, with a line of
 /// names). The JSON is an object of `columns`, the list of their names, and `rows`, a list of lists in the
 /// same order, a line each. Texts are UTF-8: one that is not is taken for Windows-1252.
@@ -36,5 +38,9 @@ private:
     std::string csv_;
     bool startsRow_ = true;
 };
+
+/// Writes `data/<name>.json` and `data/<name>.csv` in the site. A file whose text is what it was is left
+/// alone.
+void writeData(Files& files, const std::string& name, const DataTable& table);
 
 } // namespace iceline

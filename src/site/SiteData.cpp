@@ -15,14 +15,6 @@ namespace iceline {
 
 namespace {
 
-/// Writes `data/<name>.json` and `data/<name>.csv` in the site. A file whose text is what it was is left
-/// alone.
-void writeData(Files& files, const std::string& name, const DataTable& table) {
-    const std::string stem = paths::page("data/" + name);
-    writePage(files, stem + ".json", table.json());
-    writePage(files, stem + ".csv", table.csv());
-}
-
 /// The games of the regular season that count for the teams.
 int seasonGames(const ApplicationState& state) {
     int teamGames = 0;
