@@ -4,6 +4,7 @@
 #include "desktop/Controls.h"
 #include "desktop/Pictures.h"
 #include "desktop/QtPlatform.h"
+#include "desktop/SiteSettingsDialog.h"
 
 #include <QComboBox>
 #include <QGridLayout>
@@ -21,6 +22,7 @@ OptionsWindow::OptionsWindow(Application& application, WindowId id, Options& obj
     grid->addWidget(makeCoaches(), 0, 0, 2, 1);
     grid->addWidget(makeSeason(), 0, 1);
     grid->addWidget(makeClearing(), 1, 1);
+    grid->addWidget(makeSite(), 2, 0, Qt::AlignLeft);
     auto* last = new QHBoxLayout;
     last->addStretch();
     last->addWidget(makeButton("BackUp", QStringLiteral("Back Up"), &Options::BackUp_Click));
@@ -36,6 +38,14 @@ QPushButton* OptionsWindow::makeButton(const char* name, const QString& caption,
     button->setObjectName(QLatin1String(name));
     connect(button, &QPushButton::clicked, this,
             [this, procedure] { run([this, procedure] { (object_.*procedure)(); }); });
+    return button;
+}
+
+QPushButton* OptionsWindow::makeSite() {
+    auto* button = new QPushButton(QStringLiteral("Web Site..."), this);
+    button->setObjectName(QStringLiteral("WebSite"));
+    connect(button, &QPushButton::clicked, this,
+            [this] { run([this] { SiteSettingsDialog(app_, this).exec(); }); });
     return button;
 }
 

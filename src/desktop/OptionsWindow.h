@@ -13,7 +13,7 @@ class QPushButton;
 namespace iceline::desktop {
 
 /// The coaches, the length of the season, the move to the play-offs, the next season, the clearing of
-/// statistics, and copies of the league.
+/// statistics, copies of the league, and what the site tells of it.
 class OptionsWindow : public LeagueWindow {
     Q_OBJECT
 
@@ -26,6 +26,7 @@ protected:
 private:
     template <class Result>
     QPushButton* makeButton(const char* name, const QString& caption, Result (Options::*procedure)());
+    QPushButton* makeSite();
     QGroupBox* makeCoaches();
     QLayout* makeInputRow(QGroupBox* box);
     QGroupBox* makeSeason();

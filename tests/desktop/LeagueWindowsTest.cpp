@@ -2,10 +2,13 @@
 #include "app/SplashScreen.h"
 #include "desktop/DesktopTest.h"
 #include "desktop/QtPlatform.h"
+#include "desktop/User.h"
 #include "season/Options.h"
+#include "site/SiteSettings.h"
 #include "support/NumberedRecord.h"
 
 #include <QComboBox>
+#include <QDialog>
 #include <QGroupBox>
 #include <QLineEdit>
 
@@ -33,6 +36,26 @@ TEST_F(LeagueWindowsTest, EveryRowOfTheCatalogueOpensAndClosesItsWindow) {
         EXPECT_FALSE(league.app.windows().isLoaded(row.id)) << row.entry;
         EXPECT_EQ(windows.window(row.id), nullptr) << row.entry;
     }
+}
+
+TEST_F(LeagueWindowsTest, OptionsStoresWhatTheSiteTellsOnceItsAddressIsOne) {
+    LeagueWindow& window = open(WindowId::Options);
+    int pressed = 0;
+    std::string problem;
+    const User user([&] {
+        auto* dialog = qobject_cast<QDialog*>(shownWindow("SiteSettings"));
+        if (!dialog)
+            return;
+        if (pressed > 0)
+            problem = text(*dialog, "Problem");
+        type(*dialog, "name", "Lake League");
+        type(*dialog, "address", pressed++ == 0 ? "lake" : "https://lake.test/");
+        dialog->accept();
+    });
+    click(window, "WebSite");
+    EXPECT_NE(problem.find("must begin with https://"), std::string::npos) << problem;
+    const SiteSettings settings = readSiteSettings(league.files);
+    EXPECT_EQ(settings.name + settings.address, "Lake Leaguehttps://lake.test/");
 }
 
 TEST_F(LeagueWindowsTest, ShowsEveryTeamFigureInTheLabelOfItsField) {
