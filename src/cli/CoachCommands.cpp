@@ -66,8 +66,10 @@ Status showCoach(Session& session, const std::string& name) {
     CoachStats& window = use<CoachStats>(session, WindowId::CoachStats);
     window.TeamSelect = index;
     window.TeamSelect_Click();
-    session.out() << window.CoachName() << "\n\n";
-    printTeamView(*window.content().coach, session.out());
+    session.print([&](Printout& out) {
+        out << window.CoachName() << "\n\n";
+        printTeamView(*window.content().coach, out);
+    });
     return Status::Done;
 }
 

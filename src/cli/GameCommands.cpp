@@ -20,6 +20,11 @@ struct Import {
     bool dryRun = false;
 };
 
+struct Reading {
+    std::string path;
+    bool json = false;
+};
+
 /// "Select Game". False when the file was refused.
 bool selectGame(Session& session, const std::string& file) {
     StatExtractor& window = StatExtractor::in(session.app());
@@ -29,10 +34,11 @@ bool selectGame(Session& session, const std::string& file) {
     return window.GameLoaded;
 }
 
-Status read(Session& session, const std::string& file) {
-    if (!selectGame(session, file))
+Status read(Session& session, const Reading& reading) {
+    if (!selectGame(session, reading.path))
         return Status::Refused;
-    printGame(*StatExtractor::in(session.app()).content().report, session.out());
+    const GameReport& report = *StatExtractor::in(session.app()).content().report;
+    session.print([&](Printout& out) { printGame(report, out); }, reading.json);
     return Status::Done;
 }
 
@@ -130,9 +136,10 @@ void addChoices(CLI::App& command, Import& import) {
 } // namespace
 
 void addGameCommands(CLI::App& program, Call& call) {
-    const auto [readCommand, file] = addCommand<std::string>(
+    const auto [readCommand, reading] = addCommand<Reading>(
         program, call, "read", "Print the game report of a save state", read, Works::Looking);
-    addArgument(*readCommand, "FILE", *file, "the save state of a finished game");
+    addArgument(*readCommand, "FILE", reading->path, "the save state of a finished game");
+    readCommand->add_flag("--json", reading->json, "as JSON");
 
     const auto [importCommand, game] =
         addCommand<Import>(program, call, "import", "Import a game into the league", importGame);

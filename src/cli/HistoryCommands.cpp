@@ -97,7 +97,7 @@ void printCsv(const std::vector<HistoryRow>& rows, std::ostream& out) {
     out << table.csv();
 }
 
-void printTable(const std::vector<HistoryRow>& rows, std::ostream& out) {
+void printTable(const std::vector<HistoryRow>& rows, Printout& out) {
     using Align = TextTable::Align;
     TextTable table({{"#"}, {"Time (UTC)", Align::Left}, {"Operation", Align::Left}, {"", Align::Left}});
     for (const HistoryRow& row : rows)
@@ -126,7 +126,7 @@ Status printHistory(Session& session, const Listing& listing) {
             list.push_back(jsonOfRow(row));
         session.out() << list.dump(1) << '\n';
     } else {
-        printTable(rows, session.out());
+        session.print([&](Printout& out) { printTable(rows, out); });
     }
     return Status::Done;
 }
@@ -140,7 +140,7 @@ Status printGameOf(Session& session, const GameChoice& choice) {
         return Status::Refused;
     }
     if (!choice.json) {
-        printGame(*report, session.out());
+        session.print([&](Printout& out) { printGame(*report, out); });
         return Status::Done;
     }
     for (const HistoryRow& row : history.content().rows) {

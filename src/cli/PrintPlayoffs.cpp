@@ -1,6 +1,6 @@
-#include "cli/TextTable.h"
 #include "cli/WindowPrinters.h"
 #include "playoffs/Playoffs.h"
+#include "standings/Alignment.h"
 
 namespace iceline::cli {
 
@@ -33,7 +33,8 @@ std::string joint(std::size_t line, int round) {
     return place > unit && place < 3 * unit ? "   |   " : "       ";
 }
 
-void printConference(const Playoffs::Content& content, Conference conference, std::ostream& out) {
+std::string conferenceText(const Playoffs::Content& content, Conference conference) {
+    std::string text;
     const auto slots = bracketSlots(conference);
     for (std::size_t i = 0; i < slots.size(); ++i) {
         std::string line;
@@ -44,20 +45,52 @@ void printConference(const Playoffs::Content& content, Conference conference, st
                 line += joint(i + 1, round);
         }
         line.erase(line.find_last_not_of(' ') + 1);
-        out << line << '\n';
+        text += line + "\n";
     }
+    return text;
+}
+
+/// A team in a series; empty while it is not known.
+std::string_view teamName(TeamIndex team) {
+    return team == BlankTeam ? "" : TeamName[team];
+}
+
+void addSeries(TextTable& table, const Playoffs::Content& content, std::string_view conference, int round,
+               SeriesIndex series) {
+    std::vector<std::string> cells{std::string(conference), std::to_string(round + 1)};
+    for (const SeriesTeam team : {SeriesTeam::A, SeriesTeam::B}) {
+        const SeriesPlace place{series, team};
+        cells.emplace_back(teamName(content.team(place)));
+        cells.push_back(content.wins(place));
+    }
+    table.addRow(cells);
+}
+
+TextTable seriesTable(const Playoffs::Content& content) {
+    TextTable table({{"Conference", Align::Left},
+                     {"Round"},
+                     {"Team", Align::Left},
+                     {"Wins"},
+                     {"Opponent", Align::Left},
+                     {"Opponent Wins"}});
+    for (const Conference conference : {Conference::Wales, Conference::Campbell})
+        for (const BracketSlot& slot : bracketSlots(conference))
+            if (slot.place.team == SeriesTeam::A && slot.place.series != FinalSeries)
+                addSeries(table, content, info(conference).name, slot.round, slot.place.series);
+    addSeries(table, content, "", BracketRounds - 1, FinalSeries);
+    return table;
 }
 
 } // namespace
 
-void printPlayoffs(const Playoffs& window, std::ostream& out) {
+void printPlayoffs(const Playoffs& window, Printout& out) {
     const Playoffs::Content& content = window.content();
-    out << "Playoff Tree\n\nEASTERN CONFERENCE\n\n";
-    printConference(content, Conference::Wales, out);
-    out << "\nWESTERN CONFERENCE\n\n";
-    printConference(content, Conference::Campbell, out);
+    out << "Playoff Tree\n\n";
+    out.drawing("EASTERN CONFERENCE\n\n" + conferenceText(content, Conference::Wales) +
+                    "\nWESTERN CONFERENCE\n\n" + conferenceText(content, Conference::Campbell),
+                seriesTable(content));
     out << "\nStanley Cup Champions: "
-        << (content.champion() == BlankTeam ? "---" : TeamName[content.champion()]) << '\n';
+        << (content.champion() == BlankTeam ? "---" : TeamName[content.champion()]) << "\n";
 }
 
 } // namespace iceline::cli

@@ -1,4 +1,3 @@
-#include "cli/TextTable.h"
 #include "cli/WindowPrinters.h"
 #include "coaches/CoachStats.h"
 #include "leaders/Rankings.h"
@@ -27,9 +26,9 @@ TextTable leaderTable(std::vector<TextTable::Column> heads, const Columns& colum
 
 template <class Columns>
 void printLeaders(const char* title, const char* nameHead, const Rankings::Table& leaders,
-                  const Columns& columns, std::ostream& out) {
+                  const Columns& columns, Printout& out) {
     out << title << "\n\n"
-        << leaderTable({{"#"}, {"Team", Align::Left}, {nameHead, Align::Left}}, columns, leaders.rows,
+        << leaderTable({{"#"}, {"Team", Align::Left}, {nameHead, Align::Left, "Name"}}, columns, leaders.rows,
                        [](const LeaderLine& line) -> std::vector<std::string> {
                            return {std::to_string(line.number), std::string(TeamAbbr[line.team]), line.name};
                        });
@@ -37,18 +36,18 @@ void printLeaders(const char* title, const char* nameHead, const Rankings::Table
 
 } // namespace
 
-void printRankings(const Rankings& window, std::ostream& out) {
+void printRankings(const Rankings& window, Printout& out) {
     const Rankings::Content& content = window.content();
     printLeaders("Player League Leaders", "Name", content.players, PlayerLeaderColumns, out);
-    out << '\n';
+    out << "\n";
     printLeaders("Goalie League Leaders", "Name", content.goalies, GoalieLeaderColumns, out);
-    out << '\n';
+    out << "\n";
     printLeaders("Three Star Award Leaders", "Name", content.stars, StarLeaderColumns, out);
-    out << '\n';
+    out << "\n";
     printLeaders("Team League Leaders", "", content.teams, TeamLeaderColumns, out);
 }
 
-void printCoachStats(const CoachStats& window, std::ostream& out) {
+void printCoachStats(const CoachStats& window, Printout& out) {
     const CoachStats::Content& content = window.content();
     out << "Coach Rankings\n"
         << leaderTable({{"#"}, {"Coaches", Align::Left}}, TeamLeaderColumns, content.ranking.lines,
@@ -57,7 +56,7 @@ void printCoachStats(const CoachStats& window, std::ostream& out) {
                        });
     if (!content.coach)
         return;
-    out << '\n' << window.CoachName() << "\n\n";
+    out << "\n" << window.CoachName() << "\n\n";
     printTeamView(*content.coach, out);
 }
 

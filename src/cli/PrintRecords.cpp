@@ -1,4 +1,3 @@
-#include "cli/TextTable.h"
 #include "cli/WindowPrinters.h"
 #include "records/AllTimeRecords.h"
 
@@ -9,10 +8,12 @@ namespace {
 using Align = TextTable::Align;
 
 TextTable recordTable(const RecordSection& section) {
-    TextTable table({{padded(std::string(section.caption), 24, Align::Left), Align::Left},
-                     {"", Align::Left},
-                     {"", Align::Left},
-                     {""}});
+    const std::string caption(section.caption);
+    TextTable table({{padded(caption, 24, Align::Left), Align::Left, "Record"},
+                     {"", Align::Left, "Team"},
+                     {"", Align::Left, "Name"},
+                     {"", Align::Right, "Value"}},
+                    caption);
     for (const ShownRecord& record : section.records)
         table.addRow({std::string(record.caption), std::string(record.team ? TeamAbbr[*record.team] : ""),
                       record.name, record.value});
@@ -21,7 +22,7 @@ TextTable recordTable(const RecordSection& section) {
 
 } // namespace
 
-void printAllTimeRecords(const AllTimeRecords& window, std::ostream& out) {
+void printAllTimeRecords(const AllTimeRecords& window, Printout& out) {
     const char* separator = "";
     for (const RecordSection& section : recordSections(window.content())) {
         out << separator << recordTable(section);

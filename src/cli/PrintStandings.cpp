@@ -1,4 +1,3 @@
-#include "cli/TextTable.h"
 #include "cli/WindowPrinters.h"
 #include "standings/Standings.h"
 #include "standings/StandingsColumns.h"
@@ -12,14 +11,24 @@ using Align = TextTable::Align;
 /// The head of a column of team names, wide enough for all of them, so that tables one above the other align.
 TextTable::Column teamColumn(const std::string& title) {
     constexpr std::size_t LongestName = 21;
-    return {padded(title, LongestName, Align::Left), Align::Left};
+    return {padded(title, LongestName, Align::Left), Align::Left, "Team"};
 }
 
-/// The heads of the figures; `over` is what the first bears before its caption.
+/// The heads of the figures.
 template <class Columns>
-void addHeads(std::vector<TextTable::Column>& heads, const Columns& columns, const std::string& over = "") {
+void addHeads(std::vector<TextTable::Column>& heads, const Columns& columns) {
     for (const auto& column : columns)
-        heads.push_back({(&column == &columns.front() ? over : "") + std::string(column.caption)});
+        heads.push_back({std::string(column.caption)});
+}
+
+/// The same for figures under a common head, which the first bears before its caption.
+template <class Columns>
+void addHeads(std::vector<TextTable::Column>& heads, const Columns& columns, const std::string& over) {
+    for (const auto& column : columns) {
+        const std::string caption(column.caption);
+        heads.push_back(
+            {(&column == &columns.front() ? over + "  " : "") + caption, Align::Right, over + " " + caption});
+    }
 }
 
 template <class Columns, class Record>
@@ -30,9 +39,9 @@ void addFigures(std::vector<std::string>& cells, const Columns& columns, const R
 
 template <class Rows>
 TextTable pointsTable(const std::string& title, const Rows& rows) {
-    std::vector<TextTable::Column> heads{{"", Align::Left}, teamColumn(title)};
+    std::vector<TextTable::Column> heads{{"", Align::Left, "Mark"}, teamColumn(title)};
     addHeads(heads, PointsColumns);
-    TextTable table(heads);
+    TextTable table(heads, title);
     for (const PointsRow& row : rows) {
         std::vector<std::string> cells{row.mark, std::string(TeamName[row.team])};
         addFigures(cells, PointsColumns, row.figures);
@@ -44,7 +53,7 @@ TextTable pointsTable(const std::string& title, const Rows& rows) {
 TextTable homeAwayTable(const std::string& title, const HomeAwayRows& rows) {
     std::vector<TextTable::Column> heads{teamColumn(title)};
     addHeads(heads, HomeAwayColumns);
-    TextTable table(heads);
+    TextTable table(heads, title);
     for (const HomeAwayRow& row : rows) {
         std::vector<std::string> cells{std::string(TeamName[row.team])};
         addFigures(cells, HomeAwayColumns, row.record);
@@ -55,9 +64,9 @@ TextTable homeAwayTable(const std::string& title, const HomeAwayRows& rows) {
 
 TextTable versusTable(const std::string& title, const VersusRows& rows) {
     std::vector<TextTable::Column> heads{teamColumn(title)};
-    addHeads(heads, VersusColumns, "vs. Eastern Conf.  ");
-    addHeads(heads, VersusColumns, "vs. Western Conf.  ");
-    TextTable table(heads);
+    addHeads(heads, VersusColumns, "vs. Eastern Conf.");
+    addHeads(heads, VersusColumns, "vs. Western Conf.");
+    TextTable table(heads, title);
     for (const VersusRow& row : rows) {
         std::vector<std::string> cells{std::string(TeamName[row.team])};
         for (const SplitRecord& record : row.against)
@@ -67,28 +76,22 @@ TextTable versusTable(const std::string& title, const VersusRows& rows) {
     return table;
 }
 
-void printHomeAway(const HomeAwayStandings& standings, std::ostream& out) {
-    const auto lines = sideBySide(homeAwayTable("Home Records", standings.home).lines(),
-                                  homeAwayTable("Away Records", standings.away).lines(), 4);
-    for (const std::string& line : lines)
-        out << line << '\n';
-}
-
 } // namespace
 
-void printStandings(const Standings& window, std::ostream& out) {
+void printStandings(const Standings& window, Printout& out) {
     const Standings::Content& content = window.content();
     out << "Division Standings\n";
     for (std::size_t i = 0; i < Divisions.size(); ++i)
-        out << '\n' << pointsTable(std::string(Divisions[i].name) + " Division", content.divisions[i]);
+        out << "\n" << pointsTable(std::string(Divisions[i].name) + " Division", content.divisions[i]);
     out << "\nConference Standings\n";
     for (std::size_t i = 0; i < Conferences.size(); ++i)
-        out << '\n' << pointsTable(std::string(Conferences[i].name) + " Conference", content.conferences[i]);
+        out << "\n" << pointsTable(std::string(Conferences[i].name) + " Conference", content.conferences[i]);
     out << "\nHome / Away Standings\n\n";
-    printHomeAway(content.homeAway, out);
+    out.sideBySide(homeAwayTable("Home Records", content.homeAway.home),
+                   homeAwayTable("Away Records", content.homeAway.away));
     out << "\nvs. Conference Standings\n";
     for (std::size_t i = 0; i < Conferences.size(); ++i)
-        out << '\n' << versusTable(std::string(Conferences[i].name) + " Conference", content.versus[i]);
+        out << "\n" << versusTable(std::string(Conferences[i].name) + " Conference", content.versus[i]);
 }
 
 } // namespace iceline::cli

@@ -1,4 +1,3 @@
-#include "cli/TextTable.h"
 #include "cli/WindowPrinters.h"
 #include "teams/TeamFigures.h"
 #include "teams/TeamStats.h"
@@ -8,6 +7,7 @@ namespace iceline::cli {
 namespace {
 
 using namespace teamfigures;
+using Align = TextTable::Align;
 
 /// A table of one row; the head of the first column begins with `title`.
 TextTable figureTable(const std::vector<TeamColumn>& columns, const TeamView& view,
@@ -15,10 +15,11 @@ TextTable figureTable(const std::vector<TeamColumn>& columns, const TeamView& vi
     std::vector<TextTable::Column> heads;
     std::vector<std::string> cells;
     for (const TeamColumn& column : columns) {
-        heads.push_back({(heads.empty() ? title : "") + std::string(column.head)});
+        const std::string head(column.head);
+        heads.push_back({heads.empty() && !title.empty() ? title + " " + head : head, Align::Right, head});
         cells.push_back(column.text(view));
     }
-    TextTable table(heads);
+    TextTable table(heads, title);
     table.addRow(cells);
     return table;
 }
@@ -45,18 +46,18 @@ std::vector<TeamColumn> overtimeColumns() {
 
 } // namespace
 
-void printTeamView(const TeamView& view, std::ostream& out) {
-    out << figureTable(recordColumns(), view, "Record ") << '\n'
-        << figureTable(Home, view, "Home ") << '\n'
-        << figureTable(Away, view, "Away ") << '\n'
-        << figureTable(overtimeColumns(), view, "Overtime ") << '\n'
+void printTeamView(const TeamView& view, Printout& out) {
+    out << figureTable(recordColumns(), view, "Record") << "\n"
+        << figureTable(Home, view, "Home") << "\n"
+        << figureTable(Away, view, "Away") << "\n"
+        << figureTable(overtimeColumns(), view, "Overtime") << "\n"
         << "Season Totals\n"
-        << figureTable(Totals, view) << figureTable(FurtherTotals, view) << '\n'
+        << figureTable(Totals, view) << figureTable(FurtherTotals, view) << "\n"
         << "Season Averages\n"
         << figureTable(Averages, view) << figureTable(FurtherAverages, view);
 }
 
-void printTeamStats(const TeamStats& window, std::ostream& out) {
+void printTeamStats(const TeamStats& window, Printout& out) {
     if (!window.content()) {
         printTeamList("Select Your Team Here", out);
         return;

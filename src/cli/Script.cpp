@@ -52,6 +52,7 @@ Status carryOutLines(std::istream& lines, const std::string& name, Session& sess
 }
 
 Status runScript(Session& session, const std::string& file) {
+    session.console().pager.clear(); // what the commands say stays in their order
     if (file == "-")
         return carryOutLines(session.console().in, "standard input", session);
     std::istringstream lines(session.app().files().read(absolutePath(file)));

@@ -46,10 +46,10 @@ Status newSeason(Session& session, const std::string& name) {
 
 } // namespace
 
-void printOptions(const Options& window, std::ostream& out) {
+void printOptions(const Options& window, Printout& out) {
     out << "Current Season Length  " << window.content().CurrentSeasonLength << "\n\nCoach List:\n";
     for (const std::string& coach : window.content().coaches)
-        out << "  " << coach << '\n';
+        out << "  " << coach << "\n";
 }
 
 void addSeasonCommands(CLI::App& program, Call& call) {

@@ -3,6 +3,8 @@
 #include "files/FileError.h"
 #include "store/LeaguePaths.h"
 
+#include <utility>
+
 namespace iceline::cli {
 
 namespace fs = std::filesystem;
@@ -33,6 +35,18 @@ Session::~Session() {
 void Session::end() {
     tellWarnings();
     league_.reset();
+    if (!forPager_.empty())
+        show(console_, std::exchange(forPager_, {}));
+}
+
+void Session::print(const std::function<void(Printout&)>& print, bool json) {
+    using Format = Printout::Format;
+    Printout printout(json ? Format::Json : console_.outHasColours ? Format::Colours : Format::Text);
+    print(printout);
+    if (console_.pager.empty())
+        console_.out << printout.result();
+    else
+        forPager_ += printout.result();
 }
 
 fs::path Session::leagueFolder() const {

@@ -2,8 +2,10 @@
 
 #include "app/OpenLeague.h"
 #include "cli/ConsolePlatform.h"
+#include "cli/Printout.h"
 
 #include <filesystem>
+#include <functional>
 #include <optional>
 #include <stdexcept>
 #include <string>
@@ -44,8 +46,12 @@ public:
     /// Takes the league for this run without starting up on it, to mend what keeps it from that.
     void takeLeague();
 
-    /// Gives the league up, so that other programs may work on it while this one goes on.
+    /// Gives the league up, so that other programs may work on it while this one goes on, and shows what has
+    /// been printed for a pager.
     void end();
+
+    /// Prints what `print` says, with a pager where there is one: that is shown at the end.
+    void print(const std::function<void(Printout&)>& print, bool json = false);
 
     /// The folder of the site that the league publishes.
     std::filesystem::path siteFolder() const;
@@ -68,6 +74,7 @@ private:
     LeagueChoice choice_;
     ConsolePlatform platform_;
     std::optional<OpenLeague> league_;
+    std::string forPager_;
 };
 
 /// A path that the user has given, relative to the current folder, as Files takes it. Throws UsageError when

@@ -3,7 +3,9 @@
 #include "text/Text.h"
 
 #include <algorithm>
+#include <charconv>
 #include <iterator>
+#include <nlohmann/json.hpp>
 
 namespace iceline::cli {
 
@@ -13,6 +15,17 @@ constexpr std::size_t Gap = 2;
 
 void cutBlanksBehind(std::string& line) {
     line.erase(line.find_last_not_of(' ') + 1);
+}
+
+nlohmann::ordered_json cellValue(const std::string& cell, TextTable::Align align) {
+    double number = 0;
+    const char* end = cell.data() + cell.size();
+    if (align == TextTable::Align::Left || std::from_chars(cell.data(), end, number).ptr != end ||
+        cell.empty())
+        return cell;
+    if (cell.find('.') == cell.npos)
+        return static_cast<std::int64_t>(number);
+    return number;
 }
 
 } // namespace
@@ -32,12 +45,14 @@ void TextTable::addRow(std::vector<std::string> cells) {
     rows_.push_back(std::move(cells));
 }
 
+bool TextTable::hasHeads() const {
+    return std::ranges::any_of(columns_, [](const Column& column) { return !column.head.empty(); });
+}
+
 std::vector<std::string> TextTable::lines() const {
-    std::vector<std::string> heads;
-    std::ranges::transform(columns_, std::back_inserter(heads), &Column::head);
     std::vector<std::vector<std::string>> rows = rows_;
-    if (std::ranges::any_of(heads, [](const std::string& head) { return !head.empty(); }))
-        rows.insert(rows.begin(), heads);
+    if (hasHeads())
+        std::ranges::transform(columns_, std::back_inserter(*rows.emplace(rows.begin())), &Column::head);
 
     std::vector<std::string> lines(rows.size());
     for (std::size_t column = 0; column < columns_.size(); ++column) {
@@ -50,6 +65,19 @@ std::vector<std::string> TextTable::lines() const {
     }
     std::ranges::for_each(lines, cutBlanksBehind);
     return lines;
+}
+
+nlohmann::ordered_json TextTable::json() const {
+    nlohmann::ordered_json table;
+    if (!title_.empty())
+        table["title"] = title_;
+    nlohmann::ordered_json& rows = table["rows"] = nlohmann::ordered_json::array();
+    for (const auto& cells : rows_) {
+        nlohmann::ordered_json& row = rows.emplace_back();
+        for (std::size_t column = 0; column < columns_.size(); ++column)
+            row[columns_[column].name] = cellValue(cells[column], columns_[column].align);
+    }
+    return table;
 }
 
 std::ostream& operator<<(std::ostream& out, const TextTable& table) {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <nlohmann/json_fwd.hpp>
 #include <ostream>
 #include <string>
 #include <vector>
@@ -15,20 +16,30 @@ public:
     struct Column {
         std::string head;
         Align align = Align::Right;
+        std::string name = head; ///< in JSON
     };
 
-    explicit TextTable(std::vector<Column> columns) : columns_(std::move(columns)) {}
+    /// The title is for JSON alone: in the text it is one of the heads, or above the table.
+    explicit TextTable(std::vector<Column> columns, std::string title = "")
+        : columns_(std::move(columns)), title_(std::move(title)) {}
 
     /// Cells beyond the columns are left out, missing ones are empty.
     void addRow(std::vector<std::string> cells);
 
-    /// The table as lines without line ends. Without any head there is no line of heads.
+    bool hasHeads() const;
+
+    /// The table as lines without line ends, the first with the heads if it has any.
     std::vector<std::string> lines() const;
+
+    /// The title, if there is one, and the rows: an object each, with the cells by the names of their
+    /// columns. What is a number in a column of figures is one there, too.
+    nlohmann::ordered_json json() const;
 
     friend std::ostream& operator<<(std::ostream& out, const TextTable& table);
 
 private:
     std::vector<Column> columns_;
+    std::string title_;
     std::vector<std::vector<std::string>> rows_;
 };
 

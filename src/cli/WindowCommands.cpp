@@ -7,6 +7,11 @@ namespace iceline::cli {
 
 namespace {
 
+struct Opening {
+    std::string window;
+    bool json = false;
+};
+
 WindowId windowNamed(const std::string& name) {
     if (const auto id = windowByName(name))
         return *id;
@@ -16,9 +21,10 @@ WindowId windowNamed(const std::string& name) {
     throw UsageError("there is no window '" + name + "'; there are " + names);
 }
 
-Status openWindow(Session& session, const std::string& name) {
-    const WindowId id = windowNamed(name);
-    windowPrinter(id)(WelcomeWindow(session.app()).List1_Click(id), session.out());
+Status openWindow(Session& session, const Opening& opening) {
+    const WindowId id = windowNamed(opening.window);
+    const Window& window = WelcomeWindow(session.app()).List1_Click(id);
+    session.print([&](Printout& out) { windowPrinter(id)(window, out); }, opening.json);
     return Status::Done;
 }
 
@@ -30,9 +36,10 @@ Status closeWindow(Session& session, const std::string& name) {
 } // namespace
 
 void addWindowCommands(CLI::App& program, Call& call) {
-    const auto [open, opened] = addCommand<std::string>(
+    const auto [open, opening] = addCommand<Opening>(
         program, call, "open", "Open a window and print what it shows", openWindow, Works::Looking);
-    addArgument(*open, "WINDOW", *opened, "its name in the catalogue, for instance Standings");
+    addArgument(*open, "WINDOW", opening->window, "its name in the catalogue, for instance Standings");
+    open->add_flag("--json", opening->json, "as JSON");
     const auto [close, closed] =
         addCommand<std::string>(program, call, "close", "Close a window", closeWindow, Works::Looking);
     addArgument(*close, "WINDOW", *closed, "its name in the catalogue");

@@ -16,8 +16,8 @@ namespace iceline::cli {
 namespace {
 
 /// A function for one kind of window as one for all of them.
-template <class Kind, void (*print)(const Kind&, std::ostream&)>
-void printAs(const Window& window, std::ostream& out) {
+template <class Kind, void (*print)(const Kind&, Printout&)>
+void printAs(const Window& window, Printout& out) {
     print(static_cast<const Kind&>(window), out);
 }
 

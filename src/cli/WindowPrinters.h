@@ -1,8 +1,8 @@
 #pragma once
 
+#include "cli/Printout.h"
 #include "shell/Windows.h"
 
-#include <ostream>
 #include <string>
 
 namespace iceline {
@@ -22,32 +22,32 @@ struct TeamView;
 
 namespace iceline::cli {
 
-/// What `open` prints of a window: its content as text tables, pleasant in 100 columns. Each window has one
+/// What `open` prints of a window: its content as tables, pleasant in 100 columns. Each window has one
 /// function, in a file of its own, PrintStandings.cpp for instance, declared here and entered in the table
 /// of WindowPrinters.cpp; twin windows share theirs. It prints what the window's Content holds and works no
-/// figure out. TextTable lays out columns; sideBySide() puts two tables beside each other.
-void printPlayoffs(const Playoffs& window, std::ostream& out);
-void printRankings(const Rankings& window, std::ostream& out);
-void printStandings(const Standings& window, std::ostream& out);
-void printStatExtractor(const StatExtractor& window, std::ostream& out);
-void printTeamStats(const TeamStats& window, std::ostream& out);
-void printPlayerStats(const PlayerStats& window, std::ostream& out);
-void printPlayerProfiles(const PlayerProfiles& window, std::ostream& out);
-void printAllTimeRecords(const AllTimeRecords& window, std::ostream& out);
-void printCoachStats(const CoachStats& window, std::ostream& out);
-void printOptions(const Options& window, std::ostream& out);
+/// figure out.
+void printPlayoffs(const Playoffs& window, Printout& out);
+void printRankings(const Rankings& window, Printout& out);
+void printStandings(const Standings& window, Printout& out);
+void printStatExtractor(const StatExtractor& window, Printout& out);
+void printTeamStats(const TeamStats& window, Printout& out);
+void printPlayerStats(const PlayerStats& window, Printout& out);
+void printPlayerProfiles(const PlayerProfiles& window, Printout& out);
+void printAllTimeRecords(const AllTimeRecords& window, Printout& out);
+void printCoachStats(const CoachStats& window, Printout& out);
+void printOptions(const Options& window, Printout& out);
 
 /// All figures of a team or a coach.
-void printTeamView(const TeamView& view, std::ostream& out);
+void printTeamView(const TeamView& view, Printout& out);
 
 /// The teams to choose from, under the prompt of the window's team list.
-void printTeamList(const std::string& prompt, std::ostream& out);
+void printTeamList(const std::string& prompt, Printout& out);
 
 /// A game's report, with its summaries.
-void printGame(const GameReport& game, std::ostream& out);
+void printGame(const GameReport& game, Printout& out);
 
 /// The function that prints a window of that kind, given the window.
-using WindowPrinter = void (*)(const Window&, std::ostream&);
+using WindowPrinter = void (*)(const Window&, Printout&);
 WindowPrinter windowPrinter(WindowId id);
 
 } // namespace iceline::cli

@@ -108,6 +108,23 @@ TEST_F(CliLeagueTest, AMalformedSeasonLengthEndsTheRun) {
     EXPECT_EQ(std::ranges::count(emptied.err, '\n'), 1);
 }
 
+#ifndef _WIN32 // which has no pager of its own
+TEST_F(CliLeagueTest, ATerminalHasBoldHeadsAndAPager) {
+    const fs::path shown = league() / "shown";
+    const auto open = [this](const std::string& pager) {
+        std::istringstream in;
+        std::ostringstream out;
+        Console console{.in = in, .out = out, .err = out, .outHasColours = true, .pager = pager};
+        EXPECT_EQ(run({"--yes", "--league", league().string(), "open", "Standings"}, console), 0);
+        return out.str();
+    };
+    EXPECT_EQ(open("cat >'" + shown.string() + "'"), "");
+    EXPECT_THAT(read("shown"),
+                HasSubstr("\n\x1b[1m  Adams Division         W  L  T  Pts.  GF  GA  GP\x1b[0m\n"));
+    EXPECT_EQ(open("no-such-pager 2>/dev/null"), read("shown"));
+}
+#endif
+
 TEST_F(CliLeagueTest, ALeagueInUseIsRefused) {
     const LeagueLock lock(league(), "another program");
     const Outcome refused = iceline({"coach", "list"});

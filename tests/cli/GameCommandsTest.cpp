@@ -3,6 +3,8 @@
 #include "samples/SampleGames.h"
 #include "support/Test.h"
 
+#include <nlohmann/json.hpp>
+
 namespace iceline::cli {
 namespace {
 
@@ -57,6 +59,10 @@ TEST_F(GameCommandsTest, ReadPrintsTheReportAndChangesNothing) {
     for (std::string line; std::getline(lines, line);)
         EXPECT_LE(line.size(), 100u) << line;
 
+    const auto parts = nlohmann::json::parse(iceline({"read", game(1), "--json"}).out);
+    EXPECT_EQ(parts.at(0).at("rows").at(0).at("Home Goals"), 5);
+    EXPECT_EQ(parts.at(2).at("title"), "Quebec Nordiques");
+    EXPECT_TRUE(parts.at(2).at("rows").at(0).contains("SOG"));
     EXPECT_EQ(gameNumber(), "0\r\n");
     EXPECT_TRUE(fs::is_empty(league() / "IcelineWebPages/BoxScores"));
 }

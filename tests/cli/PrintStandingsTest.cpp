@@ -4,6 +4,7 @@
 #include "support/Test.h"
 #include "support/TestLeague.h"
 
+#include <nlohmann/json.hpp>
 #include <sstream>
 
 namespace iceline::cli {
@@ -21,11 +22,11 @@ protected:
         }
     }
 
-    std::string print(WindowId id) {
-        std::ostringstream out;
+    std::string print(WindowId id, Printout::Format format = Printout::Format::Text) {
+        Printout out(format);
         league.app.windows().unload(id);
         windowPrinter(id)(league.app.windows().use(id), out);
-        return out.str();
+        return out.result();
     }
 
     TestLeague league;
@@ -48,6 +49,14 @@ TEST_F(PrintStandings, FourViewsUnderTheirHeads) {
     EXPECT_THAT(text, HasSubstr("\nBoston Bruins          3  2  0   0.6   5    Boston Bruins  "));
     EXPECT_THAT(text, HasSubstr("Boston Bruins                             0  0  0     0"
                                 "                    12  4  0  0.75\n"));
+
+    const auto parts = nlohmann::json::parse(print(WindowId::Standings, Printout::Format::Json));
+    EXPECT_EQ(parts.at(0), "Division Standings");
+    EXPECT_EQ(parts.at(1).at("title"), "Adams Division");
+    EXPECT_EQ(parts.at(1).at("rows").at(0), nlohmann::json::parse(R"({"Mark": "x", "Team": "Boston Bruins",
+        "W": 0, "L": 0, "T": 0, "Pts.": 24, "GF": 0, "GA": 0, "GP": 0})"));
+    EXPECT_THAT(print(WindowId::Standings, Printout::Format::Json),
+                HasSubstr("\"vs. Western Conf. T\": 0"));
 }
 
 TEST_F(PrintStandings, BracketLeadsWinnersToTheirPlaces) {
@@ -77,6 +86,12 @@ TEST_F(PrintStandings, BracketLeadsWinnersToTheirPlaces) {
     EXPECT_THAT(text, EndsWith("7  San Jose Sharks        0 --+\n"
                                "\n"
                                "Stanley Cup Champions: ---\n"));
+
+    const auto rows =
+        nlohmann::json::parse(print(WindowId::Playoffs, Printout::Format::Json)).at(1).at("rows");
+    EXPECT_EQ(rows.size(), 15u);
+    EXPECT_EQ(rows.at(0), nlohmann::json::parse(R"({"Conference": "Wales", "Round": 1,
+        "Team": "Boston Bruins", "Wins": 4, "Opponent": "Ottawa Senators", "Opponent Wins": 0})"));
 }
 
 } // namespace

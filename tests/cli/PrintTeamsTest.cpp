@@ -30,9 +30,9 @@ TEST(PrintTeamView, EveryFigureIsUnderItsHead) {
     view.streak = {"L", 201};
     view.lastTen = {202, 203, 204};
     view.LeagueMeter = 205;
-    std::ostringstream out;
+    Printout out(Printout::Format::Text);
     printTeamView(view, out);
-    const std::string printed = squeezed(out.str());
+    const std::string printed = squeezed(out.result());
     for (const char* table : {"Record W - L - T Pts. Win% GP GF GA GFA GAA Diff Pow.Rank\n"
                               "1 - 2 - 3 4 5.5 6 7 8 9.5 10.5 11.5 12.5\n",
                               "Home W - L - T Win% GP GF GA GFA GAA Diff Pow.Rank\n"
@@ -63,9 +63,9 @@ TEST(PrintPlayerStats, EveryFigureIsUnderItsHead) {
     auto& window = static_cast<PlayerStats&>(league.app.windows().use(WindowId::PlayerStats));
     window.PlayersTeamSelect = Boston.number();
     window.PlayersTeamSelect_Click();
-    std::ostringstream out;
+    Printout out(Printout::Format::Text);
     printPlayerStats(window, out);
-    const std::string printed = squeezed(out.str());
+    const std::string printed = squeezed(out.result());
     for (const char* table :
          {"Forwards / Defensemen Pos # Pow.Rank G A Pts. PPG S% SOG PP SH PIM GP\n"
           "Ann First F 99 15.5 2 4 6 7.5 10.5 8 12 13 11 1\n",
