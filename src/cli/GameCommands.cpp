@@ -1,4 +1,4 @@
-#include "cli/Command.h"
+#include "cli/GameChoices.h"
 #include "cli/UseWindow.h"
 #include "cli/WindowPrinters.h"
 #include "files/FileError.h"
@@ -9,12 +9,9 @@ namespace iceline::cli {
 
 namespace {
 
-/// Of an import: what is imported, and the choices in the game window.
-struct Import {
+/// What is imported, and how.
+struct Import : GameChoices {
     std::string path;
-    bool exhibition = false;
-    std::string homeCoach;
-    std::string awayCoach;
     bool stopOnRefusal = false;
     bool force = false;
     bool dryRun = false;
@@ -42,54 +39,24 @@ Status read(Session& session, const Reading& reading) {
     return Status::Done;
 }
 
-/// The position of the coach in the window's lists, that of "No Coach" without a name.
-int coachPosition(Session& session, const std::string& name) {
-    return name.empty() ? 0 : indexOfCoach<StatExtractor>(session, WindowId::StatExtractor, name);
-}
-
-void choose(Session& session, const Import& import) {
-    coachPosition(session, import.homeCoach);
-    const int away = coachPosition(session, import.awayCoach);
-    // Only now: the look-up before may have loaded the window again.
-    const int home = coachPosition(session, import.homeCoach);
-    if (home != 0 && home == away)
-        throw UsageError("nobody can coach both teams");
-    StatExtractor& window = StatExtractor::in(session.app());
-    window.Season = !import.exhibition;
-    window.Exhibition = import.exhibition;
-    window.Force = import.force;
-    window.T1Coach_Click(home);
-    window.T2Coach_Click(away);
-}
-
-std::string text(const TeamForm& standing) {
-    const TeamRecord& record = standing.record;
-    return std::to_string(record.Wins) + "-" + std::to_string(record.Losses) + "-" +
-           std::to_string(record.Ties) + ", " + std::to_string(record.Points) + " points, place " +
-           std::to_string(standing.place) + ", streak " + standing.streak.StreakLetter +
-           std::to_string(standing.streak.StreakCount);
-}
-
 Status printPreview(const ImportPreview& preview, bool force, std::ostream& out) {
     if (preview.doubt && !force) {
         out << preview.doubt->text << '\n';
         return Status::Refused;
     }
-    if (preview.refusal) {
-        out << *preview.refusal << '\n';
-        return Status::Refused;
-    }
-    for (const TeamOutlook& team : preview.teams)
-        out << TeamName[team.team] << ": " << text(team.before) << " -> " << text(team.after) << '\n';
-    for (const std::string& file : preview.files)
-        out << "A record falls in " << file << '\n';
-    if (!preview.series.empty())
-        out << "Series: " << preview.series << '\n';
-    return Status::Done;
+    for (const std::string& line : linesOf(preview))
+        out << line << '\n';
+    return preview.refusal ? Status::Refused : Status::Done;
+}
+
+/// The choices in the game window.
+void chooseFor(Session& session, const Import& import) {
+    choose(session, import);
+    StatExtractor::in(session.app()).Force = import.force;
 }
 
 Status importOne(Session& session, const Import& import) {
-    choose(session, import);
+    chooseFor(session, import);
     if (!selectGame(session, import.path))
         return Status::Refused;
     if (import.dryRun)
@@ -105,7 +72,7 @@ Status importAll(Session& session, const Import& import) {
     const std::string folder = absolutePath(import.path);
     if (!session.app().files().isFolder(folder))
         throw FileError::about(folder, "there is no such folder");
-    choose(session, import);
+    chooseFor(session, import);
     ConsolePlatform& platform = session.platform();
     platform.choice = folder;
     platform.respondent = import.stopOnRefusal ? Respondent::AlwaysCancel : Respondent::AlwaysOk;
@@ -126,9 +93,7 @@ Status importFolder(Session& session, const Import& import) {
 }
 
 void addChoices(CLI::App& command, Import& import) {
-    command.add_flag("--exhibition", import.exhibition, "an exhibition game, which counts for coaches alone");
-    command.add_option("--home-coach", import.homeCoach, "the coach of the home team")->type_name("NAME");
-    command.add_option("--away-coach", import.awayCoach, "the coach of the away team")->type_name("NAME");
+    addGameChoices(command, import);
     command.add_flag("--force", import.force,
                      "count games that are in the books, and files without a finished game");
 }

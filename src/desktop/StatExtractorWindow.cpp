@@ -1,16 +1,15 @@
 #include "desktop/StatExtractorWindow.h"
 
 #include "desktop/Controls.h"
-#include "desktop/GamePanels.h"
-#include "desktop/Pictures.h"
+#include "desktop/GameReportView.h"
 #include "desktop/QtPlatform.h"
+#include "files/FileError.h"
+#include "history/ImportPreview.h"
 
 #include <QComboBox>
-#include <QFontDatabase>
-#include <QGridLayout>
+#include <QEvent>
 #include <QGroupBox>
 #include <QLabel>
-#include <QPlainTextEdit>
 #include <QRadioButton>
 #include <QSignalBlocker>
 #include <QVBoxLayout>
@@ -18,6 +17,9 @@
 namespace iceline::desktop {
 
 namespace {
+
+/// Lines that the outlook shows at the most; the pointer over it shows them all.
+constexpr int LinesOfOutlook = 4;
 
 /// The caption of a file path that fits beside the buttons: its middle gives way.
 QString shortened(const QLabel& label, const QString& path) {
@@ -33,21 +35,8 @@ StatExtractorWindow::StatExtractorWindow(Application& application, WindowId id, 
     rows->setSpacing(4);
     rows->addLayout(makeCommands());
     rows->addLayout(makeChoices());
-    auto* game = new QHBoxLayout;
-    game->addWidget(
-        makeRoster("Frame2", QStringLiteral("Away Team"), QStringLiteral("Team2"), "AwayTeam", awayRoster_),
-        1);
-    game->addLayout(makeCentre());
-    game->addWidget(
-        makeRoster("Frame1", QStringLiteral("Home Team"), QStringLiteral("Team1"), "HomeTeam", homeRoster_),
-        1);
-    rows->addLayout(game);
-    auto* summaries = new QHBoxLayout;
-    summaries->addWidget(
-        makeSummary("Frame11", QStringLiteral("Scoring Summary"), "ScoringSummary", scoring_));
-    summaries->addWidget(
-        makeSummary("Frame12", QStringLiteral("Penalty Summary"), "PenaltySummary", penalties_));
-    rows->addLayout(summaries, 1);
+    rows->addWidget(report_ = new GameReportView(this), 1);
+    rows->addWidget(makeOutlook());
     follow(object_);
 }
 
@@ -72,19 +61,77 @@ QLayout* StatExtractorWindow::makeCommands() {
 }
 
 void StatExtractorWindow::showGame(const std::string& path) {
-    run([&] { object_.showGame(path); });
+    runAndShow([&] { object_.showGame(path); });
+}
+
+void StatExtractorWindow::importSlot(const std::string& path) {
+    runAndShow([&] {
+        object_.showGame(path);
+        object_.IsSlot = true;
+        object_.ImportStats_Click();
+    });
 }
 
 void StatExtractorWindow::selectGame() {
-    run([this] { object_.LoadStats_Click(); });
+    runAndShow([this] { object_.LoadStats_Click(); });
 }
 
 void StatExtractorWindow::importGame() {
-    run([this] { object_.ImportStats_Click(); });
+    runAndShow([this] { object_.ImportStats_Click(); });
 }
 
 void StatExtractorWindow::importFolder() {
-    run([this] { object_.ImportFolder_Click(); });
+    runAndShow([this] { object_.ImportFolder_Click(); });
+}
+
+/// What an import would do, below the game.
+QWidget* StatExtractorWindow::makeOutlook() {
+    QGroupBox* box = frame("Outlook", QStringLiteral("Import"), this);
+    auto* row = new QHBoxLayout(box);
+    row->setContentsMargins(8, 2, 8, 4);
+    row->setSpacing(24);
+    standing_ = textLabel(QStringLiteral("Standing"), box);
+    standing_->setProperty("role", QStringLiteral("head"));
+    outlook_ = textLabel(QStringLiteral("OutlookText"), box);
+    outlook_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+    outlook_->setMinimumHeight(LinesOfOutlook * fontMetrics().lineSpacing());
+    row->addWidget(standing_);
+    row->addWidget(outlook_, 1);
+    return box;
+}
+
+/// Works it out anew for the game in hand, by the choices as they are.
+void StatExtractorWindow::showOutlook() {
+    committedAtOutlook_ = app_.operationsCommitted();
+    QStringList lines;
+    try {
+        if (object_.GameLoaded)
+            lines = outlook();
+    } catch (const FileError& error) {
+        lines << toQt(error.what());
+    }
+    outlook_->setToolTip(lines.join(u'\n'));
+    if (lines.size() > LinesOfOutlook)
+        lines = lines.mid(0, LinesOfOutlook - 1)
+                << QStringLiteral("\u2026 and %1 more").arg(lines.size() - LinesOfOutlook + 1);
+    outlook_->setText(lines.join(u'\n'));
+}
+
+QStringList StatExtractorWindow::outlook() {
+    QStringList lines;
+    const ImportPreview preview = previewImport(app_);
+    if (preview.doubt)
+        lines << toQt(preview.doubt->text);
+    for (const std::string& line : linesOf(preview))
+        lines << toQt(line);
+    return lines;
+}
+
+bool StatExtractorWindow::event(QEvent* event) {
+    if (event->type() == QEvent::WindowActivate && !isRunning_ &&
+        app_.operationsCommitted() != committedAtOutlook_)
+        showOutlook();
+    return LeagueWindow::event(event);
 }
 
 QLayout* StatExtractorWindow::makeChoices() {
@@ -95,6 +142,7 @@ QLayout* StatExtractorWindow::makeChoices() {
         connect(button, &QRadioButton::clicked, this, [this] {
             object_.Season = season_->isChecked();
             object_.Exhibition = exhibition_->isChecked();
+            showOutlook();
         });
         row->addWidget(button);
         return button;
@@ -114,108 +162,11 @@ QComboBox* StatExtractorWindow::makeCoachList(const char* name, void (StatExtrac
     QComboBox* list = choiceList(name, QStringLiteral("Select Coach"), this);
     for (const std::string& coach : object_.content().coaches)
         list->addItem(toQt(coach));
-    connect(list, &QComboBox::activated, this, [this, choose](int index) { (object_.*choose)(index); });
+    connect(list, &QComboBox::activated, this, [this, choose](int index) {
+        (object_.*choose)(index);
+        showOutlook();
+    });
     return list;
-}
-
-QWidget* StatExtractorWindow::makeRoster(const char* frameName, const QString& caption, const QString& team,
-                                         const char* banner, GameRosterPanel*& panel) {
-    QGroupBox* box = frame(frameName, caption, this);
-    auto* column = new QVBoxLayout(box);
-    column->setContentsMargins(4, 4, 4, 4);
-    panel = new GameRosterPanel(team, banner, box);
-    column->addWidget(panel);
-    return box;
-}
-
-QLayout* StatExtractorWindow::makeCentre() {
-    auto* column = new QVBoxLayout;
-    column->addLayout(makeScore());
-    column->addLayout(makeFigures());
-    column->addWidget(makeStars());
-    QGroupBox* crowd = frame("Frame4", QStringLiteral("Crowd Meter"), this);
-    auto* meter = new QHBoxLayout(crowd);
-    meter->setContentsMargins(4, 2, 4, 2);
-    meter->addStretch();
-    meter->addWidget(figureLabel(QStringLiteral("PeakCrowdMeter"), crowd));
-    meter->addWidget(headLabel(QStringLiteral("dB"), crowd));
-    meter->addStretch();
-    column->addWidget(crowd);
-    column->addStretch();
-    return column;
-}
-
-QLayout* StatExtractorWindow::makeScore() {
-    auto* row = new QHBoxLayout;
-    const auto add = [&](const char* name, const char* role) {
-        QLabel* label = figureLabel(QLatin1String(name), this);
-        label->setProperty("role", QLatin1String(role));
-        label->setAlignment(Qt::AlignCenter);
-        row->addWidget(label);
-        return label;
-    };
-    row->addStretch();
-    row->setSpacing(24);
-    awayScore_ = add("DisplayAwayScore", "score");
-    finalMark_ = add("FOTBox", "head");
-    homeScore_ = add("DisplayHomeScore", "score");
-    row->addStretch();
-    return row;
-}
-
-QLayout* StatExtractorWindow::makeFigures() {
-    auto* row = new QHBoxLayout;
-    const auto add = [&](const char* frameName, const QString& caption, const QString& team) {
-        QGroupBox* box = frame(frameName, caption, this);
-        auto* column = new QVBoxLayout(box);
-        column->setContentsMargins(2, 4, 2, 4);
-        auto* panel = new GameFiguresPanel(team, box);
-        column->addWidget(panel);
-        row->addWidget(box);
-        return panel;
-    };
-    awayFigures_ = add("Frame7", QStringLiteral("Away Team"), QStringLiteral("Team2"));
-    auto* captions = new QVBoxLayout;
-    captions->setContentsMargins(0, 22, 0, 4);
-    captions->addWidget(new GameFigureCaptions(this));
-    row->addLayout(captions);
-    homeFigures_ = add("Frame5", QStringLiteral("Home Team"), QStringLiteral("Team1"));
-    return row;
-}
-
-QWidget* StatExtractorWindow::makeStars() {
-    QGroupBox* box = frame("Frame9", QStringLiteral("Three Star Awards"), this);
-    auto* grid = new QGridLayout(box);
-    grid->setContentsMargins(4, 4, 4, 4);
-    grid->setVerticalSpacing(2);
-    for (std::size_t k = 0; k < StarPlaces.size(); ++k) {
-        const StarPlace& place = StarPlaces[k];
-        stars_[k] = {textLabel(toQt(place.nameControl), box), pictureLabel(toQt(place.teamControl), box)};
-        stars_[k].team->setFixedSize(120, 24);
-        const int row = static_cast<int>(k);
-        grid->addWidget(headLabel(toQt(place.caption), box), row, 0);
-        grid->addWidget(stars_[k].team, row, 1);
-        grid->addWidget(stars_[k].name, row, 2);
-    }
-    grid->setColumnStretch(2, 1);
-    return box;
-}
-
-QWidget* StatExtractorWindow::makeSummary(const char* frameName, const QString& caption, const char* textName,
-                                          QPlainTextEdit*& text) {
-    QGroupBox* box = frame(frameName, caption, this);
-    auto* column = new QVBoxLayout(box);
-    column->setContentsMargins(2, 4, 2, 2);
-    text = new QPlainTextEdit(box);
-    text->setObjectName(QLatin1String(textName));
-    text->setReadOnly(true);
-    text->setLineWrapMode(QPlainTextEdit::NoWrap);
-    QFont font = QFontDatabase::systemFont(QFontDatabase::FixedFont);
-    font.setPointSize(8);
-    text->setFont(font);
-    text->setMinimumHeight(90);
-    column->addWidget(text);
-    return box;
 }
 
 void StatExtractorWindow::refresh() {
@@ -225,9 +176,8 @@ void StatExtractorWindow::refresh() {
     fileName_->setToolTip(toQt(content.FileName));
     showChoices();
     if (content.report)
-        showReport(*content.report);
-    scoring_->setPlainText(toQt(content.ScoringSummary));
-    penalties_->setPlainText(toQt(content.PenaltySummary));
+        report_->show(*content.report);
+    standing_->setText(toQt(object_.standing()));
 }
 
 void StatExtractorWindow::showChoices() {
@@ -237,20 +187,6 @@ void StatExtractorWindow::showChoices() {
     awayCoaches_->setCurrentIndex(object_.T2Coach);
     season_->setChecked(object_.Season);
     exhibition_->setChecked(object_.Exhibition);
-}
-
-void StatExtractorWindow::showReport(const GameReport& report) {
-    homeRoster_->show(report.home);
-    awayRoster_->show(report.away);
-    homeFigures_->show(report.home);
-    awayFigures_->show(report.away);
-    homeScore_->setText(QString::number(report.home.stats.Goals));
-    awayScore_->setText(QString::number(report.away.stats.Goals));
-    finalMark_->setText(toQt(report.FinalMark));
-    for (std::size_t k = 0; k < stars_.size(); ++k) {
-        stars_[k].name->setText(toQt(report.Star[k].Name));
-        stars_[k].team->setPixmap(pictures::teamNameMini(report.Star[k].Team));
-    }
 }
 
 } // namespace iceline::desktop

@@ -1,21 +1,19 @@
 #pragma once
 
 #include "desktop/LeagueWindow.h"
-#include "games/ReportTables.h"
 #include "games/StatExtractor.h"
+
+#include <QScopedValueRollback>
 
 class QComboBox;
 class QLabel;
-class QPlainTextEdit;
 class QRadioButton;
-class QVBoxLayout;
 
 namespace iceline::desktop {
 
-class GameFiguresPanel;
-class GameRosterPanel;
+class GameReportView;
 
-/// The game window: reads a game, shows it whole, and imports it.
+/// The game window: reads a game, shows it whole and what its import would do, and imports it.
 class StatExtractorWindow : public LeagueWindow {
     Q_OBJECT
 
@@ -25,6 +23,9 @@ public:
     /// Reads and shows the game of a save state.
     void showGame(const std::string& path);
 
+    /// Shows and imports the game of a save state that is written again and again.
+    void importSlot(const std::string& path);
+
     /// What the buttons do.
     void selectGame();
     void importGame();
@@ -32,43 +33,37 @@ public:
 
 protected:
     void refresh() override;
+    bool event(QEvent* event) override;
 
 private:
-    struct StarLabels {
-        QLabel* name = nullptr;
-        QLabel* team = nullptr;
-    };
-
     QLayout* makeCommands();
     QLayout* makeChoices();
     QComboBox* makeCoachList(const char* name, void (StatExtractor::*choose)(int));
-    QWidget* makeRoster(const char* frameName, const QString& caption, const QString& team,
-                        const char* banner, GameRosterPanel*& panel);
-    QLayout* makeCentre();
-    QLayout* makeScore();
-    QLayout* makeFigures();
-    QWidget* makeStars();
-    QWidget* makeSummary(const char* frameName, const QString& caption, const char* textName,
-                         QPlainTextEdit*& text);
+    QWidget* makeOutlook();
     void showChoices();
-    void showReport(const GameReport& report);
+    void showOutlook();
+    QStringList outlook();
+
+    template <class Procedure>
+    void runAndShow(Procedure procedure) {
+        {
+            const QScopedValueRollback running(isRunning_, true);
+            run(procedure);
+        }
+        showOutlook();
+    }
 
     StatExtractor& object_;
-    GameRosterPanel* homeRoster_ = nullptr;
-    GameRosterPanel* awayRoster_ = nullptr;
-    GameFiguresPanel* homeFigures_ = nullptr;
-    GameFiguresPanel* awayFigures_ = nullptr;
+    GameReportView* report_ = nullptr;
     QLabel* fileName_ = nullptr;
-    QLabel* homeScore_ = nullptr;
-    QLabel* awayScore_ = nullptr;
-    QLabel* finalMark_ = nullptr;
-    std::array<StarLabels, StarPlaces.size()> stars_;
+    QLabel* standing_ = nullptr;
+    QLabel* outlook_ = nullptr;
     QComboBox* homeCoaches_ = nullptr;
     QComboBox* awayCoaches_ = nullptr;
     QRadioButton* season_ = nullptr;
     QRadioButton* exhibition_ = nullptr;
-    QPlainTextEdit* scoring_ = nullptr;
-    QPlainTextEdit* penalties_ = nullptr;
+    int committedAtOutlook_ = 0; ///< operations of this run that the outlook takes in
+    bool isRunning_ = false;     ///< a procedure is under way, which may show messages
 };
 
 } // namespace iceline::desktop

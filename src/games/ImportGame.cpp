@@ -154,7 +154,8 @@ bool isWanted(Application& app, StatExtractor& window) {
 struct Outcome {
     bool unwanted = false; ///< the user thought better of it; nothing has changed
     std::optional<Refusal> refusal = std::nullopt;
-    bool seasonEnds = false; ///< the game was the last of the regular season
+    bool seasonEnds = false;      ///< the game was the last of the regular season
+    std::string fingerprint = {}; ///< of the game that was imported
 };
 
 /// Notes that one more game of the run is in, and sees that its closing will find whole standings.
@@ -182,6 +183,7 @@ Outcome importGameInHand(Application& app, StatExtractor& window) {
             change.commit(ImportRefused{fileNameOf(app.state.SaveStatePath), outcome.refusal->text});
             return outcome;
         }
+        outcome.fingerprint = game.entry().fingerprint;
         outcome.seasonEnds = seasonIsOver(app);
         if (window.ImportMode == 1)
             noteFolderRun(app, window);
@@ -214,6 +216,7 @@ void StatExtractor::ImportStats_Click() {
         return;
     }
     ++ImportCount;
+    imported_ = outcome.fingerprint;
     if (single)
         app_.platform().say("The game has been imported and stats have been saved.");
     if (outcome.seasonEnds)

@@ -2,14 +2,13 @@
 
 #include "games/BookEntry.h"
 #include "games/BoxScorePage.h"
-#include "games/Summaries.h"
 #include "games/ThreeStars.h"
 #include "log/EntryText.h"
-#include "log/HistoryLog.h"
 #include "playoffs/SeasonEnd.h"
 #include "shell/Application.h"
 #include "text/Text.h"
 
+#include <algorithm>
 #include <set>
 
 namespace iceline {
@@ -32,8 +31,7 @@ void noteRosters(Application& app, GameImported& game) {
 std::string alreadyCounted(const CountedGame& game) {
     return "This game is in the books as game " + std::to_string(game.gameNumber) +
            (game.season.empty() ? "" : " of season " + game.season) + ": " +
-           std::string(TeamName[game.home]) + " " + std::to_string(game.homeGoals) + ", " +
-           std::string(TeamName[game.away]) + " " + std::to_string(game.awayGoals) + ", imported on " +
+           scoreText(game.home, game.homeGoals, game.away, game.awayGoals) + ", imported on " +
            game.time.substr(0, game.time.find('T')) + ".";
 }
 
@@ -75,10 +73,11 @@ void StatExtractor::showGame(const std::string& path) {
     app_.state.SaveStatePath = path;
     content_.FileName = path;
     content_.report = reportGame();
-    content_.ScoringSummary = scoringSummaryText(*content_.report);
-    content_.PenaltySummary = penaltySummaryText(*content_.report);
-    changed();
+    shown_ = fingerprintOf(game_->sheet, game_->lastScorer);
+    imported_.clear();
+    IsSlot = false;
     GameLoaded = true;
+    changed();
 }
 
 std::optional<std::string> StatExtractor::chooseSaveState() {
@@ -101,9 +100,19 @@ GameReport StatExtractor::reportGame() {
     return report;
 }
 
+/// The name of the save state, with the game's number before its ending where the name is taken.
+std::string StatExtractor::nameInBooks() {
+    const std::string name = fileNameOf(app_.state.SaveStatePath);
+    if (!IsSlot || !app_.files().isFile(paths::page("BoxScores/" + boxScorePageName(name))))
+        return name;
+    const std::string number = std::to_string(readNumber32(app_.files(), paths::OverallGameNumber));
+    return name.substr(0, name.rfind('.')) + "-" + number +
+           name.substr(std::min(name.rfind('.'), name.size()));
+}
+
 void StatExtractor::publishGame() {
     if (ImportMode != 1)
-        SaveStateFileName = fileNameOf(app_.state.SaveStatePath);
+        SaveStateFileName = nameInBooks();
     writeBoxScore(app_.files(),
                   {reportGame(), boxScorePageName(SaveStateFileName), gameKind(), homeCoach(), awayCoach()});
 }
@@ -133,13 +142,27 @@ std::optional<GameDoubt> StatExtractor::doubtAbout(const PlayedGame& game) {
         return std::nullopt;
     if (game.unfinished)
         return GameDoubt{GameDoubt::Kind::Unfinished, *game.unfinished};
+    if (const auto counted = countedAs(fingerprintOf(game.sheet, game.lastScorer)))
+        return GameDoubt{GameDoubt::Kind::AlreadyCounted, alreadyCounted(*counted)};
+    return std::nullopt;
+}
+
+std::optional<CountedGame> StatExtractor::countedAs(const std::string& fingerprint) {
     try {
-        if (const auto counted = app_.log().find(app_.files(), fingerprintOf(game.sheet, game.lastScorer)))
-            return GameDoubt{GameDoubt::Kind::AlreadyCounted, alreadyCounted(*counted)};
+        return app_.log().find(app_.files(), fingerprint);
     } catch (const DamagedHistory&) {
         return std::nullopt;
     }
-    return std::nullopt;
+}
+
+std::string StatExtractor::standing() {
+    if (!content_.report)
+        return "";
+    const auto counted = countedAs(shown_);
+    if (!counted)
+        return "read \u2013 not imported";
+    return (imported_ == shown_ ? "imported as game " : "in the books as game ") +
+           std::to_string(counted->gameNumber);
 }
 
 void StatExtractor::T1Coach_Click(int listIndex) {

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "games/GameReport.h"
-#include "log/Entry.h"
+#include "log/HistoryLog.h"
 #include "shell/Platform.h"
 #include "shell/Window.h"
 
@@ -39,8 +39,6 @@ public:
     struct Content {
         std::string FileName = "[No File Loaded]";
         std::optional<GameReport> report; ///< the game read last
-        std::string ScoringSummary;       ///< column text, lines ended by CR LF
-        std::string PenaltySummary;
         std::vector<std::string> coaches; ///< entries of both coach lists; entry 0 is "No Coach"
     };
 
@@ -61,6 +59,10 @@ public:
 
     /// The game read last as the history tells of it when it is imported now; its stars must be chosen.
     GameImported bookEntry();
+
+    /// What has become of the game that is shown: "read – not imported", "imported as game 12", or "in the
+    /// books as game 12" when it was imported before it was read; empty without one.
+    std::string standing();
 
     /// Whether a game is in the books already, or is none that was played to its end. A history that is
     /// damaged knows no game; the import asks about it.
@@ -120,11 +122,19 @@ public:
 
     std::string SaveStateFileName; ///< file name of the save state in hand, without its folder
 
+    /// The save state in hand is one that is written again and again: where its name has a page already, the
+    /// game gets a name of its own, so that both pages stay. Reading a game resets it.
+    bool IsSlot = false;
+
 private:
+    /// The game of that fingerprint in the books; none where the history is damaged.
+    std::optional<CountedGame> countedAs(const std::string& fingerprint);
+
     /// Writes the page, the list row and the recent games of the game in hand.
     void publishGame();
 
     std::optional<std::string> chooseSaveState();
+    std::string nameInBooks();
 
     /// The report of the game in hand, with its stars.
     GameReport reportGame();
@@ -132,6 +142,8 @@ private:
 
     Content content_;
     std::optional<PlayedGame> game_;
+    std::string shown_;    ///< fingerprint of the game that is shown
+    std::string imported_; ///< fingerprint of the game imported last, since one was shown
 };
 
 } // namespace iceline

@@ -1,6 +1,7 @@
 #include "history/ImportPreview.h"
 
 #include "games/BookEntry.h"
+#include "records/AllTimeRecords.h"
 #include "shell/Application.h"
 #include "standings/Standings.h"
 #include "store/TeamFiles.h"
@@ -26,16 +27,34 @@ TeamForm standingOf(Application& app, TeamIndex team) {
     return {readTeamRecord(app.files(), folder), readStreak(app.files(), folder), placeOf(app, team)};
 }
 
-std::vector<std::string> recordFiles(PartOfYear part) {
-    return {paths::allTimePlayerRecords(part), paths::allTimeGoalieRecords(part),
-            paths::allTimeLeagueRecords(part)};
+/// "Player Records, Goals in a Game: Ann Smith (BOS) 5".
+std::string textOf(const RecordSection& section, const ShownRecord& record) {
+    std::string text = std::string(section.caption) + ", " + std::string(record.caption) + ":";
+    if (!record.name.empty())
+        text += " " + record.name;
+    if (record.team)
+        text += " (" + std::string(TeamAbbr[*record.team]) + ")";
+    return text + " " + record.value;
 }
 
-std::vector<std::string> contentsOf(Application& app, const std::vector<std::string>& paths) {
-    std::vector<std::string> contents;
-    for (const std::string& path : paths)
-        contents.push_back(app.files().read(path));
-    return contents;
+/// The records of the league as they are now.
+std::vector<std::string> recordsOf(Application& app) {
+    std::vector<std::string> texts;
+    for (const RecordSection& section :
+         recordSections(readAllTimeRecords(app.files(), app.state.partOfYear())))
+        for (const ShownRecord& record : section.records)
+            texts.push_back(textOf(section, record));
+    return texts;
+}
+
+std::string textOf(const TeamForm& form) {
+    const TeamRecord& record = form.record;
+    std::string text = std::to_string(record.Wins) + "-" + std::to_string(record.Losses) + "-" +
+                       std::to_string(record.Ties) + ", " + std::to_string(record.Points) +
+                       " points, place " + std::to_string(form.place);
+    if (form.streak.StreakCount > 0)
+        text += ", streak " + form.streak.StreakLetter + std::to_string(form.streak.StreakCount);
+    return text;
 }
 
 /// The series of the two teams, by the bracket as it would be.
@@ -45,8 +64,7 @@ std::string seriesText(const ApplicationState& state, const GameSheet& game) {
     for (const PlayoffSeriesRecord& series : state.PlayoffSeries)
         if ((series.TeamA == game.home.team && series.TeamB == game.away.team) ||
             (series.TeamA == game.away.team && series.TeamB == game.home.team))
-            return std::string(TeamName[series.TeamA]) + " " + std::to_string(series.WinsA) + ", " +
-                   std::string(TeamName[series.TeamB]) + " " + std::to_string(series.WinsB);
+            return scoreText(series.TeamA, series.WinsA, series.TeamB, series.WinsB);
     return "";
 }
 
@@ -61,8 +79,7 @@ ImportPreview previewImport(Application& app) {
         return preview;
     }
     preview.doubt = window.doubtAbout(game);
-    const std::vector<std::string> paths = recordFiles(app.state.partOfYear());
-    const std::vector<std::string> before = contentsOf(app, paths);
+    const std::vector<std::string> before = recordsOf(app);
     for (const Side side : {Side::Home, Side::Away}) {
         const TeamIndex team = game.sheet.of(side).team;
         preview.teams.push_back({team, standingOf(app, team), {}});
@@ -70,16 +87,29 @@ ImportPreview previewImport(Application& app) {
     preview.refusal = window.tryImport([&] {
         for (TeamOutlook& outlook : preview.teams)
             outlook.after = standingOf(app, outlook.team);
-        const std::vector<std::string> after = contentsOf(app, paths);
-        for (std::size_t i = 0; i < paths.size(); ++i)
-            if (after[i] != before[i])
-                preview.files.push_back(paths[i]);
+        for (const std::string& record : recordsOf(app))
+            if (std::ranges::find(before, record) == before.end())
+                preview.records.push_back(record);
         preview.series = seriesText(app.state, window.gameInHand().sheet);
     });
     Standings::in(app).DivisionStandingsUpdate();
     if (preview.refusal)
         preview.teams.clear();
     return preview;
+}
+
+std::vector<std::string> linesOf(const ImportPreview& preview) {
+    if (preview.refusal)
+        return {*preview.refusal};
+    std::vector<std::string> lines;
+    for (const TeamOutlook& team : preview.teams)
+        lines.push_back(std::string(TeamName[team.team]) + ": " + textOf(team.before) + " -> " +
+                        textOf(team.after));
+    if (!preview.series.empty())
+        lines.push_back("Series: " + preview.series);
+    for (const std::string& record : preview.records)
+        lines.push_back("A record falls: " + record);
+    return lines;
 }
 
 } // namespace iceline

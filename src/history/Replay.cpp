@@ -95,9 +95,7 @@ void takeRosters(Files& files, const GameImported& game) {
 }
 
 std::string gameTitle(const GameImported& game, int number) {
-    return "game " + std::to_string(number > 0 ? number : game.gameNumber) + ", " +
-           std::string(TeamName[game.sheet.home.team]) + " " + std::to_string(game.sheet.home.Goals) + ", " +
-           std::string(TeamName[game.sheet.away.team]) + " " + std::to_string(game.sheet.away.Goals);
+    return "game " + std::to_string(number > 0 ? number : game.gameNumber) + ", " + scoreText(game.sheet);
 }
 
 /// What a user calls an operation, after the name that the log gives it.

@@ -46,4 +46,13 @@ void GameSheet::addPenalty(int period, int seconds, Side side, Infraction infrac
     at(team.PIM, player) += minutesOf(infraction);
 }
 
+std::string scoreText(TeamIndex home, int homeGoals, TeamIndex away, int awayGoals) {
+    return std::string(TeamName[home]) + " " + std::to_string(homeGoals) + ", " +
+           std::string(TeamName[away]) + " " + std::to_string(awayGoals);
+}
+
+std::string scoreText(const GameSheet& game) {
+    return scoreText(game.home.team, game.home.Goals, game.away.team, game.away.Goals);
+}
+
 } // namespace iceline

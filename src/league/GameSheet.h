@@ -6,6 +6,7 @@
 
 #include <array>
 #include <optional>
+#include <string>
 #include <vector>
 
 namespace iceline {
@@ -83,5 +84,9 @@ struct GameSheet {
     std::optional<int> scoringLength; ///< the scoring table's length byte where it is not that of `goals`
     std::optional<int> penaltyLength; ///< the same for `penalties`
 };
+
+/// "Boston Bruins 3, Montreal Canadiens 2", the home team first.
+std::string scoreText(TeamIndex home, int homeGoals, TeamIndex away, int awayGoals);
+std::string scoreText(const GameSheet& game);
 
 } // namespace iceline

@@ -63,8 +63,13 @@ TEST_F(GameWindowTest, ImportsByTheOptionAndKeepsTheCoachesApart) {
     choose(game());
     click(window, "LoadStats");
     click(window, "Season");
+    EXPECT_EQ(text(window, "Standing"), "read \u2013 not imported");
+    EXPECT_THAT(text(window, "OutlookText"),
+                testing::HasSubstr("0-0-0, 0 points, place 6 -> 1-0-0, 2 points, place 1, streak W1\n"));
     click(window, "ImportStats");
     EXPECT_EQ(league.said().back(), "The game has been imported and stats have been saved.");
+    EXPECT_EQ(text(window, "Standing"), "imported as game 1");
+    EXPECT_EQ(text(window, "OutlookText"), "");
     EXPECT_EQ(league.record(Boston).Wins, 1);
     EXPECT_EQ(league.coachRecord("Ann").Losses, 1);
 }

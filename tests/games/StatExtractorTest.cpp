@@ -2,6 +2,7 @@
 
 #include "files/FileError.h"
 #include "games/ImportLeague.h"
+#include "games/Summaries.h"
 
 namespace iceline {
 namespace {
@@ -49,8 +50,8 @@ TEST_F(StatExtractorTest, SelectedGameFillsTheWindowAndWritesNothing) {
     EXPECT_EQ(report.home.stats.Goals, 2);
     EXPECT_EQ(report.home.players[5].Name, league.roster(StLouis)[5].Name);
     EXPECT_EQ(report.Star[0].Name, league.roster(StLouis)[5].Name) << "the winning goal's scorer";
-    EXPECT_THAT(window().content().ScoringSummary, HasSubstr("OT  5:00  STL  " + report.Star[0].Name));
-    EXPECT_THAT(window().content().PenaltySummary, HasSubstr("Hooking               2:00\r\n"));
+    EXPECT_THAT(scoringSummaryText(report), HasSubstr("OT  5:00  STL  " + report.Star[0].Name));
+    EXPECT_THAT(penaltySummaryText(report), HasSubstr("Hooking               2:00\r\n"));
     EXPECT_EQ(changes, 1);
 
     EXPECT_TRUE(window().GameLoaded);
