@@ -1,7 +1,10 @@
 #include "desktop/HistoryWindow.h"
 
 #include "desktop/Controls.h"
+#include "desktop/CorrectionDialog.h"
+#include "desktop/GameReportWindow.h"
 #include "desktop/QtPlatform.h"
+#include "store/LeaguePaths.h"
 
 #include <QComboBox>
 #include <QEvent>
@@ -10,8 +13,10 @@
 #include <QLineEdit>
 #include <QPushButton>
 #include <QShortcut>
+#include <QSignalBlocker>
 #include <QTableView>
 
+#include <algorithm>
 #include <array>
 
 namespace iceline::desktop {
@@ -71,24 +76,31 @@ QWidget* HistoryWindow::makeFilters() {
     search_->setObjectName(QStringLiteral("Search"));
     search_->setPlaceholderText(QStringLiteral("Search"));
     search_->setClearButtonEnabled(true);
-    team_ = new QComboBox(filters);
-    team_->setObjectName(QStringLiteral("Team"));
-    team_->setAccessibleName(QStringLiteral("Team"));
+    row->addWidget(search_, 1);
+    team_ = addFilter(*row, "Team", QStringLiteral("Team"));
     team_->addItem(QStringLiteral("All Teams"));
     for (const TeamIndex team : AllLeagueTeams)
         team_->addItem(toQt(TeamName[team]));
-    kind_ = new QComboBox(filters);
-    kind_->setObjectName(QStringLiteral("Kind"));
-    kind_->setAccessibleName(QStringLiteral("Kind of operation"));
+    coach_ = addFilter(*row, "Coach", QStringLiteral("Coach"));
+    coach_->addItem(QStringLiteral("All Coaches"));
+    kind_ = addFilter(*row, "Kind", QStringLiteral("Kind of operation"));
     for (const Kind& kind : Kinds)
         kind_->addItem(QString::fromLatin1(kind.caption), QString::fromLatin1(kind.what));
-    row->addWidget(search_, 1);
-    row->addWidget(team_);
-    row->addWidget(kind_);
+    part_ = addFilter(*row, "Part", QStringLiteral("Part of the year"));
+    part_->addItems({QStringLiteral("Whole Year"), QStringLiteral("Season"), QStringLiteral("Play-offs")});
     connect(search_, &QLineEdit::textChanged, this, &HistoryWindow::takeFilters);
-    connect(team_, &QComboBox::currentIndexChanged, this, &HistoryWindow::takeFilters);
-    connect(kind_, &QComboBox::currentIndexChanged, this, &HistoryWindow::takeFilters);
+    for (const QComboBox* list : {team_, coach_, kind_, part_})
+        connect(list, &QComboBox::currentIndexChanged, this, &HistoryWindow::takeFilters);
     return filters;
+}
+
+QComboBox* HistoryWindow::addFilter(QLayout& row, const char* name, const QString& accessibleName) {
+    auto* list = new QComboBox(this);
+    list->setObjectName(QString::fromLatin1(name));
+    list->setAccessibleName(accessibleName);
+    list->setSizeAdjustPolicy(QComboBox::AdjustToContents);
+    row.addWidget(list);
+    return list;
 }
 
 QTableView* HistoryWindow::makeTable() {
@@ -110,6 +122,7 @@ QTableView* HistoryWindow::makeTable() {
     table_->sortByColumn(Number, Qt::DescendingOrder);
     const int letter = table_->fontMetrics().averageCharWidth();
     table_->setMinimumSize(110 * letter, 20 * table_->fontMetrics().height());
+    connect(table_, &QTableView::activated, this, &HistoryWindow::showReport);
     connect(table_->selectionModel(), &QItemSelectionModel::selectionChanged, this,
             &HistoryWindow::showButtons);
     return table_;
@@ -128,10 +141,17 @@ QWidget* HistoryWindow::makeButtons() {
     row->setContentsMargins(0, 0, 0, 0);
     undo_ = addButton(*row, "Undo", QStringLiteral("&Undo"));
     redo_ = addButton(*row, "Redo", QStringLiteral("&Redo"));
+    correct_ = addButton(*row, "Correct", QStringLiteral("&Correct Game..."));
+    report_ = addButton(*row, "Report", QStringLiteral("Game Re&port"));
     row->addStretch();
+    QPushButton* exportData = addButton(*row, "Export", QStringLiteral("&Export..."));
     row->addWidget(exitButton("Close", this));
     connect(undo_, &QPushButton::clicked, this, [this] { run([this] { history_.Undo_Click(chosen()); }); });
     connect(redo_, &QPushButton::clicked, this, &HistoryWindow::redoLast);
+    connect(correct_, &QPushButton::clicked, this, &HistoryWindow::correctChosen);
+    connect(report_, &QPushButton::clicked, this, &HistoryWindow::showReport);
+    connect(exportData, &QPushButton::clicked, this,
+            [this] { guarded(this, [this] { history_.Export_Click(); }); });
     return buttons;
 }
 
@@ -146,7 +166,11 @@ void HistoryWindow::redoLast() {
 void HistoryWindow::takeFilters() {
     const int team = team_->currentIndex() - 1;
     history_.filter.team = team < 0 ? std::nullopt : std::optional(TeamIndex(team));
+    history_.filter.coach = coach_->currentIndex() > 0 ? fromQt(coach_->currentText()) : "";
     history_.filter.what = fromQt(kind_->currentData().toString());
+    history_.filter.part =
+        std::array<std::optional<PartOfYear>, 3>{std::nullopt, PartOfYear::Season, PartOfYear::Playoffs}.at(
+            static_cast<std::size_t>(part_->currentIndex()));
     history_.filter.text = fromQt(search_->text());
     history_.showFiltered();
     fill();
@@ -161,7 +185,19 @@ bool HistoryWindow::event(QEvent* event) {
 void HistoryWindow::showAgain() {
     committedWhenRead_ = app_.operationsCommitted();
     guarded(this, [this] { history_.Form_Load(); });
-    fill();
+    fillCoaches();
+    takeFilters();
+}
+
+/// The coach that was chosen stays, where he is still named.
+void HistoryWindow::fillCoaches() {
+    const QSignalBlocker blocker(coach_);
+    const QString chosen = coach_->currentIndex() > 0 ? coach_->currentText() : QString();
+    while (coach_->count() > 1)
+        coach_->removeItem(1);
+    for (const std::string& coach : history_.content().coaches)
+        coach_->addItem(toQt(coach));
+    coach_->setCurrentIndex(chosen.isEmpty() ? 0 : std::max(0, coach_->findText(chosen)));
 }
 
 void HistoryWindow::fill() {
@@ -179,6 +215,39 @@ void HistoryWindow::showButtons() {
                             : QStringLiteral("&Undo Last Operation"));
     undo_->setEnabled(history_.content().canUndo);
     redo_->setEnabled(history_.content().canRedo);
+    const HistoryRow* game = chosenGame();
+    correct_->setEnabled(game && !game->undone &&
+                         std::holds_alternative<GameImported>(game->step.entry.operation));
+    report_->setEnabled(game);
+}
+
+const HistoryRow* HistoryWindow::chosenGame() const {
+    const auto& rows = history_.content().rows;
+    const auto row =
+        std::ranges::find(rows, chosen(), [](const auto& one) { return std::optional(one.number); });
+    return row != rows.end() && row->game() ? &*row : nullptr;
+}
+
+void HistoryWindow::correctChosen() {
+    const HistoryRow* row = chosenGame();
+    if (!row)
+        return;
+    guarded(this, [&] {
+        CorrectionDialog dialog(toQt(row->title), *row->game(), app_.files().foldersIn(paths::Coaches), this);
+        const int number = row->number;
+        if (dialog.exec() == QDialog::Accepted)
+            run([&] { history_.Correct_Click(number, dialog.correction()); });
+    });
+}
+
+void HistoryWindow::showReport() {
+    const HistoryRow* row = chosenGame();
+    if (!row)
+        return;
+    guarded(this, [&] {
+        if (const auto report = history_.report(row->number))
+            (new GameReportWindow(toQt(row->title), *report, this))->show();
+    });
 }
 
 std::optional<int> HistoryWindow::chosen() const {

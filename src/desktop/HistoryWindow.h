@@ -14,8 +14,9 @@ class QTableView;
 
 namespace iceline::desktop {
 
-/// All operations of the league, newest first, to sort, filter and search, with buttons that take one back.
-/// What other windows have done in the meantime shows when the window is activated.
+/// All operations of the league, newest first, to sort, filter and search. A row opens the report of its
+/// game; buttons take an operation back, correct a game and export the league's data. What other windows have
+/// done in the meantime shows when the window is activated.
 class HistoryWindow : public QWidget {
     Q_OBJECT
 
@@ -40,9 +41,17 @@ private:
     QTableView* makeTable();
     QWidget* makeButtons();
     QPushButton* addButton(QLayout& row, const char* name, const QString& caption);
+    QComboBox* addFilter(QLayout& row, const char* name, const QString& accessibleName);
     void takeFilters();
     void fill();
+    void fillCoaches();
     void showButtons();
+
+    /// The row that is chosen, when its operation is a game; else null.
+    const HistoryRow* chosenGame() const;
+
+    void correctChosen();
+    void showReport();
 
     /// The operation in the row that is chosen.
     std::optional<int> chosen() const;
@@ -63,10 +72,14 @@ private:
     ScrolledPage page_{this};
     QLineEdit* search_ = nullptr;
     QComboBox* team_ = nullptr;
+    QComboBox* coach_ = nullptr;
     QComboBox* kind_ = nullptr;
+    QComboBox* part_ = nullptr;
     QTableView* table_ = nullptr;
     QPushButton* undo_ = nullptr;
     QPushButton* redo_ = nullptr;
+    QPushButton* correct_ = nullptr;
+    QPushButton* report_ = nullptr;
     int committedWhenRead_ = -1; ///< operations of this run that the rows take in
 };
 

@@ -1,6 +1,7 @@
 #include "desktop/HistoryWindow.h"
 
 #include "DesktopTest.h"
+#include "desktop/CorrectionDialog.h"
 #include "desktop/QtPlatform.h"
 #include "games/StatExtractor.h"
 #include "samples/SaveStateWriter.h"
@@ -64,6 +65,35 @@ TEST_F(HistoryWindowTest, TakesAChosenGameBackAndPutsItInPlaceAgain) {
     control<QLineEdit>(window, QStringLiteral("Search")).clear();
     control<QComboBox>(window, QStringLiteral("Team")).setCurrentIndex(1);
     EXPECT_THAT(rows(), testing::ElementsAre(first));
+}
+
+TEST_F(HistoryWindowTest, ShowsTheReportOfAGameAndCorrectsIt) {
+    league.addCoach("Ann");
+    import("1.gs0", 0, 1);
+    import("2.gs0", 2, 3);
+    window.showAgain();
+    EXPECT_FALSE(control<QAbstractButton>(window, QStringLiteral("Correct")).isEnabled())
+        << "no row is chosen";
+    control<QTableView>(window, QStringLiteral("Operations")).selectRow(0);
+    league.files.files.erase("2.gs0");
+    click(window, "Report");
+    auto& report = control<QWidget>(window, QStringLiteral("GameReport"));
+    EXPECT_EQ(text(report, "DisplayHomeScore"), "3");
+    EXPECT_EQ(text(report, "Team1Names(4)"), league.roster(TeamIndex(2))[4].Name);
+
+    GameImported game;
+    game.season = true;
+    CorrectionDialog dialog(QStringLiteral("game 2"), game, {"Ann"}, nullptr);
+    control<QComboBox>(dialog, QStringLiteral("AwayCoach")).setCurrentIndex(1);
+    const Correction correction = dialog.correction();
+    EXPECT_EQ(correction.awayCoach, std::optional(std::optional<std::string>("Ann")));
+    EXPECT_FALSE(correction.homeCoach || correction.exhibition || correction.file) << "they have not changed";
+    correct(league.app, 2, correction);
+    window.showAgain();
+    control<QComboBox>(window, QStringLiteral("Coach")).setCurrentIndex(1);
+    EXPECT_EQ(rows().size(), 2u) << "the game and its correction";
+    control<QComboBox>(window, QStringLiteral("Part")).setCurrentIndex(2);
+    EXPECT_EQ(rows().size(), 0u) << "it was no game of the play-offs";
 }
 
 } // namespace
