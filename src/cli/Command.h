@@ -99,11 +99,12 @@ void addWindowCommands(CLI::App& program, Call& call);
 void addCoachCommands(CLI::App& program, Call& call);
 void addRecoverCommand(CLI::App& program, Call& call);
 void addPreviewCommand(CLI::App& program, Call& call);
+void addWatchCommand(CLI::App& program, Call& call);
 void addScriptCommand(CLI::App& program, Call& call);
 void addHelpCommand(CLI::App& program, Call& call);
 
-/// Every command that a line of a script can hold: all but `script` itself, and `preview`, which goes on
-/// until it is stopped.
+/// Every command that a line of a script can hold: all but `script` itself, and `preview` and `watch`, which
+/// go on until they are stopped.
 void addScriptableCommands(CLI::App& program, Call& call);
 
 /// Parses the words of a call. The call has no action when the words asked for help or the version, which is

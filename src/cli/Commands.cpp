@@ -41,6 +41,7 @@ void addAll(CLI::App& program, Call& call, LeagueChoice& choice) {
     addScriptableCommands(program, call);
     addRecoverCommand(program, call);
     addPreviewCommand(program, call);
+    addWatchCommand(program, call);
     addScriptCommand(program, call);
 }
 

@@ -33,7 +33,8 @@ std::uint64_t clockSeed() {
 ConsolePlatform::ConsolePlatform(Console& console) : console_(console), generator_(clockSeed()) {}
 
 Answer ConsolePlatform::ask(const Message& message) {
-    console_.out << message.text << '\n';
+    if (!isQuiet || message.buttons != Buttons::Ok)
+        console_.out << message.text << '\n';
     switch (message.buttons) {
     case Buttons::Ok:
         return Answer::Ok;

@@ -33,6 +33,9 @@ public:
     /// How often a message with OK and Cancel was asked: within a folder run, the refused games.
     int okCancelAsked = 0;
 
+    /// Messages that ask nothing are not printed.
+    bool isQuiet = false;
+
     /// What the next file or folder dialog gives, once.
     std::optional<std::string> choice;
 

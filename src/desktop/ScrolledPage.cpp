@@ -61,7 +61,8 @@ bool ScrolledPage::eventFilter(QObject* object, QEvent* event) {
 }
 
 void ScrolledPage::growWindow() {
-    window()->resize(window()->size().expandedTo(sizeFor(needed_)));
+    const QSize beside = window()->size() - size(); // a menu bar
+    window()->resize(window()->size().expandedTo(sizeFor(needed_ + beside)));
     const QRect frame = window()->geometry();
     const QPoint beyond(std::max(0, frame.right() - room().right()),
                         std::max(0, frame.bottom() - room().bottom()));

@@ -32,7 +32,9 @@ std::string aboutText() {
 
 WelcomeWindow::WelcomeWindow(Application& application, PreviewServer& preview)
     : app_(application), preview_(preview), windows_(application), history_(application),
-      menus_(new MainMenu(this)) {
+      menus_(new MainMenu(this)),
+      watch_(new WatchBar(
+          application, [this](const std::string& path) { importGame(path); }, this)) {
     setObjectName(QStringLiteral("WelcomeWindow"));
     setWindowTitle(QStringLiteral("Welcome to the Iceline Scorebook 3.0 - Rinkstar Version"));
     layOut();
@@ -42,9 +44,12 @@ WelcomeWindow::WelcomeWindow(Application& application, PreviewServer& preview)
 }
 
 void WelcomeWindow::layOut() {
-    auto* columns = new QHBoxLayout(page_.widget());
-    columns->setContentsMargins(24, 24, 24, 24);
+    auto* rows = new QVBoxLayout(page_.widget());
+    rows->setContentsMargins(24, 24, 24, 24);
+    auto* columns = new QHBoxLayout;
     columns->setSpacing(24);
+    rows->addLayout(columns, 1);
+    rows->addWidget(watch_);
     columns->addWidget(makeCatalogue(), 1);
 
     auto* side = new QVBoxLayout;
@@ -74,6 +79,7 @@ void WelcomeWindow::makeMenus() {
                 [this] { gameWindow().importGame(); });
     menus_->add(file, QStringLiteral("Import &Folder..."), QStringLiteral("Ctrl+Shift+O"),
                 [this] { gameWindow().importFolder(); });
+    menus_->add(file, QStringLiteral("&Watch Folder..."), {}, [this] { watch_->chooseFolder(); });
     file.addSeparator();
     menus_->add(file, QStringLiteral("&Quit"), QStringLiteral("Ctrl+Q"), [this] { close(); });
     QMenu& league = *menus_->addMenu(QStringLiteral("&League"));
@@ -112,6 +118,10 @@ void WelcomeWindow::addWindowsTo(QMenu& menu) {
 StatExtractorWindow& WelcomeWindow::gameWindow() {
     windows_.open(WindowId::StatExtractor);
     return static_cast<StatExtractorWindow&>(*windows_.window(WindowId::StatExtractor));
+}
+
+void WelcomeWindow::importGame(const std::string& path) {
+    guarded(this, [&] { gameWindow().importSlot(path); });
 }
 
 void WelcomeWindow::generateWebpages() {

@@ -5,6 +5,7 @@
 #include "desktop/PreviewServer.h"
 #include "desktop/ScrolledPage.h"
 #include "desktop/StatExtractorWindow.h"
+#include "desktop/WatchBar.h"
 #include "desktop/WindowManager.h"
 
 #include <QTimer>
@@ -49,6 +50,9 @@ private:
     /// The game window, opened or brought to the front.
     StatExtractorWindow& gameWindow();
 
+    /// By the choices that the game window has.
+    void importGame(const std::string& path);
+
     void generateWebpages();
 
     /// Shows the site in the browser.
@@ -62,6 +66,7 @@ private:
     HistoryWindow history_;
     ScrolledPage page_{this};
     MainMenu* menus_;
+    WatchBar* watch_;
     QTimer timer1_{this};
 };
 

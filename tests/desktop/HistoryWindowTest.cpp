@@ -3,11 +3,15 @@
 #include "DesktopTest.h"
 #include "desktop/CorrectionDialog.h"
 #include "desktop/QtPlatform.h"
+#include "desktop/WatchBar.h"
 #include "games/StatExtractor.h"
 #include "samples/SaveStateWriter.h"
+#include "support/TemporaryFolder.h"
 
 #include <QLineEdit>
 #include <QTableView>
+
+#include <fstream>
 
 namespace iceline::desktop {
 namespace {
@@ -94,6 +98,39 @@ TEST_F(HistoryWindowTest, ShowsTheReportOfAGameAndCorrectsIt) {
     EXPECT_EQ(rows().size(), 2u) << "the game and its correction";
     control<QComboBox>(window, QStringLiteral("Part")).setCurrentIndex(2);
     EXPECT_EQ(rows().size(), 0u) << "it was no game of the play-offs";
+}
+
+TEST_F(HistoryWindowTest, AWatchedFolderOffersEachGameUntilItIsInTheBooks) {
+    const test::TemporaryFolder folder;
+    const std::string slot = folder.path().generic_string() + "/slot.gs0";
+    const auto save = [&](int home) {
+        GameSheet game{TeamIndex(home), TeamIndex(1)};
+        game.home.Goals = game.home.Shots = 3;
+        league.files.files[slot] = saveStateBytes(game);
+        std::ofstream(slot) << league.files.files[slot] << home;
+    };
+    WatchBar bar(
+        league.app, [&](const std::string& path) { import(path, 2, 1); }, &window);
+    EXPECT_TRUE(bar.isHidden());
+    league.platform.chosen.push_back(folder.path().generic_string());
+    bar.chooseFolder();
+    EXPECT_EQ(text(bar, "WatchText"), "Watching " + folder.path().generic_string());
+    FolderWatch::Time now;
+    const auto shown = [&] {
+        bar.look(now += std::chrono::seconds(1));
+        bar.look(now += std::chrono::seconds(3));
+        return text(bar, "WatchText");
+    };
+    save(0);
+    EXPECT_EQ(shown(), std::string(TeamName[0]) + " 3, " + std::string(TeamName[1]) + " 0");
+    click(bar, "WatchIgnore");
+    EXPECT_THAT(shown(), testing::StartsWith("Watching "));
+    save(2);
+    EXPECT_EQ(shown(), std::string(TeamName[2]) + " 3, " + std::string(TeamName[1]) + " 0");
+    click(bar, "WatchImport");
+    EXPECT_THAT(text(bar, "WatchText"), testing::StartsWith("Watching "));
+    std::filesystem::last_write_time(slot, std::filesystem::file_time_type::clock::now());
+    EXPECT_THAT(shown(), testing::StartsWith("Watching ")) << "it is in the books";
 }
 
 } // namespace
