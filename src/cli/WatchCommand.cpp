@@ -59,9 +59,11 @@ private:
     }
 
     void lookIntoFiles() {
-        for (const std::string& path : std::exchange(waiting_, {}))
-            if (const auto game = games_.look(session_.app(), path))
+        for (const std::string& path : std::exchange(waiting_, {})) {
+            const auto game = games_.look(session_.app(), path);
+            if (game && StopSignals::received() == 0)
                 tell(*game);
+        }
         if (watch_.publish && StatExtractor::in(session_.app()).ImportCount > 0)
             publish();
         session_.out() << std::flush;

@@ -100,7 +100,7 @@ QWidget* StatExtractorWindow::makeOutlook() {
     return box;
 }
 
-/// Works it out anew for the game in hand, by the choices as they are.
+/// Works it out for the game in hand, by the choices as they are.
 void StatExtractorWindow::showOutlook() {
     committedAtOutlook_ = app_.operationsCommitted();
     QStringList lines;
