@@ -3,6 +3,7 @@
 #include "cli/UseWindow.h"
 #include "cli/WindowPrinters.h"
 #include "copies/Backup.h"
+#include "history/Audit.h"
 #include "history/History.h"
 #include "log/EntryText.h"
 #include "page/DataTable.h"
@@ -186,14 +187,15 @@ void printAudit(const Audit& audit, bool asJson, std::ostream& out) {
     if (asJson) {
         Json list = Json::array();
         for (const Difference& difference : audit.differences)
-            list.push_back({{"path", difference.path}, {"text", textOf(difference)}});
+            list.push_back({{"path", difference.path}, {"texts", textsOf(difference)}});
         const Json object{
             {"files", audit.files}, {"differ", audit.differences.size()}, {"differences", list}};
         out << object.dump(1) << '\n';
         return;
     }
     for (const Difference& difference : audit.differences)
-        out << textOf(difference) << '\n';
+        for (const std::string& text : textsOf(difference))
+            out << text << '\n';
     out << audit.differences.size() << " of " << audit.files << " files differ\n";
 }
 

@@ -1,7 +1,6 @@
 #include "history/HistoryChanges.h"
 
 #include "coaches/Coaches.h"
-#include "copies/Backup.h"
 #include "copies/KeptSeason.h"
 #include "files/FileError.h"
 #include "games/BookEntry.h"
@@ -19,8 +18,6 @@
 
 namespace iceline {
 
-namespace {
-
 std::optional<std::string> contentIn(const FileContents& books, const std::string& path) {
     const auto file = books.find(path);
     return file == books.end() ? std::nullopt : std::optional(file->second);
@@ -36,6 +33,22 @@ void put(Files& files, const std::string& path, const std::optional<std::string>
     files.makeFolder(folderOf(path));
     files.write(path, *content);
 }
+
+void refreshWindows(Application& app) {
+    if (app.windows().isLoaded(WindowId::Standings))
+        Standings::in(app).Form_Load();
+    if (app.windows().isLoaded(WindowId::Rankings))
+        Rankings::in(app, PartOfYear::Season).tmLeadersLoad();
+}
+
+std::vector<Step> requireHistory(Application& app) {
+    std::vector<Step> steps = readHistory(app.files());
+    if (steps.empty())
+        throw HistoryRefusal("The league has no history yet.");
+    return steps;
+}
+
+namespace {
 
 /// The league as its history makes it and as it would be with one line more.
 struct TwoWays {
@@ -92,9 +105,8 @@ void removeEmptyCoachFolders(Files& files) {
             files.removeFolder(paths::coachFolder(coach));
 }
 
-/// The copies of a season go with the operation that began the next one. False when none has to go.
-bool moveKeptSeasons(Files& files, const std::vector<Step>& now, const std::vector<Step>& then) {
-    bool moved = false;
+/// The copies of a season go with the operation that began the next one.
+void moveKeptSeasons(Files& files, const std::vector<Step>& now, const std::vector<Step>& then) {
     for (std::size_t i = 0; i < now.size(); ++i) {
         const auto* season = std::get_if<NewSeason>(&now[i].entry.operation);
         if (!season || now[i].undone == then[i].undone)
@@ -103,9 +115,7 @@ bool moveKeptSeasons(Files& files, const std::vector<Step>& now, const std::vect
             putSeasonAside(files, *season, now[i].entry.time);
         else
             bringSeasonBack(files, *season, now[i].entry.time);
-        moved = true;
     }
-    return moved;
 }
 
 void takeOver(ApplicationState& state, const ApplicationState& worked) {
@@ -115,23 +125,8 @@ void takeOver(ApplicationState& state, const ApplicationState& worked) {
     state.PlayoffSeries = worked.PlayoffSeries;
 }
 
-/// What the windows show follows the files.
-void refreshWindows(Application& app) {
-    if (app.windows().isLoaded(WindowId::Standings))
-        Standings::in(app).Form_Load();
-    if (app.windows().isLoaded(WindowId::Rankings))
-        Rankings::in(app, PartOfYear::Season).tmLeadersLoad();
-}
-
-std::vector<Step> requireHistory(Application& app) {
-    std::vector<Step> steps = readHistory(app.files());
-    if (steps.empty())
-        throw HistoryRefusal("The league has no history yet.");
-    return steps;
-}
-
-/// Adds a line that changes what other lines come to. True when the kept seasons are others then.
-bool carryOutLogged(Application& app, const LoggedOperation& operation) {
+/// Adds a line that changes what other lines come to.
+void carryOutLogged(Application& app, const LoggedOperation& operation) {
     LoggedChange change(app);
     std::vector<Entry> entries = readLog(app.files());
     const std::vector<Step> now = chronicleOf(entries);
@@ -140,25 +135,23 @@ bool carryOutLogged(Application& app, const LoggedOperation& operation) {
                        .starts = !app.state.Logged,
                        .playoffs = false,
                        .operation = operation});
-    bool movesSeason = false;
     try {
         const std::vector<Step> then = chronicleOf(entries);
         const TwoWays ways = workOut(app, now, then);
         writeDifferences(app.files(), ways.asIs->books(), ways.changed->books());
         removeEmptyCoachFolders(app.files());
-        movesSeason = moveKeptSeasons(app.files(), now, then);
+        moveKeptSeasons(app.files(), now, then);
         takeOver(app.state, ways.changed->state());
     } catch (const Misfit& misfit) {
         throw HistoryRefusal(misfit.what());
     }
     change.commit(operation);
-    return movesSeason;
 }
 
 /// The same, and brings what shows it up to date.
 void apply(Application& app, const LoggedOperation& operation) {
-    if (carryOutLogged(app, operation))
-        writeSeasons(app.files());
+    carryOutLogged(app, operation);
+    renewSeasons(app.files());
     refreshWindows(app);
 }
 
@@ -204,37 +197,25 @@ void applyTo(GameImported& game, const Correction& correction) {
         throw HistoryRefusal("An exhibition game counts for coaches alone, so it needs at least one.");
 }
 
-/// The items of a file, with the place of each: line and item, counted from 1.
-struct Item {
-    int line;
-    int place;
-    std::string text;
-
-    friend bool operator==(const Item&, const Item&) = default;
-};
-
-std::vector<Item> itemsOf(const std::string& content) {
-    std::vector<Item> items;
-    Item item{1, 1, ""};
-    for (const char c : content) {
-        if (c == ',' || c == '\n') {
-            items.push_back(item);
-            item = c == ',' ? Item{item.line, item.place + 1, ""} : Item{item.line + 1, 1, ""};
-        } else if (c != '\r') {
-            item.text += c;
-        }
-    }
-    items.push_back(item);
-    return items;
+/// The game that an import or a correction puts into the books; null for any other operation.
+const GameImported* gameOf(const LoggedOperation& operation) {
+    const auto* correction = std::get_if<GameCorrected>(&operation);
+    return correction ? &correction->game : std::get_if<GameImported>(&operation);
 }
 
-/// " (WinPercent)" for an item of a file whose fields have names.
-std::string fieldName(const std::string& path, const Item& item) {
-    const auto fields = fieldsOf<TeamRecord>();
-    const auto place = static_cast<std::size_t>(item.place) - 1;
-    if (!path.ends_with("/" + paths::Records) || place >= fields.size())
-        return "";
-    return " (" + std::string(fields[place].name) + ")";
+/// A game that was imported again since it was undone would count twice.
+void refuseCountingTwice(const std::vector<Step>& steps, int number) {
+    const GameImported* game = gameOf(steps[static_cast<std::size_t>(number)].entry.operation);
+    const auto undone = std::find_if(steps.rbegin(), steps.rend(), [&](const Step& step) {
+        const auto* undo = std::get_if<Undone>(&step.entry.operation);
+        return undo && undo->of == number;
+    });
+    for (auto step = undone.base(); game && step != steps.end(); ++step)
+        if (const GameImported* other = gameAt(*step); other && other->fingerprint == game->fingerprint)
+            throw HistoryRefusal(
+                "This cannot be done again, because the game would count twice: since it was "
+                "undone it has been imported as " +
+                titleOf(*step) + ".");
 }
 
 } // namespace
@@ -257,6 +238,7 @@ std::string redo(Application& app) {
     const auto number = lastToRedo(steps);
     if (!number)
         throw HistoryRefusal("There is nothing to redo.");
+    refuseCountingTwice(steps, *number);
     apply(app, Redone{*number});
     return "Done again: " + titleOf(operationAt(steps, *number)) + ".";
 }
@@ -275,58 +257,6 @@ std::string correct(Application& app, int number, const Correction& correction) 
     applyTo(corrected.game, correction);
     apply(app, corrected);
     return "Corrected: " + titleOf({step.entry, false, true, step.gameNumber}) + ".";
-}
-
-Audit auditBooks(Application& app) {
-    const std::vector<Step> steps = requireHistory(app);
-    Replay replay(readBaseline(app.files()), app.windows().catalogue());
-    for (const Step& step : steps)
-        replay.carryOut(step);
-    const FileContents expected = replay.books();
-    std::set<std::string> all;
-    for (const auto& file : expected)
-        all.insert(file.first);
-    for (const std::string& path : booksOf(app.files()))
-        all.insert(path);
-    Audit audit{all.size(), {}};
-    for (const std::string& path : all) {
-        Difference difference{path, contentIn(app.files(), path), contentIn(expected, path)};
-        if (difference.found != difference.expected)
-            audit.differences.push_back(std::move(difference));
-    }
-    return audit;
-}
-
-void acceptDifferences(Application& app, const Audit& audit) {
-    FilesAccepted accepted;
-    for (const Difference& difference : audit.differences)
-        accepted.files.push_back({difference.path, difference.found});
-    LoggedChange change(app);
-    change.commit(std::move(accepted));
-}
-
-void repairDifferences(Application& app, const Audit& audit) {
-    backUpByItself(app);
-    Operation operation(app);
-    for (const Difference& difference : audit.differences)
-        put(app.files(), difference.path, difference.expected);
-    operation.commit();
-    refreshWindows(app);
-}
-
-std::string textOf(const Difference& difference) {
-    if (!difference.found)
-        return difference.path + ": the file is missing";
-    if (!difference.expected)
-        return difference.path + ": the games give no such file";
-    const std::vector<Item> found = itemsOf(*difference.found);
-    const std::vector<Item> expected = itemsOf(*difference.expected);
-    const auto [one, other] = std::ranges::mismatch(found, expected);
-    if (one == found.end() || other == expected.end())
-        return difference.path + ": the file has another length";
-    return difference.path + ", line " + std::to_string(one->line) + ", item " + std::to_string(one->place) +
-           fieldName(difference.path, *one) + ": " + one->text + " stands there, the games give " +
-           other->text;
 }
 
 } // namespace iceline

@@ -31,28 +31,15 @@ std::string undo(Application& app, std::optional<int> number);
 std::string redo(Application& app);
 std::string correct(Application& app, int number, const Correction& correction);
 
-/// A file that is not what the history makes of it.
-struct Difference {
-    std::string path;
-    std::optional<std::string> found;    ///< none: there is no such file
-    std::optional<std::string> expected; ///< none: there should be none
-};
+/// The history of the league. Throws HistoryRefusal for a league without one.
+std::vector<Step> requireHistory(Application& app);
 
-/// The books worked out anew from the history, and how the league's files differ from them.
-struct Audit {
-    std::size_t files = 0; ///< compared
-    std::vector<Difference> differences;
-};
+/// Has the windows show what the books are now.
+void refreshWindows(Application& app);
 
-/// Throws HistoryRefusal for a league without a history.
-Audit auditBooks(Application& app);
-
-/// Makes what the files are now part of the history, or writes what the history gives, after a copy of the
-/// league.
-void acceptDifferences(Application& app, const Audit& audit);
-void repairDifferences(Application& app, const Audit& audit);
-
-/// Where and what differs first: "line 1, item 5 (WinPercent) is 0.7, the games give 0.5".
-std::string textOf(const Difference& difference);
+/// The content of a file, none when there is no such file; and the inverse.
+std::optional<std::string> contentIn(const FileContents& books, const std::string& path);
+std::optional<std::string> contentIn(Files& files, const std::string& path);
+void put(Files& files, const std::string& path, const std::optional<std::string>& content);
 
 } // namespace iceline

@@ -240,6 +240,10 @@ FileContents Replay::books() const {
     return books;
 }
 
+std::optional<std::string> Replay::content(const std::string& path) const {
+    return world_->files.isFile(path) ? std::optional(world_->files.read(path)) : std::nullopt;
+}
+
 const ApplicationState& Replay::state() const {
     return world_->app.state;
 }

@@ -4,6 +4,7 @@
 #include "shell/Application.h"
 
 #include <memory>
+#include <optional>
 #include <stdexcept>
 #include <string>
 
@@ -35,6 +36,9 @@ public:
 
     /// The books and the box score pages; rosters are left out.
     FileContents books() const;
+
+    /// One file of the league; none when there is no such file.
+    std::optional<std::string> content(const std::string& path) const;
 
     /// What the program holds of the league.
     const ApplicationState& state() const;

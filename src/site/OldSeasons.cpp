@@ -145,4 +145,9 @@ void writeSeasons(Files& files) {
     writeData(files, "seasons", table);
 }
 
+void renewSeasons(Files& files) {
+    if (files.isFile(paths::page(SeasonsPage)))
+        writeSeasons(files);
+}
+
 } // namespace iceline

@@ -34,4 +34,7 @@ private:
 /// Writes the page that leads to the season now and to those that are over, and the table of these.
 void writeSeasons(Files& files);
 
+/// The same on a site that has that page.
+void renewSeasons(Files& files);
+
 } // namespace iceline

@@ -1,10 +1,14 @@
 #pragma once
 
+#include "games/BookEntry.h"
 #include "games/StatExtractor.h"
+#include "history/Audit.h"
 #include "history/HistoryChanges.h"
 #include "samples/SampleGames.h"
 #include "samples/SaveStateWriter.h"
 #include "season/Options.h"
+#include "season/SeasonOperations.h"
+#include "shell/LoggedChange.h"
 #include "support/TestLeague.h"
 
 #include <gmock/gmock.h>
@@ -24,16 +28,26 @@ public:
     StatExtractor& window() { return StatExtractor::in(app()); }
 
     /// The program is left and started again.
-    void restart() { league_ = std::make_unique<TestLeague>(MemoryFiles(league_->files)); }
+    void restart() {
+        ++starts;
+        league_ = std::make_unique<TestLeague>(MemoryFiles(league_->files));
+    }
+
+    int starts = 0; ///< further ones
 
     /// Imports made-up game `number` of the schedule, or the file of that name.
     void import(int number, bool exhibition = false, const std::string& homeCoach = "") {
+        importBetween(sampleSchedule(number + 1, 1).at(static_cast<std::size_t>(number)), number, exhibition,
+                      homeCoach);
+    }
+
+    /// Imports made-up game `number` as one of two other teams.
+    void importBetween(const Pairing& teams, int number, bool exhibition = false,
+                       const std::string& homeCoach = "") {
         static const LeagueRosters rosters = builtInRosters();
-        const auto round = static_cast<std::size_t>(number);
         files().makeFolder("Games");
         const std::string path = "Games/game" + std::to_string(number) + ".gs0";
-        files().files[path] =
-            saveStateBytes(sampleGame(1, number + 1, sampleSchedule(number + 1, 1).at(round), rosters));
+        files().files[path] = saveStateBytes(sampleGame(1, number + 1, teams, rosters));
         app().windows().unload(WindowId::StatExtractor);
         window().Exhibition = exhibition;
         window().Season = !exhibition;
@@ -94,6 +108,17 @@ public:
         Options& window = options();
         window.ClearTeamSelect = team;
         window.Command8_Click();
+    }
+
+    /// What an operation makes of the books, and its line; nothing when the league has no place for it.
+    template <class Kind>
+    void perform(const Kind& operation) {
+        LoggedChange change(app());
+        if constexpr (requires { misfitOf(app(), operation); })
+            if (misfitOf(app(), operation))
+                return;
+        carryOut(app(), operation);
+        change.commit(operation);
     }
 
     /// The books and pages: everything but history and save states.

@@ -8,8 +8,10 @@ namespace {
 
 using test::errorMessage;
 using test::HistoryLeague;
+using testing::ElementsAre;
 using testing::HasSubstr;
 using testing::IsEmpty;
+using testing::StartsWith;
 
 TEST(HistoryLogTest, ADamagedLineIsNamedAndANewLogGoesOnFromTheBooks) {
     HistoryLeague league;
@@ -46,6 +48,20 @@ TEST(HistoryLogTest, AnIndexThatIsMissingIsMadeAsItWas) {
     EXPECT_EQ(again.substr(0, again.rfind("line ")), index.substr(0, index.rfind("line ")));
 }
 
+TEST(HistoryLogTest, AGameImportedAgainSinceItWasUndoneIsNotDoneAgain) {
+    HistoryLeague league;
+    league.import(0);
+    league.import(1);
+    undo(league.app(), std::nullopt);
+    undo(league.app(), std::nullopt);
+    league.import(0);
+    EXPECT_THAT([&] { redo(league.app()); },
+                testing::ThrowsMessage<HistoryRefusal>(HasSubstr("has been imported as game 1, ")));
+    undo(league.app(), std::nullopt);
+    redo(league.app());
+    EXPECT_EQ(league.files().files.at(paths::OverallGameNumber), "1\r\n");
+}
+
 TEST(HistoryLogTest, AnAuditNamesWhatWasChangedByHandAndTakesItEitherWay) {
     HistoryLeague league;
     league.import(0);
@@ -53,10 +69,15 @@ TEST(HistoryLogTest, AnAuditNamesWhatWasChangedByHandAndTakesItEitherWay) {
     const std::string asGiven = league.files().files.at(path);
     const std::string byHand = "7" + asGiven.substr(1);
     league.files().files.at(path) = byHand;
+    league.files().files.at(paths::OverallGameNumber) = "7\r\n";
     Audit audit = auditBooks(league.app());
-    ASSERT_EQ(audit.differences.size(), 1U);
-    EXPECT_EQ(textOf(audit.differences[0]),
-              path + ", line 1, item 1 (Wins): 7 stands there, the games give " + asGiven.substr(0, 1));
+    ASSERT_EQ(audit.differences.size(), 2U);
+    EXPECT_THAT(textsOf(audit.differences[0]),
+                ElementsAre(path + ", line 1, item 1 (Wins): the file has 7, the games give " + asGiven[0]));
+    EXPECT_THAT(
+        textsOf(audit.differences[1]),
+        ElementsAre(StartsWith("Overall Game Number.txt, line 1, item 1: the file has 7, the games give "
+                               "1 since game 1, ")));
 
     repairDifferences(league.app(), audit);
     EXPECT_EQ(league.files().files.at(path), asGiven);
