@@ -20,7 +20,7 @@ from canvas import write_gif, write_ico, write_png
 
 RESOURCES = Path(__file__).resolve().parent.parent
 FAVICON_SIZES = (16, 32, 48)
-TOUCH_ICON = 180
+SITE_ICONS = {"apple-touch-icon": 180, "icon-192": 192, "icon-512": 512}
 ICON_SIZES = (16, 22, 24, 32, 48, 64, 128, 256)
 WINDOWS_ICON_SIZES = (16, 24, 32, 48, 64, 256)
 LOGO, BIG_LOGO = 96, 160
@@ -77,7 +77,8 @@ def draw_site(teams, site):
         write_gif(figures.card(name), site / "PlayerCards" / f"{name}.gif")
     write_ico([icon.png(size) for size in FAVICON_SIZES], site / "favicon.ico")
     (site / "favicon.svg").write_text(icon.svg())
-    write_png(icon.png(TOUCH_ICON), site / "apple-touch-icon.png")
+    for name, size in SITE_ICONS.items():
+        write_png(icon.png(size), site / f"{name}.png")
     write_png(pictures.preview(), site / "preview.png")
     (site / "crests.css").write_text(names_of_pictures(teams))
 

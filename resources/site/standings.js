@@ -6,6 +6,7 @@
 
 {
   const PLAYOFF_PLACES = 8;
+  const CHART_HEIGHT = 360;
   const COLOURS = ['#0b6bcb', '#d7263d', '#2c8a3f', '#b8860b', '#8a4bd3', '#008b94', '#c2508f', '#6b7280', '#a0522d',
     '#4b7f00', '#3f51b5', '#e0650b'];
   const MARKS = {x: 'has a play-off place', y: 'has won the division', z: 'has won the conference'};
@@ -44,6 +45,17 @@
 
   const charted = () => getComputedStyle(document.documentElement);
 
+  /** Done when the visitor comes near the charts, and what draws them has been loaded. */
+  const chartsWanted = () => new Promise((wanted) => {
+    const load = () => {
+      near.disconnect();
+      document.head.append(make('script', {src: siteLink('uplot.js').href, onload: wanted}));
+    };
+    const near = new IntersectionObserver(([{isIntersecting}]) => isIntersecting && load(), {rootMargin: '50%'});
+    near.observe(document.getElementById('race'));
+    window.addEventListener('beforeprint', load, {once: true});
+  });
+
   let plot = null;
   function drawRace(names, games, rows) {
     const box = document.getElementById('race');
@@ -54,7 +66,7 @@
       ticks: {stroke: charted().getPropertyValue('--line')}};
     plot?.destroy();
     plot = new uPlot({
-      width: box.clientWidth, height: 360, scales: {x: {time: false}},
+      width: box.clientWidth, height: CHART_HEIGHT, scales: {x: {time: false}},
       axes: [{...axis, label: 'Games'}, {...axis, label: 'Points', size: 56}],
       series: [{label: 'Game'}, ...rows.map(({team}, i) => ({label: team, stroke: COLOURS[i % COLOURS.length], width: 2}))],
     }, [Array.from({length: longest}, (_, i) => i), ...lines], box);
@@ -92,15 +104,22 @@
     const season = games?.filter(({part}) => part === 'season') ?? [];
     document.getElementById('charts').hidden = season.length === 0;
     if (season.length > 0) {
-      const race = () => drawRace(names, season, standings.filter(({division}) => division === group.value)
-        .sort((a, b) => a.place - b.place));
-      group.onchange = race;
-      race();
-      new ResizeObserver(([{contentRect}]) => plot.setSize({width: contentRect.width, height: 360}))
-        .observe(document.getElementById('race'));
-      matchMedia('(prefers-color-scheme: dark)').onchange = race;
-      drawGoals(names, standings);
+      await drawCharts(names, season, standings);
     }
+  }
+
+  let charts = null;
+  async function drawCharts(names, season, standings) {
+    drawGoals(names, standings);
+    charts ??= chartsWanted();
+    await charts;
+    const race = () => drawRace(names, season, standings.filter(({division}) => division === group.value)
+      .sort((a, b) => a.place - b.place));
+    group.onchange = race;
+    race();
+    new ResizeObserver(([{contentRect}]) => plot.setSize({width: contentRect.width, height: CHART_HEIGHT}))
+      .observe(document.getElementById('race'));
+    matchMedia('(prefers-color-scheme: dark)').onchange = race;
   }
 
   const {searchParams} = new URL(location.href);

@@ -13,8 +13,12 @@ const telephone = {viewport: {width: 390, height: 844}, isMobile: true, deviceSc
 const PICTURES = [
   {name: 'home-page', page: 'index.htm', options: desktop(1100)},
   {name: 'home-page-dark', page: 'index.htm', options: desktop(1100, 'dark')},
-  {name: 'standings-page', page: 'DivisionStandings.htm', options: desktop(850)},
-  {name: 'leaders-page', page: 'LeagueLeaders.htm?players=0', options: desktop(760)},
+  {name: 'results-page', page: 'Results.htm?team=BOS&against=MTL', options: desktop(620)},
+  {name: 'search', page: 'Results.htm', options: desktop(560), search: 'bo'},
+  {name: 'standings-page', page: 'Standings.htm', options: desktop(850)},
+  {name: 'points-race', page: 'Standings.htm', options: desktop(640), from: '#race-title'},
+  {name: 'team-page', page: 'PStats/team.htm?team=BOS', options: desktop(980)},
+  {name: 'leaders-page', page: 'LeagueLeaders.htm?players=0&position=D&games=10&per=game', options: desktop(860)},
   {name: 'box-score-page', page: 'BoxScores/game-0002.htm', options: {viewport: {width: 1280, height: 1300}}},
   {name: 'player-page', page: 'Profiles/BOS/Gene Olynovych.htm', options: desktop(740)},
   {name: 'playoff-tree-page', page: 'PlayoffTree.htm', options: desktop(920)},
@@ -32,8 +36,16 @@ for file in sys.argv[1:]:
 const browser = await launch();
 const server = await servers.preview();
 const files = [];
-for (const {name, page, options} of PICTURES) {
+for (const {name, page, options, search, from} of PICTURES) {
   const shown = await visit(browser, server.address + page, options);
+  if (search) {
+    await shown.getByLabel('Search').fill(search);
+    await shown.locator('#found a').first().waitFor();
+  }
+  if (from) {
+    await shown.locator(from).evaluate((element) => element.scrollIntoView());
+    await shown.waitForLoadState('networkidle');
+  }
   files.push(path.join(folder, `${name}.png`));
   await shown.screenshot({path: files.at(-1)});
   await shown.close();

@@ -49,6 +49,10 @@ const PAGES = {
   'PlayoffAllTimeRecords.htm': 'Goalie Records in a Game',
 };
 
+/** What the markup of the pages that are no landing pages breaks of itself, every byte of which is fixed. */
+const FORCED = ['empty-table-header', 'html-has-lang', 'image-alt', 'landmark-one-main', 'link-name',
+  'page-has-heading-one', 'region', 'scrollable-region-focusable'];
+
 /** Pages with tables that a click on a head sorts, with some of their rows. */
 const SORTED = ['LeagueLeaders.htm?name=an', 'PlayoffLeagueLeaders.htm?name=an', 'PStats/index.php?team=BOS',
   'PlayoffPStats/team.htm?team=BOS'];
@@ -135,11 +139,11 @@ async function checkLook(page) {
     await fits(`${width} pixels wide`);
   }
   assert.deepEqual(await page.evaluate(smallTargets, 24), []);
-  if (await page.locator('main').count() > 0) {
-    await page.evaluate(axe.source);
-    const {violations} = await page.evaluate(() => globalThis.axe.run({preload: false}));
-    assert.deepEqual(violations.map(({id, nodes}) => `${id}: ${nodes[0].html}`), []);
-  }
+  const forced = await page.locator('main').count() > 0 ? [] : FORCED;
+  await page.evaluate(axe.source);
+  const {violations} = await page.evaluate(() =>
+    globalThis.axe.run({exclude: ['tr:nth-child(n + 12)']}, {preload: false}));
+  assert.deepEqual(violations.filter(({id}) => !forced.includes(id)).map(({id, nodes}) => `${id}: ${nodes[0].html}`), []);
   await turnIntoTelephone(page);
   await fits('on a telephone');
 }
@@ -342,10 +346,10 @@ function checkPages(url) {
     const points = (row) => row.locator('td').nth(7).innerText();
     const first = page.locator('#standings tbody tr').first();
     await page.locator('summary').click();
+    await page.locator('#race canvas').waitFor();
     const inRace = page.locator('#race-table tbody tr').first();
     assert.equal(await inRace.locator('td').last().innerText(), await points(first));
     assert.equal(await page.locator('#standings h2').count(), 4);
-    assert.ok(await page.locator('#race canvas').isVisible());
     assert.deepEqual(page.faults, []);
     await page.close();
   });
