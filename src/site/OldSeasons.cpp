@@ -1,9 +1,9 @@
 #include "site/OldSeasons.h"
 
 #include "files/FileTree.h"
+#include "page/DataTable.h"
 #include "page/PageFrame.h"
 #include "page/PageNames.h"
-#include "page/DataTable.h"
 #include "site/SiteSettings.h"
 #include "store/LeaguePaths.h"
 

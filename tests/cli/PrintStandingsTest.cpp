@@ -55,8 +55,7 @@ TEST_F(PrintStandings, FourViewsUnderTheirHeads) {
     EXPECT_EQ(parts.at(1).at("title"), "Adams Division");
     EXPECT_EQ(parts.at(1).at("rows").at(0), nlohmann::json::parse(R"({"Mark": "x", "Team": "Boston Bruins",
         "W": 0, "L": 0, "T": 0, "Pts.": 24, "GF": 0, "GA": 0, "GP": 0})"));
-    EXPECT_THAT(print(WindowId::Standings, Printout::Format::Json),
-                HasSubstr("\"vs. Western Conf. T\": 0"));
+    EXPECT_THAT(print(WindowId::Standings, Printout::Format::Json), HasSubstr("\"vs. Western Conf. T\": 0"));
 }
 
 TEST_F(PrintStandings, BracketLeadsWinnersToTheirPlaces) {
