@@ -1,5 +1,7 @@
 #include "app/ProgramFolder.h"
 
+#include "files/NativePath.h"
+
 #ifdef _WIN32
 #include <memory>
 #include <windows.h>
@@ -53,10 +55,8 @@ std::vector<std::string> programArguments(int, char**) {
     const std::unique_ptr<LPWSTR, decltype(&LocalFree)> words(CommandLineToArgvW(GetCommandLineW(), &count),
                                                               LocalFree);
     std::vector<std::string> arguments;
-    for (int word = 1; word < count; ++word) {
-        const std::u8string text = fs::path(words.get()[word]).u8string();
-        arguments.emplace_back(text.begin(), text.end());
-    }
+    for (int word = 1; word < count; ++word)
+        arguments.push_back(fromNative(words.get()[word]));
     return arguments;
 }
 #else

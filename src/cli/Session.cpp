@@ -1,6 +1,7 @@
 #include "cli/Session.h"
 
 #include "files/FileError.h"
+#include "files/NativePath.h"
 #include "store/LeaguePaths.h"
 
 #include <utility>
@@ -17,7 +18,7 @@ fs::path absolute(const std::string& given) {
     if (given.empty())
         throw UsageError("the path of a file or folder is empty");
     try {
-        return fs::absolute(given);
+        return fs::absolute(toNative(given));
     } catch (const fs::filesystem_error& error) {
         throw FileError::about("the current folder", error.code().message());
     }
@@ -115,7 +116,8 @@ std::filesystem::path Session::siteFolder() const {
 }
 
 std::string absolutePath(const std::string& given) {
-    return absolute(given).lexically_normal().generic_string();
+    const std::u8string path = absolute(given).lexically_normal().generic_u8string();
+    return {path.begin(), path.end()};
 }
 
 } // namespace iceline::cli

@@ -7,6 +7,7 @@
 #include "desktop/Guard.h"
 #include "desktop/Pictures.h"
 #include "desktop/QtPlatform.h"
+#include "files/NativePath.h"
 
 #include <QApplication>
 #include <QCloseEvent>
@@ -25,7 +26,7 @@ namespace {
 std::string aboutText() {
     return "Iceline Scorebook " + fromQt(QApplication::applicationVersion()) +
            "\n\nKeeps the books of a hockey league.\n\nThe licences of the program and of what is in it:\n" +
-           licencesFile().string();
+           fromNative(licencesFile());
 }
 
 } // namespace

@@ -3,6 +3,7 @@
 #include "files/DiskError.h"
 #include "files/DiskPlace.h"
 #include "files/FileError.h"
+#include "files/NativePath.h"
 #include "files/OpenFile.h"
 #include "files/Trial.h"
 #include "text/Names.h"
@@ -62,8 +63,7 @@ void appendAt(OpenFile& file, std::uintmax_t length, std::string_view content, b
 }
 
 std::string nameOf(const fs::path& path) {
-    const std::u8string name = path.filename().u8string();
-    return {name.begin(), name.end()};
+    return fromNative(path.filename());
 }
 
 bool isTemporary(const std::string& name) {
@@ -250,7 +250,7 @@ void DiskFiles::syncFolder(const fs::path& folder) {
     requireSynced(unsupported);
     if (unsupported)
         limit_ =
-            "The disk of " + folder.string() +
+            "The disk of " + fromNative(folder) +
             " cannot bring the names of files to the disk at once. After a power cut the last changes may be "
             "missing.";
 }

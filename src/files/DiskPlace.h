@@ -33,7 +33,8 @@ auto at(const std::filesystem::path& root, const std::string& path, const Task& 
             place /= toNative(path);
         return action(place);
     } catch (const std::system_error& error) {
-        throw FileError::about(path.empty() ? root.string() : path, disk::explain(task, place, error.code()));
+        throw FileError::about(path.empty() ? fromNative(root) : path,
+                               disk::explain(task, place, error.code()));
     }
 }
 

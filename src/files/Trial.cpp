@@ -131,8 +131,7 @@ void Trial::requireEmpty(const std::string& folder, const std::vector<Change>& c
         if (!fs::is_directory(place))
             return;
         for (const fs::directory_entry& entry : fs::directory_iterator(place)) {
-            const std::u8string bytes = entry.path().filename().u8string();
-            const std::string name(bytes.begin(), bytes.end());
+            const std::string name = fromNative(entry.path().filename());
             const std::string path = folder + "/" + name;
             const bool goes = std::ranges::any_of(changes, [&](const Change& change) {
                 return change.path == path &&

@@ -38,8 +38,7 @@ int lastScorer(const SaveState& save) {
 
 /// The game's page gets the file's name, which must be possible on every system that the site may go to.
 std::optional<std::string> pageNameRefusal(const std::string& path) {
-    const std::u8string name = toNative(path).filename().u8string();
-    const auto problem = namingProblem(boxScorePageName(std::string(name.begin(), name.end())));
+    const auto problem = namingProblem(boxScorePageName(fromNative(toNative(path).filename())));
     if (!problem)
         return std::nullopt;
     return path + ": the game's page would be named after this file, and the name of a page " + *problem;

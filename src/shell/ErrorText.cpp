@@ -1,5 +1,7 @@
 #include "shell/ErrorText.h"
 
+#include "files/NativePath.h"
+
 #include <filesystem>
 #include <new>
 
@@ -10,7 +12,7 @@ namespace {
 /// "<path>: <what is wrong>".
 std::string textOf(const std::filesystem::filesystem_error& error) {
     const std::string reason = error.code().message();
-    return error.path1().empty() ? reason : error.path1().string() + ": " + reason;
+    return error.path1().empty() ? reason : fromNative(error.path1()) + ": " + reason;
 }
 
 } // namespace

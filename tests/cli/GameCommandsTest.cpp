@@ -35,6 +35,7 @@ protected:
     }
 
     std::string gameNumber() const { return read("Overall Game Number.txt"); }
+    const fs::path& games() const { return games_.path(); }
     std::string folder() const { return games_.path().generic_string(); }
 
     void addCoach(const std::string& name) const {
@@ -45,6 +46,13 @@ protected:
 private:
     TemporaryFolder games_;
 };
+
+TEST_F(GameCommandsTest, AFolderMayHaveLettersBeyondAscii) {
+    const std::string name = "Spieltag \xC3\xBC";
+    EXPECT_EQ(call({"sample-games", folder() + "/" + name, "--games", "1"}).status, 0);
+    EXPECT_TRUE(fs::exists(games() / fs::path(u8"Spieltag \u00FC") / "game-0001.gs0"));
+    EXPECT_EQ(iceline({"read", folder() + "/" + name + "/game-0001.gs0"}).status, 0);
+}
 
 TEST_F(GameCommandsTest, ReadPrintsTheReportAndChangesNothing) {
     const Outcome outcome = iceline({"read", game(1)});
