@@ -9,6 +9,7 @@
 #include "desktop/SplashScreen.h"
 #include "desktop/Style.h"
 #include "desktop/WelcomeWindow.h"
+#include "desktop/WindowsLooks.h"
 #include "files/FileError.h"
 #include "shell/StopSignals.h"
 #include "store/LeaguePaths.h"
@@ -195,6 +196,9 @@ int run(int argc, char** argv) {
     QApplication::setApplicationName(QStringLiteral("iceline-scorebook"));
     QApplication::setApplicationVersion(toQt(versionText("Qt " + std::string(qVersion()))));
     QApplication::setQuitOnLastWindowClosed(false);
+#ifdef Q_OS_WIN
+    applyWindowsLooks(application);
+#endif
     applyStyle(application);
     const Arguments arguments = argumentsOf(application);
     int status = 1;
