@@ -133,7 +133,7 @@ TEST_F(CliLeagueTest, ALeagueInUseIsRefused) {
     EXPECT_THAT(call({"--version"}).out, AllOf(StartsWith("iceline 3.0.0"), HasSubstr("\nwith Boost 1.")));
 }
 
-TEST_F(CliTest, ArgumentsThatAreInvalidAreToldInOneLine) {
+TEST_F(CliLeagueTest, ArgumentsThatAreInvalidAreToldInOneLine) {
     struct Case {
         std::vector<std::string> words;
         std::string error;
@@ -150,7 +150,8 @@ TEST_F(CliTest, ArgumentsThatAreInvalidAreToldInOneLine) {
          "--games: must be a whole number from 1 to 2147483647, not \"0\""},
     };
     for (const char* command : {"read", "import", "import-folder", "script", "sample-games"})
-        cases.push_back({{command, ""}, "the path of a file or folder is empty"});
+        cases.push_back(
+            {{"--league", league().string(), command, ""}, "the path of a file or folder is empty"});
     for (const Case& each : cases) {
         const Outcome outcome = call(each.words);
         EXPECT_EQ(outcome.status, 2) << outcome.err;
