@@ -68,6 +68,10 @@ void StatExtractorWindow::importSlot(const std::string& path) {
     runAndShow([&] {
         object_.showGame(path);
         object_.IsSlot = true;
+        if (object_.lacksCoach()) {
+            object_.Exhibition = false;
+            object_.Season = true;
+        }
         object_.ImportStats_Click();
     });
 }

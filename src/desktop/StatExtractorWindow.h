@@ -23,7 +23,8 @@ public:
     /// Reads and shows the game of a save state.
     void showGame(const std::string& path);
 
-    /// Shows and imports the game of a save state that is written again and again.
+    /// Shows and imports the game of a save state that is written again and again: as a game of the season,
+    /// unless an exhibition of a coach is chosen.
     void importSlot(const std::string& path);
 
     /// What the buttons do.

@@ -1,5 +1,6 @@
 #include "app/Catalogue.h"
 #include "desktop/DesktopTest.h"
+#include "desktop/StatExtractorWindow.h"
 #include "games/StatExtractor.h"
 #include "samples/SaveStateWriter.h"
 
@@ -46,6 +47,15 @@ TEST_F(GameWindowTest, ShowsAWholeGame) {
     EXPECT_EQ(text(window, "FirstStar"), league.app.state.Star[0].Name);
     const QString scoring = control<QPlainTextEdit>(window, QStringLiteral("ScoringSummary")).toPlainText();
     EXPECT_TRUE(scoring.contains(QStringLiteral(" 1  1:00  BOS"))) << scoring.toStdString();
+}
+
+TEST_F(GameWindowTest, TakesAGameOfTheEmulatorsSlotForOneOfTheSeason) {
+    auto& window = static_cast<StatExtractorWindow&>(open(WindowId::StatExtractor));
+    league.files.files["slot.gs0"] = saveStateBytes(game());
+    window.importSlot("slot.gs0");
+    EXPECT_EQ(league.said().back(), "The game has been imported and stats have been saved.");
+    EXPECT_EQ(league.record(Boston).Wins, 1);
+    EXPECT_TRUE(control<QRadioButton>(window, QStringLiteral("Season")).isChecked());
 }
 
 TEST_F(GameWindowTest, ImportsByTheOptionAndKeepsTheCoachesApart) {
