@@ -133,8 +133,10 @@ std::optional<std::string> removeBrokenSeason(Files& files) {
     const std::string note = files.read(Note);
     const std::string name = note.substr(0, note.find_first_of("\r\n"));
     if (!name.empty() && !namingProblem(name))
-        for (const std::string& copy : copiesOf(name))
+        for (const std::string& copy : copiesOf(name)) {
             removeTree(files, copy);
+            removeWhenEmpty(files, folderOf(copy));
+        }
     files.sync();
     files.remove(Note);
     files.sync();

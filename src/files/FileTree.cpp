@@ -31,4 +31,9 @@ void removeTree(Files& files, const std::string& folder) {
     files.removeFolder(folder);
 }
 
+void removeWhenEmpty(Files& files, const std::string& folder) {
+    if (files.isFolder(folder) && files.filesIn(folder).empty() && files.foldersIn(folder).empty())
+        files.removeFolder(folder);
+}
+
 } // namespace iceline

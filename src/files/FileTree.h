@@ -14,4 +14,7 @@ std::vector<std::string> filesUnder(Files& files, const std::string& folder);
 /// Removes a folder with everything in it; nothing happens when there is none.
 void removeTree(Files& files, const std::string& folder);
 
+/// Removes a folder with nothing in it; one that holds something, or is not there, is left alone.
+void removeWhenEmpty(Files& files, const std::string& folder);
+
 } // namespace iceline

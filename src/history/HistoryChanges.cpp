@@ -3,6 +3,7 @@
 #include "coaches/Coaches.h"
 #include "copies/KeptSeason.h"
 #include "files/FileError.h"
+#include "files/FileTree.h"
 #include "games/BookEntry.h"
 #include "games/StatExtractor.h"
 #include "games/ThreeStars.h"
@@ -100,9 +101,7 @@ void writeDifferences(Files& files, const FileContents& asIs, const FileContents
 /// Coaches whom the books do not know any more lose their folders.
 void removeEmptyCoachFolders(Files& files) {
     for (const std::string& coach : coachNames(files))
-        if (files.filesIn(paths::coachFolder(coach)).empty() &&
-            files.foldersIn(paths::coachFolder(coach)).empty())
-            files.removeFolder(paths::coachFolder(coach));
+        removeWhenEmpty(files, paths::coachFolder(coach));
 }
 
 /// The copies of a season go with the operation that began the next one.

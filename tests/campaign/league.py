@@ -10,8 +10,8 @@ LOCK = "League in use.lock"
 NUMBER = "Overall Game Number.txt"
 SITE = "IcelineWebPages"
 TEMPORARY = ".new~"
-LOG, INDEX = "History/Log.jsonl", "History/Index.txt"
-IN_EVERY_HISTORY = {"what", "game", "part", "saveState", "sheet", "coach", "to", "length", "team"}
+LOG, INDEX, COPIES = "History/Log.jsonl", "History/Index.txt", "History/Backups"
+IN_EVERY_HISTORY = {"what", "game", "part", "saveState", "sheet", "coach", "to", "length", "team", "name"}
 
 State = dict[str, bytes | None]  # by path: a file's content, None for a folder
 
@@ -29,10 +29,20 @@ def tidied(state: State) -> State:
     return {path: content for path, content in state.items() if path != LOCK and not path.endswith(TEMPORARY)}
 
 
+def is_copy(path: str, content: bytes | None) -> bool:
+    """Whether it is a whole copy of the league, which is there or not whatever becomes of the operation after it."""
+    if path.startswith(COPIES + "/") and content is not None:
+        try:
+            json.loads(content)
+        except ValueError:
+            return False
+    return path.startswith(COPIES)
+
+
 def settled(state: State, pages: bool = True) -> State:
     """What the league is, to be compared; pages on demand. Whether its history is true, `iceline audit` tells."""
     kept = {path: content for path, content in tidied(state).items()
-            if path != INDEX and (pages or not path.startswith(SITE))}
+            if path != INDEX and (pages or not path.startswith(SITE)) and not is_copy(path, content)}
     if LOG in kept:
         kept[LOG] = operations_of(kept[LOG])
     return kept

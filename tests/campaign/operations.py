@@ -129,6 +129,7 @@ class Workshop:
             self.operation("redo", self.league_after(two, ["undo", first]), ["redo"], success="Done again"),
             self.operation("correct", two, ["correct", second, "--home-coach", "Bo", "--away-coach", "none"],
                            success="Corrected"),
+            self.operation("new-season", light, ["new-season", "First"], success="is kept as First", pages=False, every=10),
             self.operation("publish", light, ["publish"], pages=False, every=10),
             self.operation("init", {}, ["--yes", "init"], [[], [["init"]]]),
             self.operation("recover", left, ["recover"], [[], []]),
