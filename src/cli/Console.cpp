@@ -78,6 +78,7 @@ bool awaitPager(std::FILE* pager) {
 constexpr const char* SystemPager = "less -FRX";
 
 std::FILE* startPager(const std::string& command) {
+    std::signal(SIGPIPE, SIG_IGN); // a pager that ends early leaves the rest
     return popen(command.c_str(), "w");
 }
 
@@ -96,7 +97,7 @@ bool showBy(const std::string& command, const std::string& text) {
     if (!pager)
         return false;
     const auto former = std::signal(SIGINT, SIG_IGN); // the pager's own key
-    std::fwrite(text.data(), 1, text.size(), pager);  // who has read enough leaves the rest
+    std::fwrite(text.data(), 1, text.size(), pager);
     const bool shown = awaitPager(pager);
     std::signal(SIGINT, former);
     return shown;

@@ -102,7 +102,7 @@ GameReport StatExtractor::reportGame() {
 
 /// The name of the save state, with the game's number before its ending where the name is taken.
 std::string StatExtractor::nameInBooks() {
-    const std::string name = fileNameOf(app_.state.SaveStatePath);
+    std::string name = fileNameOf(app_.state.SaveStatePath);
     if (!IsSlot || !app_.files().isFile(paths::page("BoxScores/" + boxScorePageName(name))))
         return name;
     const std::string number = std::to_string(readNumber32(app_.files(), paths::OverallGameNumber));
