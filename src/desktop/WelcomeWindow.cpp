@@ -75,11 +75,11 @@ void WelcomeWindow::makeMenus() {
     layout()->setMenuBar(menus_);
     QMenu& file = *menus_->addMenu(QStringLiteral("&File"));
     menus_->add(file, QStringLiteral("&Select Game..."), QStringLiteral("Ctrl+O"),
-                [this] { gameWindow().selectGame(); });
+                [this] { inGameWindow(&StatExtractorWindow::selectGame); });
     menus_->add(file, QStringLiteral("&Import Game"), QStringLiteral("Ctrl+I"),
-                [this] { gameWindow().importGame(); });
+                [this] { inGameWindow(&StatExtractorWindow::importGame); });
     menus_->add(file, QStringLiteral("Import &Folder..."), QStringLiteral("Ctrl+Shift+O"),
-                [this] { gameWindow().importFolder(); });
+                [this] { inGameWindow(&StatExtractorWindow::importFolder); });
     menus_->add(file, QStringLiteral("&Watch Folder..."), {}, [this] { watch_->chooseFolder(); });
     file.addSeparator();
     menus_->add(file, QStringLiteral("&Quit"), QStringLiteral("Ctrl+Q"), [this] { close(); });
@@ -119,6 +119,15 @@ void WelcomeWindow::addWindowsTo(QMenu& menu) {
 StatExtractorWindow& WelcomeWindow::gameWindow() {
     windows_.open(WindowId::StatExtractor);
     return static_cast<StatExtractorWindow&>(*windows_.window(WindowId::StatExtractor));
+}
+
+/// A file dialog that closes gives the window back that it was opened from, so the game window is raised
+/// after it.
+void WelcomeWindow::inGameWindow(void (StatExtractorWindow::*action)()) {
+    StatExtractorWindow& window = gameWindow();
+    (window.*action)();
+    window.raise();
+    window.activateWindow();
 }
 
 void WelcomeWindow::importGame(const std::string& path) {

@@ -49,6 +49,7 @@ private:
 
     /// The game window, opened or brought to the front.
     StatExtractorWindow& gameWindow();
+    void inGameWindow(void (StatExtractorWindow::*action)());
 
     /// By the choices that the game window has.
     void importGame(const std::string& path);
