@@ -137,4 +137,11 @@ std::vector<std::string> MemoryFiles::foldersIn(const std::string& folder) {
     return namesIn(folders, folder);
 }
 
+void MemoryFiles::copyTo(Files& target) const {
+    for (const std::string& folder : folders)
+        target.makeFolder(folder);
+    for (const auto& [path, content] : files)
+        target.write(path, content, Durability::Unsynced);
+}
+
 } // namespace iceline::test

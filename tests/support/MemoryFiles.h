@@ -27,6 +27,9 @@ public:
     std::vector<std::string> foldersIn(const std::string& folder) override;
     void sync() override {}
 
+    /// Makes the folders and files in `target`.
+    void copyTo(Files& target) const;
+
     std::map<std::string, std::string> files; ///< path to content
     std::set<std::string> folders;
     int reads = 0;  ///< calls of read() and readFirst()
