@@ -217,6 +217,13 @@ void refuseCountingTwice(const std::vector<Step>& steps, int number) {
                 titleOf(*step) + ".");
 }
 
+/// A game put in the place of another would count twice when it is in the books by itself, too.
+void refuseGameOfAnother(const std::vector<Step>& steps, int number, const GameImported& game) {
+    for (const Step* step : gamesInBooks(steps))
+        if (step->entry.number != number && gameAt(*step)->fingerprint == game.fingerprint)
+            throw HistoryRefusal("The game of this file is in the books as " + titleOf(*step) + ".");
+}
+
 } // namespace
 
 std::string undo(Application& app, std::optional<int> number) {
@@ -251,11 +258,15 @@ std::string correct(Application& app, int number, const Correction& correction) 
                              " of the history is no game in the books.");
     GameCorrected corrected{number, *game};
     corrected.game.gameNumber = step.gameNumber;
-    if (correction.file)
+    if (correction.file) {
         replaceGame(app, corrected.game, *correction.file);
+        refuseGameOfAnother(steps, number, corrected.game);
+    }
     applyTo(corrected.game, correction);
     apply(app, corrected);
-    return "Corrected: " + titleOf({step.entry, false, true, step.gameNumber}) + ".";
+    Entry now = step.entry;
+    now.operation = corrected.game;
+    return "Corrected: " + titleOf({now, false, true, step.gameNumber}) + ".";
 }
 
 } // namespace iceline

@@ -51,6 +51,9 @@ TEST_F(HistoryCommandsTest, AnEveningIsMended) {
     const Outcome refused = iceline({"undo", "2"});
     EXPECT_EQ(refused.status, 1);
     EXPECT_THAT(refused.out, StartsWith("This cannot be done, because game 2, "));
+    const Outcome another = iceline({"correct", "3", "--file", game(1)});
+    EXPECT_EQ(another.status, 1);
+    EXPECT_THAT(another.out, StartsWith("The game of this file is in the books as game 1, "));
     EXPECT_EQ(iceline({"undo", "1"}).status, 0);
     EXPECT_EQ(iceline({"correct", "3", "--home-coach", "none"}).status, 0);
     EXPECT_THAT(iceline({"audit"}).out, StartsWith("0 of "));
