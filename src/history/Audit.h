@@ -30,7 +30,7 @@ struct Difference {
     std::vector<FieldDifference> fields; ///< when there is one and should be one
 };
 
-/// The books worked out anew from the history, and how the league's files differ from them.
+/// The books as they follow from the history, and how the league's files differ from them.
 struct Audit {
     std::size_t files = 0; ///< compared
     std::vector<Difference> differences;
